@@ -174,6 +174,9 @@ public:
     virtual HRESULT GetAllAttributeBlockList(ZELListPtrIUnknown* blocks) = 0;
     virtual HRESULT RegisterBlockByName(OXMIDicAttributeBlock* block, const ZELString* name) = 0;
 
+    /// The class's own derivability, 1 when it inherits. \returns S_OK; S_FALSE when it inherits.
+    virtual HRESULT GetClassKVADerivable(int* derivable) = 0;
+
 protected:
     ~OXMIDicClass() = default;
 };

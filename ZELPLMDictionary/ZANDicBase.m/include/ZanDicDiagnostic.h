@@ -1,0 +1,114 @@
+/// The faults that reading documents finds, as values, for programs that want all of them, or want
+/// more of them than a line of text.
+#ifndef ZAN_DIC_DIAGNOSTIC_H
+#define ZAN_DIC_DIAGNOSTIC_H
+
+#include <cstdint>
+#include <string_view>
+
+#include "ZanDicExport.h"
+
+/// How grave a fault is: an error makes the load fail, a warning does not.
+enum class ZanDicSeverity : std::uint8_t { Warning, Error };
+
+/// What is wrong. The words that belong to a code are those of `ZanDicDiagnosticName`.
+enum class ZanDicDiagnosticCode : std::uint8_t {
+    // the document as a whole
+    FileNotFound,
+    InvalidFileExtension,
+    InvalidPackageName,
+    DocumentNotReadable,  ///< unreadable file, or not well-formed XML
+    NoPackageTag,
+    PackageNameDiffers,
+    InvalidDomain,
+    PrerequisiteFailed,
+    PackageNotCreated,
+    PackageInUseRing,
+    TuningFailed,
+    // tags and attributes
+    MissingAttribute,
+    InvalidValue,
+    InvalidNumber,
+    UnknownWord,
+    UnknownAttribute,
+    UnknownTag,
+    DeprecatedTag,
+    UnsupportedTag,
+    UnsupportedAttribute,
+    // elements
+    NotCreated,
+    DuplicateName,
+    DuplicateUuid,
+    // references
+    ReferenceNotFound,
+    ReferenceOfWrongKind,
+    CrossDomainReference,
+    ReferenceRefused,
+    InvalidRedefinition,
+};
+
+/// \returns the stable word of a code, such as "duplicate-uuid"; static storage.
+ZANDICBASE_API std::string_view ZanDicDiagnosticName(ZanDicDiagnosticCode code);
+
+/// A place in a document: line and column count from 1, the column in characters. Both 0: no place.
+struct ZanDicPlace {
+    int line = 0;
+    int column = 0;
+};
+
+/// One fault, valid during the call that reports it. Texts are empty where they do not apply.
+class ZANDICBASE_API ZanDicDiagnostic {
+public:
+    virtual ZanDicSeverity Severity() const = 0;
+    virtual ZanDicDiagnosticCode Code() const = 0;
+
+    /// The document's file name as it was opened, or the name asked for when there is no file.
+    virtual std::string_view File() const = 0;
+
+    /// The package that was being read.
+    virtual std::string_view Package() const = 0;
+
+    /// The element concerned as its author wrote it: tag, name and, for a member, "Class::member".
+    virtual std::string_view Tag() const = 0;
+    virtual std::string_view Element() const = 0;
+
+    /// The attribute of the tag, and its value.
+    virtual std::string_view Attribute() const = 0;
+    virtual std::string_view Value() const = 0;
+
+    /// What is wrong, in one plain sentence without place, for people.
+    virtual std::string_view Reason() const = 0;
+
+    /// The other party, such as "Package::Class" of the owner of a UUID.
+    virtual std::string_view OtherParty() const = 0;
+
+    /// The trace line, or lines separated by newlines, that the same fault writes.
+    virtual std::string_view TraceText() const = 0;
+
+    /// Whether the trace settings let that text through.
+    virtual bool Traced() const = 0;
+
+    /// Worked out when asked for, which costs a walk over the document.
+    virtual ZanDicPlace Place() const = 0;
+
+protected:
+    ~ZanDicDiagnostic() = default;
+};
+
+/// Is told each fault once, whatever the trace level, in the order in which the reader finds them.
+class ZANDICBASE_API ZanDicDiagnosticObserver {
+public:
+    /// \returns whether to go on after an error: a faulty attribute then counts as absent and a faulty
+    /// element as left out; the load fails at its end all the same and leaves nothing behind. The
+    /// answer to a warning does not matter. Must not call the dictionary.
+    virtual bool OnDiagnostic(const ZanDicDiagnostic& diagnostic) = 0;
+
+protected:
+    ~ZanDicDiagnosticObserver() = default;
+};
+
+/// Sets the observer; it must live until it is replaced. Null, the default, is none: the reader then
+/// stops at its first error. \returns the observer before.
+ZANDICBASE_API ZanDicDiagnosticObserver* ZanDicSetDiagnosticObserver(ZanDicDiagnosticObserver* observer);
+
+#endif

@@ -1,0 +1,157 @@
+#ifndef ZAN_DIC_OBJ_H
+#define ZAN_DIC_OBJ_H
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "OXMDicTypes.h"
+#include "OXMIDicIdentifiers.h"
+#include "ZELBaseUnknown.h"
+#include "ZELDbBinary.h"
+#include "ZELListPtr.h"
+#include "ZELListVal.h"
+#include "ZELString.h"
+#include "ZELUnicodeString.h"
+#include "ZanDicExport.h"
+
+class ZanHashList;
+
+/// What an object holds only when it was set: kept apart, so that the many objects without pay one word.
+/// Kinds with rare fields of their own derive from it.
+struct ZANDICBASE_API ZanDicRareFields {
+    ZanDicRareFields();
+    virtual ~ZanDicRareFields();
+    ZanDicRareFields(const ZanDicRareFields&);
+    ZanDicRareFields& operator=(const ZanDicRareFields&) = delete;
+    /// \returns a copy for a copied object: categories shared, links to others as they are.
+    virtual std::unique_ptr<ZanDicRareFields> Copy() const;
+
+    ZELListValZELUnicodeString otherNames;
+    ZELListValZELUnicodeString otherValues;   ///< same index as the names
+    std::shared_ptr<ZanHashList> categories;  ///< links; shared by copies, freed with the last holder
+    ZELUnicodeString alias;                   ///< of elements and packages
+    ZELUnicodeString expositionLevel;
+};
+
+/// Base of every object of the dictionary: name, 16-byte UUID, type code, free attributes, categories.
+///
+/// Counted: born with one reference, the creator's. Registered with the manager by UUID at most once;
+/// an object that is destroyed takes itself out. Callers of the dictionary hold interfaces
+/// (`QueryInterface`), never the object. One thread.
+class ZANDICBASE_API ZanDicObj : public ZELBaseUnknown {
+public:
+    /// Which class implements an object, as opposed to what kind of element it is.
+    enum _type : int {
+        _type_Attribute = 1,
+        _type_Class = 2,
+        _type_Command = 4,
+        _type_CommandParameter = 5,
+        _type_Element = 6,
+        _type_Enum = 7,
+        _type_Enumerator = 8,
+        _type_Method = 9,
+        _type_Package = 10,
+        _type_Parameter = 12,
+        _type_Primitive = 13,
+        _type_Unique = 14,
+        _type_AttributeBlock = 15,
+    };
+
+    /// Name "UNDEFINED", no UUID, type -1.
+    ZanDicObj();
+    /// Copies both; the concrete class sets the type.
+    ZanDicObj(const ZELString& name, const ZELDbBinary& uuid);
+    /// Copies the fields and shares the categories; neither count, adapters, registration nor links to
+    /// \p other. Assignment to a registered object registers it under the new UUID.
+    ZanDicObj(const ZanDicObj& other);
+    ZanDicObj& operator=(const ZanDicObj& other);
+    ~ZanDicObj() override;
+
+    static ZELMetaClass& ClassMeta();
+    static const char* ClassName() { return ClassMeta().Name(); }
+    ZELMetaClass& MetaObject() const override { return ClassMeta(); }
+    HRESULT QueryInterface(const ZELInterfaceId& id, void** out) override;
+
+    /// Identity, as `OXMIDicElementH`. \returns S_OK, but for SetUuid: E_FAIL in every case.
+    HRESULT GetName(ZELString* name) const;
+    HRESULT SetName(const ZELString* name);
+    HRESULT GetUuid(ZELDbBinary* uuid) const;
+    virtual HRESULT SetUuid(const ZELDbBinary* uuid);
+    virtual HRESULT GenUuid();
+    HRESULT GetType(OXMDicTYPE* type) const;
+    OXMDicTYPE Type() const { return _Type; }
+    HRESULT set_TYPE(OXMDicTYPE type);
+    const ZELString& Name() const { return _Name; }
+    const ZELDbBinary& Uuid() const { return _Uuid; }
+
+    /// Free attributes, as `OXMIDicElementH`.
+    HRESULT SetOtherAttribute(const ZELUnicodeString& name, const ZELUnicodeString& value);
+    HRESULT GetOtherAttribute(const ZELUnicodeString& name, ZELUnicodeString& value) const;
+    HRESULT GetAllOtherAttributes(ZELListValZELUnicodeString& names,
+                                  ZELListValZELUnicodeString& values) const;
+
+    /// Categories, as `OXMIDicElementH`.
+    HRESULT AddCategory(const OXMIDicCategory* category);
+    HRESULT RemoveCategory(const OXMIDicCategory* category);
+    HRESULT IsCategory(const ZELString* name, unsigned char* isCategory) const;
+    HRESULT GetCategories(ZELListPtrIUnknown* categories) const;
+
+    /// \returns E_FAIL: not available yet.
+    virtual HRESULT GetLostLinks(int* count) const;
+
+    /// Hands out the interface that belongs to a type code; a code below 1 means the object's own.
+    /// \param[out] out carries one reference. \returns the query's result; E_FAIL, after a warning line,
+    /// for a code without interface.
+    HRESULT bind_Interface(OXMDicTYPE type, void** out) const;
+
+    /// The class kind of the implementing class.
+    virtual _type get_type() const;
+
+    /// Writes four lines that identify the object.
+    virtual void Dump(const char* caller) const;
+
+    /// The package that the object reports in messages: its name, or "?" when there is none.
+    virtual ZELString get_PackageName() const;
+
+    // What follows is for the library itself.
+
+    /// Whether the object was taken out of the dictionary for good.
+    bool is_Gone() const { return _Gone; }
+    /// Makes links to this object read null, and drops its own links and package (`drop_Links`).
+    void mark_Gone();
+    bool is_Registered() const { return _Registered; }
+    void set_Registered(bool registered) { _Registered = registered; }
+    /// Moves the references that this object owns, those on private lists included, to the end of
+    /// \p owned; its own lists are empty after that. Writes nothing.
+    virtual void take_Owned(std::vector<ZanDicObj*>& owned);
+
+protected:
+    /// Drops every link that this object holds to others; run when it goes.
+    virtual void drop_Links();
+    /// Makes the rare fields of this kind.
+    virtual std::unique_ptr<ZanDicRareFields> new_RareFields() const;
+    ZanDicRareFields* rare() const { return _Rare.get(); }
+    /// The rare fields, made on first use.
+    ZanDicRareFields& make_Rare();
+
+private:
+    friend class ZanDicLinkBase;
+
+    OXMDicTYPE _Type = static_cast<OXMDicTYPE>(-1);
+    ZELString _Name;
+    std::unique_ptr<ZanDicRareFields> _Rare;
+    std::uint32_t _LinkPlace = 0;  ///< where links find this object; 0 until it is first linked
+    ZELDbBinary _Uuid;
+    bool _Registered = false;
+    bool _Gone = false;
+};
+
+/// Hash and compare functions of the collections that key objects by name or by UUID.
+/// A null object hashes to 0; of two nulls the comparison is 0, of one it is -1 or 1.
+ZANDICBASE_API std::uint32_t HashNameZanDicObj(ZanDicObj* object);
+ZANDICBASE_API std::uint32_t HashUuidZanDicObj(ZanDicObj* object);
+ZANDICBASE_API int CompareNameZanDicObj(ZanDicObj* first, ZanDicObj* second);
+ZANDICBASE_API int CompareUuidZanDicObj(ZanDicObj* first, ZanDicObj* second);
+
+#endif

@@ -1,0 +1,60 @@
+#ifndef ZAN_DIC_REGISTRY_H
+#define ZAN_DIC_REGISTRY_H
+
+#include "ZELDbBinary.h"
+#include "ZELListPtr.h"
+#include "ZELResult.h"
+
+class ZanDicAttribute;
+class ZanDicClass;
+class ZanDicObj;
+class ZanDictionary;
+
+/// What objects know of the manager: the registry that they enter and leave, and the index of the
+/// injective relationships that point at a class. The manager implements it.
+class ZanDicRegistry {
+public:
+    /// Registers \p object by its UUID; takes no reference. \returns S_OK; E_FAIL when \p object is
+    /// null or its UUID is registered already, the latter after two error lines.
+    virtual HRESULT Insert(ZanDicObj* object) = 0;
+
+    /// Takes \p object out when the registered object is that very one. \returns S_OK; E_FAIL.
+    virtual HRESULT Delete(ZanDicObj* object) = 0;
+
+    /// \param[out] object the registered one, or null. \returns S_OK; E_FAIL when there is none.
+    virtual HRESULT search_Obj(const ZELDbBinary* uuid, ZanDicObj** object) = 0;
+
+    /// Takes a dying object out without a word.
+    virtual void forget_Obj(ZanDicObj& object) noexcept = 0;
+
+    /// Whether a change of the object's UUID concerns the registry: not for the manager itself and for
+    /// primitives, which are never in it.
+    virtual bool keeps_Obj(const ZanDicObj& object) const = 0;
+
+    /// Notes an injective attribute among those that point at the class of that UUID. \returns S_OK.
+    virtual HRESULT AddClassToRelation(const ZELDbBinary* classUuid, ZanDicAttribute* attribute) = 0;
+
+    /// Appends the interfaces of the attributes noted for a class. \returns S_OK; the first failure.
+    virtual HRESULT get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) = 0;
+
+protected:
+    ~ZanDicRegistry() = default;
+};
+
+/// The manager as the holder keeps it; the manager's room supplies the factory when the library loads.
+struct ZanDicManagerParts {
+    ZanDicObj* object = nullptr;  ///< one reference, the holder's
+    ZanDictionary* dictionary = nullptr;
+    ZanDicRegistry* registry = nullptr;
+};
+using ZanDicManagerFactory = ZanDicManagerParts (*)();
+void ZanDicSetManagerFactory(ZanDicManagerFactory factory);
+
+/// The registry, made with the manager on the first request; null only when the manager cannot be made
+/// or is gone already (the end of the process).
+ZanDicRegistry* ZanDicGetRegistry();
+
+/// As above, but makes no manager.
+ZanDicRegistry* ZanDicFindRegistry() noexcept;
+
+#endif
