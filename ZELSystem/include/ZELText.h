@@ -1,0 +1,64 @@
+#ifndef ZELTEXT_H
+#define ZELTEXT_H
+
+#include <cstdint>
+#include <string_view>
+
+#include "ZELExport.h"
+
+/// Counted text that strings share: what ZELString and ZELUnicodeString point to.
+///
+/// Never changed once made; the characters and a closing zero follow the block. Hash key and number of
+/// characters are worked out when first asked for and kept. Counts are not atomic: one thread.
+class ZELSYSTEM_API ZELText {
+public:
+    /// Makes a block for \p text with a count of 1, the caller's. Throws std::bad_alloc or std::length_error.
+    static ZELText* Create(std::string_view text) { return Create(text, {}); }
+
+    /// Same for \p head followed by \p tail.
+    static ZELText* Create(std::string_view head, std::string_view tail);
+
+    /// \returns the block of the empty text, with one reference more; it is not allocated and never freed.
+    static ZELText* CreateEmpty() noexcept;
+
+    ZELText* AddRef() noexcept {
+        ++_Count;
+        return this;
+    }
+    void Release() noexcept {
+        if (--_Count == 0) free_Itself();
+    }
+
+    const char* Characters() const noexcept { return reinterpret_cast<const char*>(this + 1); }
+    std::uint32_t Length() const noexcept { return _Length; }
+    std::string_view View() const noexcept { return {Characters(), _Length}; }
+
+    /// \returns the hash key of the text.
+    std::uint32_t HashKey() const noexcept { return _HashKey != 0 ? _HashKey : compute_HashKey(); }
+
+    /// \returns how many characters the text has, taken as UTF-8.
+    std::uint32_t CharacterCount() const noexcept {
+        return _CharacterCount != kUnknown ? _CharacterCount : compute_CharacterCount();
+    }
+
+private:
+    friend struct ZELEmptyText;
+    static constexpr std::uint32_t kUnknown = 0xFFFFFFFFU;
+
+    constexpr ZELText(std::uint32_t length, std::uint32_t characterCount) noexcept
+        : _Length(length), _CharacterCount(characterCount) {}
+
+    std::uint32_t compute_HashKey() const noexcept;
+    std::uint32_t compute_CharacterCount() const noexcept;
+    void free_Itself() noexcept;
+
+    std::uint32_t _Count = 1;
+    std::uint32_t _Length;                   ///< bytes, without the closing zero
+    mutable std::uint32_t _HashKey = 0;      ///< 0 until asked for
+    mutable std::uint32_t _CharacterCount;   ///< kUnknown until asked for
+};
+
+/// \returns the order of two texts by their bytes: negative, 0 or positive.
+inline int ZELCompareText(std::string_view a, std::string_view b) noexcept { return a.compare(b); }
+
+#endif

@@ -1,0 +1,95 @@
+#ifndef ZELTIE_H
+#define ZELTIE_H
+
+#include <cstdint>
+
+#include "ZELBaseUnknown.h"
+#include "ZELExport.h"
+#include "ZELMetaClass.h"
+#include "ZELPool.h"
+
+/// What every adapter has beside its interface: the object, the count of callers, the chain.
+///
+/// A bound adapter is in its object's chain, alone for its interface, and holds one reference on the object.
+/// One thread.
+class ZELSYSTEM_API ZELTieLink {
+public:
+    ZELTieLink(const ZELTieLink&) = delete;
+    ZELTieLink& operator=(const ZELTieLink&) = delete;
+
+    /// \returns the object that the adapter stands for.
+    ZELBaseUnknown& Object() const noexcept { return *_Object; }
+
+    /// Ties the new adapter to \p object and takes its reference. Called once, by the row that makes it.
+    void bind_Object(ZELBaseUnknown& object) noexcept {
+        _Object = &object;
+        object.AddRef();
+    }
+
+protected:
+    ZELTieLink() noexcept = default;
+    ~ZELTieLink() = default;
+
+    std::uint32_t add_Caller() noexcept { return ++_Count; }
+    std::uint32_t drop_Caller() noexcept { return --_Count; }
+
+    /// Takes the adapter out of its object's chain. \returns the object, whose reference is now the caller's.
+    ZELBaseUnknown* unlink_Object() noexcept;
+
+private:
+    friend class ZELBaseUnknown;
+
+    ZELBaseUnknown* _Object = nullptr;  ///< one reference held
+    ZELTieLink* _Next = nullptr;        ///< the object's next adapter
+    std::uint32_t _Count = 1;
+    std::uint32_t _Tag = 0;  ///< of the row that made it
+};
+
+/// Adapter of \p Interface for objects of class \p Impl: counts, queries and chain.
+///
+/// Layers on top, one per interface of the chain, forward the interface's own operations to impl():
+/// `template <class Impl, class Base> class XLayer : public Base { HRESULT Op() override { return this->impl().Op(); } };`
+/// The last Release unlinks the adapter, frees it and then gives back its reference on the object.
+template <class Interface, class Impl>
+class ZELSYSTEM_API ZELTie : public Interface, public ZELTieLink, public ZELPooled {
+public:
+    using InterfaceType = Interface;
+    using ImplType = Impl;
+
+    ZELTie() noexcept = default;
+    virtual ~ZELTie() = default;
+
+    HRESULT QueryInterface(const ZELInterfaceId& id, void** out) override {
+        return Object().QueryInterface(id, out);
+    }
+
+    std::uint32_t AddRef() override { return add_Caller(); }
+
+    std::uint32_t Release() override {
+        const std::uint32_t count = drop_Caller();
+        if (count == 0) {
+            ZELBaseUnknown* const object = unlink_Object();
+            delete this;
+            object->Release();
+        }
+        return count;
+    }
+
+    /// \returns the implementing object.
+    Impl& impl() const noexcept { return static_cast<Impl&>(Object()); }
+};
+
+/// \returns the row by which a class answers the interface of \p T, a ZELTie with all its layers.
+template <class T>
+constexpr ZELTieRow ZELMakeTieRow() {
+    using Interface = typename T::InterfaceType;
+    return {Interface::ClassId(),
+            [](ZELBaseUnknown& object) -> ZELTieLink* {
+                T* const tie = new T;
+                tie->bind_Object(object);
+                return tie;
+            },
+            [](ZELTieLink& link) -> void* { return static_cast<Interface*>(static_cast<T*>(&link)); }};
+}
+
+#endif
