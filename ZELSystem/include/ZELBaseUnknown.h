@@ -44,7 +44,7 @@ public:
     /// \param[out] out written on success only: the interface, with one reference that the caller owns.
     /// \returns S_OK; E_NOINTERFACE when neither the class nor a base has a row for \p id; E_INVALIDARG
     ///          when \p out is null; E_FAIL when memory is short.
-    HRESULT QueryInterface(const ZELInterfaceId& id, void** out) noexcept;
+    virtual HRESULT QueryInterface(const ZELInterfaceId& id, void** out) noexcept;
 
     /// \returns the metadata of the object's class. Each component class overrides it.
     virtual ZELMetaClass& MetaObject() const;

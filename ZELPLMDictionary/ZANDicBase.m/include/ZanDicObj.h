@@ -71,7 +71,7 @@ public:
     static ZELMetaClass& ClassMeta();
     static const char* ClassName() { return ClassMeta().Name(); }
     ZELMetaClass& MetaObject() const override { return ClassMeta(); }
-    HRESULT QueryInterface(const ZELInterfaceId& id, void** out) override;
+    HRESULT QueryInterface(const ZELInterfaceId& id, void** out) noexcept override;
 
     /// Identity, as `OXMIDicElementH`. \returns S_OK, but for SetUuid: E_FAIL in every case.
     HRESULT GetName(ZELString* name) const;
