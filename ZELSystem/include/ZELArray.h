@@ -14,9 +14,8 @@
 /// Growable array of one word, null when it never had an element: what the lists keep their values in.
 ///
 /// Indexes are 0-based. Adding at the end is amortised constant; inserting and erasing elsewhere moves what
-/// follows. Adding may move all elements, so no pointer into the array outlives it. Every operation that needs
-/// memory throws std::bad_alloc when it is short, and then leaves the array as it was.
-/// One thread.
+/// follows. Adding may move all elements, so no pointer into the array outlives it. Every operation that
+/// needs memory throws std::bad_alloc when it is short, and then leaves the array as it was. One thread.
 template <class T>
 class ZELSYSTEM_API ZELArray {
 public:

@@ -33,11 +33,11 @@ private:
     std::size_t _Size = 0;
 };
 
-/// Reads the regular file \p path, symbolic links followed, whole and in one block. A backslash before the last
-/// part separates directories. A file that grows or shrinks meanwhile gives what there was when it was read.
-/// \param[out] content written on success only.
-/// \param[out] reason when not null: why not, in a few words without the path; written on failure only.
-/// \returns S_OK; E_FAIL when there is no such file, it is not regular (it is not opened then), cannot be
+/// Reads the regular file \p path, symbolic links followed, whole and in one block. A backslash before the
+/// last part separates directories. A file that grows or shrinks meanwhile gives what there was when it was
+/// read. \param[out] content written on success only. \param[out] reason when not null: why not, in a few
+/// words without the path; written on failure only. \returns S_OK; E_FAIL when there is no such file, it is
+/// not regular (it is not opened then), cannot be
 ///          read or is larger than memory.
 ZELSYSTEM_API HRESULT ZELReadFile(const char* path, ZELFileContent& content, std::string* reason = nullptr);
 

@@ -2,7 +2,6 @@
 #define ZELHASH_H
 
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
 #include "ZELExport.h"
@@ -10,8 +9,24 @@
 /// Hash keys of texts and bytes. All depend on a seed drawn once per process, so that no document can
 /// choose names or identifiers that collide; within a process they are stable. One thread.
 
+/// The process's seed and what is derived from it; ZELHashSeed reads it.
+struct ZELSYSTEM_API ZELHashState {
+    std::uint64_t first;
+    std::uint64_t second;
+    std::uint32_t seed;
+    bool drawn;
+};
+extern ZELSYSTEM_API ZELHashState zelHashState;
+
+/// Draws the seed from the system's source of random numbers. Called by ZELHashSeed, once.
+ZELSYSTEM_API void ZELDrawHashSeed() noexcept;
+
 /// \returns the process's seed; draws it at the first call.
-ZELSYSTEM_API std::uint32_t ZELHashSeed() noexcept;
+inline std::uint32_t ZELHashSeed() noexcept {
+    if (!zelHashState.drawn) [[unlikely]]
+        ZELDrawHashSeed();
+    return zelHashState.seed;
+}
 
 /// Sets the seed, so that a test sees the same keys in every run. Only before the first key is made:
 /// keys made earlier no longer match.

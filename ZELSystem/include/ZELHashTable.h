@@ -17,14 +17,13 @@ struct ZELSYSTEM_API ZELHashIterator {
 
 /// Set of objects found by a caller's 32-bit key and comparison. It does not own them.
 ///
-/// The key of an object is asked for once, when it is inserted, and kept beside the pointer: what changes in the
-/// object later does not move it, and no comparison is made between objects whose keys differ. Open
-/// addressing: a bucket holds one object, at position 1. Keys are mixed with the process's seed, so the order of
-/// iteration is the table's own business, differs between processes and says nothing of insertion.
-/// Insert, Locate and Remove are constant on average, growth amortised; an empty table has no memory.
-/// Inserting moves objects between buckets; removing may do so.
-/// Insert, Reserve and copying throw std::bad_alloc when memory is short, and then change nothing.
-/// One thread.
+/// The key of an object is asked for once, when it is inserted, and kept beside the pointer: what changes in
+/// the object later does not move it, and no comparison is made between objects whose keys differ. Open
+/// addressing: a bucket holds one object, at position 1. Keys are mixed with the process's seed, so the order
+/// of iteration is the table's own business, differs between processes and says nothing of insertion. Insert,
+/// Locate and Remove are constant on average, growth amortised; an empty table has no memory. Inserting moves
+/// objects between buckets; removing may do so. Insert, Reserve and copying throw std::bad_alloc when memory
+/// is short, and then change nothing. One thread.
 template <class T>
 class ZELSYSTEM_API ZELHashTable {
 public:
@@ -153,7 +152,8 @@ public:
 
     /// Removes \p object, that very one, inserted under \p key. \returns whether it was there.
     bool RemoveKey(std::uint32_t key, const T* object) noexcept {
-        return remove_Index(find(Mixed(key), [object](const T* other) { return other == object; })) != nullptr;
+        return remove_Index(find(Mixed(key), [object](const T* other) { return other == object; })) !=
+               nullptr;
     }
 
     /// Fetches the place of \p key into the cache, for a lookup some 100 ns later.
@@ -260,9 +260,9 @@ private:
 
     HashFunction _Hash;
     CompareFunction _Compare;
-    T** _OBJECTS = nullptr;           ///< owned memory; the keys follow in it
-    std::uint32_t* _KEYS = nullptr;   ///< mixed keys, 0 for a free bucket
-    std::uint32_t _Buckets = 0;       ///< 0 or a power of two; at most 4/5 are taken
+    T** _OBJECTS = nullptr;          ///< owned memory; the keys follow in it
+    std::uint32_t* _KEYS = nullptr;  ///< mixed keys, 0 for a free bucket
+    std::uint32_t _Buckets = 0;      ///< 0 or a power of two; at most 4/5 are taken
     std::uint32_t _Size = 0;
     std::uint32_t _FirstSize;
 };

@@ -13,7 +13,7 @@ enum class ZELLineSeverity { None, Information, Warning, Error };
 
 /// One line that the libraries write.
 struct ZELSYSTEM_API ZELLine {
-    std::string_view text;      ///< without the newline; valid during the call only
+    std::string_view text;  ///< without the newline; valid during the call only
     ZELLineStream stream = ZELLineStream::Output;
     ZELLineSeverity severity = ZELLineSeverity::None;
     bool fromDocument = false;  ///< whether the content of a document caused it
@@ -31,9 +31,9 @@ protected:
 
 /// Sends the lines written from now on to \p sink, which the caller keeps alive until another is set;
 /// at process exit too, since the last lines are written when the libraries are unloaded.
-/// Null stands for the sink that is there from the start: lines go to the process's standard output through its
-/// own buffer, not flushed one by one, or to standard error. One thread.
-/// \returns the sink set before; null when it was that one.
+/// Null stands for the sink that is there from the start: lines go to the process's standard output through
+/// its own buffer, not flushed one by one, or to standard error. One thread. \returns the sink set before;
+/// null when it was that one.
 ZELSYSTEM_API ZELLineSink* ZELSetLineSink(ZELLineSink* sink) noexcept;
 
 /// Gives \p line to the sink that is set.

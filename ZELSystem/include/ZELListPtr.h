@@ -12,9 +12,8 @@ class IUnknown;
 ///
 /// Positions run from 1 to Size(); one outside is a programming error and fatal. Null pointers are entries
 /// like others. One word, no memory when empty. Append is amortised constant; what searches is linear,
-/// Intersection and RemoveDuplicates quadratic. What needs memory throws std::bad_alloc when it is short, and then
-/// leaves the list as it was.
-/// One thread.
+/// Intersection and RemoveDuplicates quadratic. What needs memory throws std::bad_alloc when it is short, and
+/// then leaves the list as it was. One thread.
 template <class T>
 class ZELSYSTEM_API ZELListPtr {
 public:
@@ -41,9 +40,7 @@ public:
     void Append(const ZELListPtr& other) { _POINTERS.AppendAll(other._POINTERS.begin(), other.Size()); }
 
     /// Puts \p pointer at \p position, from 1 to Size() + 1, before what stands there.
-    void InsertAt(int position, T* pointer) {
-        _POINTERS.InsertAt(ZELIndexOf(position, Size() + 1), pointer);
-    }
+    void InsertAt(int position, T* pointer) { _POINTERS.InsertAt(ZELIndexOf(position, Size() + 1), pointer); }
 
     /// \returns the first position of \p pointer from \p from on; 0 when it is not there.
     int Locate(const T* pointer, int from = 1) const noexcept {
@@ -104,8 +101,8 @@ public:
     /// Copies all entries to \p array, which has room for Size() of them.
     void FillArray(T** array) const noexcept { std::copy(_POINTERS.begin(), _POINTERS.end(), array); }
 
-    /// Adds to \p result the entries of this list that are in \p other as well, in this list's order, each once
-    /// for every time that it stands here. \p result is neither of the two.
+    /// Adds to \p result the entries of this list that are in \p other as well, in this list's order, each
+    /// once for every time that it stands here. \p result is neither of the two.
     void Intersection(const ZELListPtr& other, ZELListPtr& result) const {
         for (T* const pointer : *this) {
             if (other.Locate(pointer) != 0) result.Append(pointer);

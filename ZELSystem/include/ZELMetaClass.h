@@ -13,9 +13,10 @@ class ZELTieLink;
 
 /// One row of the query table: an interface and how a class answers it. ZELMakeTieRow makes it.
 struct ZELSYSTEM_API ZELTieRow {
-    ZELInterfaceId interfaceId;             ///< what a query asks for
-    ZELTieLink* (*make)(ZELBaseUnknown&);   ///< makes the adapter, with a count of 1 and a reference on the object
-    void* (*face)(ZELTieLink&);             ///< the interface pointer of an adapter that make made
+    ZELInterfaceId interfaceId;  ///< what a query asks for
+    ZELTieLink* (*make)(
+        ZELBaseUnknown&);        ///< makes the adapter, with a count of 1 and a reference on the object
+    void* (*face)(ZELTieLink&);  ///< the interface pointer of an adapter that make made
 };
 
 /// What is known of a component class: its name, its base and the interfaces that it answers.

@@ -43,7 +43,9 @@ public:
     void Swap(ZELString& other) noexcept { std::swap(_Text, other._Text); }
 
     /// \returns the text; valid while a string shares it.
-    std::string_view View() const noexcept { return _Text != nullptr ? _Text->View() : std::string_view("", 0); }
+    std::string_view View() const noexcept {
+        return _Text != nullptr ? _Text->View() : std::string_view("", 0);
+    }
 
     /// \returns the text, closed by a zero; never null, valid while a string shares it.
     const char* ConvertToChar() const noexcept { return _Text != nullptr ? _Text->Characters() : ""; }
@@ -53,7 +55,9 @@ public:
     bool IsEmpty() const noexcept { return _Text == nullptr; }
 
     /// \returns the hash key of the whole text: that of ZELHashText.
-    std::uint32_t ComputeHashKey() const noexcept { return _Text != nullptr ? _Text->HashKey() : empty_Key(); }
+    std::uint32_t ComputeHashKey() const noexcept {
+        return _Text != nullptr ? _Text->HashKey() : empty_Key();
+    }
 
     /// \returns the order of the two texts by their bytes: negative, 0 when equal, or positive.
     int Compare(const ZELString& other) const noexcept {

@@ -53,9 +53,9 @@ private:
     void free_Itself() noexcept;
 
     std::uint32_t _Count = 1;
-    std::uint32_t _Length;                   ///< bytes, without the closing zero
-    mutable std::uint32_t _HashKey = 0;      ///< 0 until asked for
-    mutable std::uint32_t _CharacterCount;   ///< kUnknown until asked for
+    std::uint32_t _Length;                  ///< bytes, without the closing zero
+    mutable std::uint32_t _HashKey = 0;     ///< 0 until asked for
+    mutable std::uint32_t _CharacterCount;  ///< kUnknown until asked for
 };
 
 /// \returns the order of two texts by their bytes: negative, 0 or positive.

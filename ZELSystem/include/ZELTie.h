@@ -48,8 +48,9 @@ private:
 /// Adapter of \p Interface for objects of class \p Impl: counts, queries and chain.
 ///
 /// Layers on top, one per interface of the chain, forward the interface's own operations to impl():
-/// `template <class Impl, class Base> class XLayer : public Base { HRESULT Op() override { return this->impl().Op(); } };`
-/// The last Release unlinks the adapter, frees it and then gives back its reference on the object.
+/// `template <class Impl, class Base> class XLayer : public Base { HRESULT Op() override { return
+/// this->impl().Op(); } };` The last Release unlinks the adapter, frees it and then gives back its reference
+/// on the object.
 template <class Interface, class Impl>
 class ZELSYSTEM_API ZELTie : public Interface, public ZELTieLink, public ZELPooled {
 public:

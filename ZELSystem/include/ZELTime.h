@@ -20,7 +20,8 @@ struct ZELSYSTEM_API ZELTime {
     /// \returns the present moment in universal time.
     static ZELTime Utc() noexcept;
 
-    /// \returns the moment \p seconds after the start of 1970 in universal time, shown in that time or local time.
+    /// \returns the moment \p seconds after the start of 1970 in universal time, shown in that time or local
+    /// time.
     static ZELTime UtcOf(std::int64_t seconds) noexcept;
     static ZELTime LocalOf(std::int64_t seconds) noexcept;
 

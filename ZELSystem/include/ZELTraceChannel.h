@@ -5,8 +5,8 @@
 
 #include "ZELExport.h"
 
-/// Named way for trace lines, registered for as long as it lives: a static object of the library that uses it.
-/// The texts must outlive it. Of channels of one name the youngest is found. One thread.
+/// Named way for trace lines, registered for as long as it lives: a static object of the library that uses
+/// it. The texts must outlive it. Of channels of one name the youngest is found. One thread.
 class ZELSYSTEM_API ZELTraceChannel {
 public:
     /// \param name by which it is found.

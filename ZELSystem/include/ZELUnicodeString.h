@@ -58,15 +58,15 @@ public:
     int Length() const noexcept { return _Text != nullptr ? static_cast<int>(_Text->CharacterCount()) : 0; }
 
     /// \returns the text, empty for null; valid while a string shares it.
-    std::string_view View() const noexcept { return _Text != nullptr ? _Text->View() : std::string_view("", 0); }
+    std::string_view View() const noexcept {
+        return _Text != nullptr ? _Text->View() : std::string_view("", 0);
+    }
 
     /// \returns the text, closed by a zero; never null, valid while a string shares it.
     const char* ConvertToChar() const noexcept { return _Text != nullptr ? _Text->Characters() : ""; }
 
     /// \returns the same text as a narrow string, shared; null becomes empty.
-    ZELString ToZELString() const noexcept {
-        return IsEmpty() ? ZELString() : ZELString(_Text->AddRef());
-    }
+    ZELString ToZELString() const noexcept { return IsEmpty() ? ZELString() : ZELString(_Text->AddRef()); }
 
     /// \returns the text without the blanks (character 32 only) at both ends; null stays null.
     ///          Shares the text when there is nothing to strip.

@@ -1,0 +1,69 @@
+#include "ZELBaseUnknown.h"
+
+#include <new>
+#include <string_view>
+
+#include "ZELFatalError.h"
+#include "ZELMetaClass.h"
+#include "ZELTie.h"
+
+namespace {
+
+constexpr std::string_view kClassName = "ZELBaseUnknown";
+constinit ZELMetaClass metaClass(kClassName.data());
+
+/// Count of an object that is being destroyed: references taken and given back meanwhile must not end it
+/// again.
+constexpr std::uint32_t kDying = 0x40000000U;
+
+}  // namespace
+
+ZELBaseUnknown::~ZELBaseUnknown() {
+    if (_Ties != nullptr) ZELFatalError("AssertionFailed:_Ties == nullptr", "ZELBaseUnknown", 24);
+}
+
+void ZELBaseUnknown::destroy_Itself() noexcept {
+    _Count = kDying;
+    delete this;
+}
+
+HRESULT ZELBaseUnknown::QueryInterface(const ZELInterfaceId& id, void** out) noexcept {
+    if (out == nullptr) return E_INVALIDARG;
+    std::uint32_t tag = 0;
+    const ZELTieRow* const row = MetaObject().FindTie(id, &tag);
+    if (row == nullptr) return E_NOINTERFACE;
+
+    for (ZELTieLink* tie = _Ties; tie != nullptr; tie = tie->_Next) {
+        if (tie->_Tag != tag) continue;
+        tie->add_Caller();
+        *out = row->face(*tie);
+        return S_OK;
+    }
+
+    ZELTieLink* made = nullptr;
+    try {
+        made = row->make(*this);
+    } catch (const std::bad_alloc&) {
+    }
+    if (made == nullptr) return E_FAIL;
+    made->_Tag = tag;
+    made->_Next = _Ties;
+    _Ties = made;
+    *out = row->face(*made);
+    return S_OK;
+}
+
+ZELMetaClass& ZELBaseUnknown::MetaObject() const { return metaClass; }
+
+const char* ZELBaseUnknown::IsA() const { return MetaObject().Name(); }
+
+int ZELBaseUnknown::IsAKindOf(const char* className) const {
+    return className != nullptr && (className == kClassName || MetaObject().IsAKindOf(className)) ? 1 : 0;
+}
+
+ZELBaseUnknown* ZELTieLink::unlink_Object() noexcept {
+    ZELTieLink** link = &_Object->_Ties;
+    while (*link != this) link = &(*link)->_Next;
+    *link = _Next;
+    return _Object;
+}
