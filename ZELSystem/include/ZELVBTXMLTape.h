@@ -6,6 +6,8 @@
 
 #include "ZELExport.h"
 
+class ZELXMLPositions;
+
 /// A place in a document. Line and column count from 1, the column in characters; CR LF, LF and CR
 /// each end a line, and a byte order mark takes no column.
 struct ZELVBTXMLPosition {
@@ -54,6 +56,7 @@ struct ZELVBTXMLTape {
     const ZELVBTXMLElementRecord* elements = nullptr;  ///< one more than there are, for the ends of the last
     const ZELVBTXMLAttributeRecord* attributes = nullptr;
     const ZELVBTXMLAsideRecord* asides = nullptr;
+    ZELXMLPositions* positions = nullptr;
     std::uint32_t elementCount = 0;
     std::uint32_t attributeCount = 0;
 
