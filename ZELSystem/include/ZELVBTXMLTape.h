@@ -67,7 +67,8 @@ struct ZELVBTXMLTape {
     std::string_view Name(std::uint32_t attribute) const {
         const ZELVBTXMLAttributeRecord& record = attributes[attribute];
         const bool aside = record.ValueLength() == ZELVBTXMLAttributeRecord::kAside;
-        return {text + record.nameOffset, aside ? asides[record.valueOffset].nameLength : record.NameLength()};
+        return {text + record.nameOffset,
+                aside ? asides[record.valueOffset].nameLength : record.NameLength()};
     }
 
     std::string_view Value(std::uint32_t attribute) const {

@@ -11,6 +11,7 @@
 #include <system_error>
 
 #include "ZELEnvironment.h"
+#include "ZELHugePages.h"
 
 namespace {
 
@@ -55,6 +56,7 @@ struct Room {
         if (wanted > std::numeric_limits<std::size_t>::max() / 4) return false;
         void* const moved = std::realloc(bytes, wanted + ZELFileContent::kPadding);
         if (moved == nullptr) return false;
+        ZELAdviseHugePages(moved, wanted);
         bytes = static_cast<char*>(moved);
         size = wanted;
         return true;

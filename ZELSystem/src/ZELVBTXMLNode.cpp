@@ -22,7 +22,8 @@ constexpr const char* kOutOfMemory = "out of memory";
 static_assert(ZELFileContent::kPadding >= ZELXMLTokenizer::kPadding);
 static_assert(ZELXMLTokenizer::kPadding >= ZELVBTXMLDocument::kReadablePadding);
 
-std::unique_ptr<ZELVBTXMLDocument> Refuse(ZELVBTXMLError* error, std::string reason, ZELVBTXMLPosition place = {}) {
+std::unique_ptr<ZELVBTXMLDocument> Refuse(ZELVBTXMLError* error, std::string reason,
+                                          ZELVBTXMLPosition place = {}) {
     if (error != nullptr) *error = {std::move(reason), place.line, place.column};
     return nullptr;
 }
@@ -77,9 +78,11 @@ ZELVBTXMLDocument::ZELVBTXMLDocument(std::unique_ptr<Storage> storage, std::stri
 
 ZELVBTXMLDocument::~ZELVBTXMLDocument() = default;
 
-std::unique_ptr<ZELVBTXMLDocument> ZELVBTXMLDocument::CreateFromFile(const char* path, ZELVBTXMLError* error) try {
+std::unique_ptr<ZELVBTXMLDocument> ZELVBTXMLDocument::CreateFromFile(const char* path,
+                                                                     ZELVBTXMLError* error) try {
     if (path == nullptr) return Refuse(error, "no file name is given");
-    // Looked at before the file is read, so that nothing is read in vain; what counts is the length then read.
+    // Looked at before the file is read, so that nothing is read in vain; what counts is the length then
+    // read.
     std::error_code noSize;
     const std::uint64_t length = std::filesystem::file_size(ZELNativePath(path), noSize);
     if (!noSize && length > kMaxLength) return Refuse(error, kTooLong);
@@ -104,4 +107,6 @@ std::unique_ptr<ZELVBTXMLDocument> ZELVBTXMLDocument::CreateFromMemory(std::stri
     return Refuse(error, kOutOfMemory);
 }
 
-ZELVBTXMLPosition ZELVBTXMLTape::PositionOf(std::uint32_t offset) const { return positions->PositionOf(offset); }
+ZELVBTXMLPosition ZELVBTXMLTape::PositionOf(std::uint32_t offset) const {
+    return positions->PositionOf(offset);
+}

@@ -3,9 +3,12 @@
 #include <cstdlib>
 #include <new>
 
+#include "ZELHugePages.h"
+
 void* ZELXMLGrow(void* memory, std::size_t bytes) {
     void* const grown = std::realloc(memory, bytes);
     if (grown == nullptr) throw std::bad_alloc();
+    ZELAdviseHugePages(grown, bytes);
     return grown;
 }
 

@@ -90,6 +90,7 @@ inline constexpr std::string_view kZELXMLReasons[] = {
     "a reference to the entity \"{}\", which is not one of the five predefined ones",
     "a reference to a character that XML does not allow",
 };
-static_assert(sizeof kZELXMLReasons / sizeof *kZELXMLReasons == static_cast<std::size_t>(ZELXMLFault::Count_));
+static_assert(sizeof kZELXMLReasons / sizeof *kZELXMLReasons ==
+              static_cast<std::size_t>(ZELXMLFault::Count_));
 
 #endif

@@ -44,22 +44,25 @@ inline const char* ZELXMLSkipBlanks(const char* p) {
 
 inline __m128i ZELXMLLoad(const char* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
 
-inline std::uint32_t ZELXMLMask(__m128i bytes) { return static_cast<std::uint32_t>(_mm_movemask_epi8(bytes)); }
-
-/// One bit for each of the 16 bytes that stops ZELXMLFindSpecial.
-template <char... Stops>
-inline std::uint32_t ZELXMLSpecialBits(__m128i bytes) {
-    // Compared as signed bytes, what is not ASCII is below the blank as well.
-    __m128i special = _mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20));
-    ((special = _mm_or_si128(special, _mm_cmpeq_epi8(bytes, _mm_set1_epi8(Stops)))), ...);
-    return ZELXMLMask(special);
+inline std::uint32_t ZELXMLMask(__m128i bytes) {
+    return static_cast<std::uint32_t>(_mm_movemask_epi8(bytes));
 }
 
-template <char... Stops>
+/// The bits below the lowest one of \p bits; all bits when there is none.
+inline std::uint32_t ZELXMLBitsBelow(std::uint32_t bits) { return (bits - 1) & ~bits; }
+
+template <char Usual, char... Others>
 inline const char* ZELXMLFindSpecial(const char* p) {
     for (;; p += 16) {
-        const std::uint32_t special = ZELXMLSpecialBits<Stops...>(ZELXMLLoad(p));
-        if (special != 0) return p + std::countr_zero(special);
+        const __m128i bytes = ZELXMLLoad(p);
+        // Compared as signed bytes, what is not ASCII is below the blank as well.
+        __m128i others = _mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20));
+        ((others = _mm_or_si128(others, _mm_cmpeq_epi8(bytes, _mm_set1_epi8(Others)))), ...);
+        const std::uint32_t usualBits = ZELXMLMask(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(Usual)));
+        const std::uint32_t otherBits = ZELXMLMask(others);
+        // The place of the next byte to read then waits for one comparison only; the others are predicted.
+        if ((otherBits & ZELXMLBitsBelow(usualBits)) != 0) return p + std::countr_zero(otherBits);
+        if (usualBits != 0) return p + std::countr_zero(usualBits);
     }
 }
 
@@ -79,6 +82,9 @@ inline const char* ZELXMLFindNameEnd(const char* p) {
         const __m128i signs = _mm_andnot_si128(slashes, ZELXMLBytesWithin<'-', ':'>(bytes));
         const __m128i lines = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('_'));
         const std::uint32_t name = ZELXMLMask(_mm_or_si128(_mm_or_si128(letters, signs), lines));
+        const std::uint32_t equals = ZELXMLMask(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('=')));
+        // As above: a name mostly ends at an equals sign.
+        if (equals != 0 && (~name & ZELXMLBitsBelow(equals)) == 0) return p + std::countr_zero(equals);
         if (name != 0xFFFF) return p + std::countr_one(name);
     }
 }

@@ -25,8 +25,8 @@ const char* FindValueStop(const char* p, char quote) {
 ZELXMLTokenizer::ZELXMLTokenizer(const char* text, std::size_t length, ZELXMLTapeStore& store)
     : text_(text), end_(text + length), store_(store) {
     // More than usual documents need, and untouched room is free.
-    store_.elements.Reserve(length / 128 + 16);
-    store_.attributes.Reserve(length / 32 + 16);
+    store_.elements.Reserve(length / 64 + 16);
+    store_.attributes.Reserve(length / 16 + 16);
 }
 
 bool ZELXMLTokenizer::Run() {

@@ -20,8 +20,9 @@ struct EncodingMark {
 };
 /// The longer marks stand first: that of UTF-16 is how that of UTF-32 begins.
 constexpr EncodingMark kOtherEncodingMarks[] = {
-    {"\xFF\xFE\0\0"sv, "UTF-32"}, {"\0\0\xFE\xFF"sv, "UTF-32"}, {"<\0\0\0"sv, "UTF-32"}, {"\0\0\0<"sv, "UTF-32"},
-    {"\xFF\xFE"sv, "UTF-16"},     {"\xFE\xFF"sv, "UTF-16"},     {"<\0"sv, "UTF-16"},     {"\0<"sv, "UTF-16"},
+    {"\xFF\xFE\0\0"sv, "UTF-32"}, {"\0\0\xFE\xFF"sv, "UTF-32"}, {"<\0\0\0"sv, "UTF-32"},
+    {"\0\0\0<"sv, "UTF-32"},      {"\xFF\xFE"sv, "UTF-16"},     {"\xFE\xFF"sv, "UTF-16"},
+    {"<\0"sv, "UTF-16"},          {"\0<"sv, "UTF-16"},
 };
 
 constexpr std::string_view kMarkupDeclarations[] = {"<!ELEMENT", "<!ATTLIST", "<!ENTITY", "<!NOTATION"};
@@ -38,11 +39,14 @@ bool EqualsIgnoringCase(std::string_view text, std::string_view lower) {
 }
 
 bool IsVersion(std::string_view value) {
-    return value.size() > 2 && value.substr(0, 2) == "1." && std::all_of(value.begin() + 2, value.end(), IsDigit);
+    return value.size() > 2 && value.substr(0, 2) == "1." &&
+           std::all_of(value.begin() + 2, value.end(), IsDigit);
 }
 
 bool IsEncodingName(std::string_view value) {
-    const auto follows = [](char c) { return IsLetter(c) || IsDigit(c) || "._-"sv.find(c) != std::string_view::npos; };
+    const auto follows = [](char c) {
+        return IsLetter(c) || IsDigit(c) || "._-"sv.find(c) != std::string_view::npos;
+    };
     return !value.empty() && IsLetter(value[0]) && std::all_of(value.begin(), value.end(), follows);
 }
 
@@ -132,7 +136,9 @@ const char* ZELXMLTokenizer::ReadMisc(const char* p, bool beforeRoot) {
             if (!beforeRoot || doctype_ != nullptr) return Fail(ZELXMLFault::DoctypeMisplaced, p);
             p = ReadDoctype(p);
         } else if (p[1] == '!') {
-            return Fail(ZELXMLStartsWith(p, "<![CDATA[") ? ZELXMLFault::TextOutsideRoot : ZELXMLFault::MarkupUnknown, p);
+            return Fail(
+                ZELXMLStartsWith(p, "<![CDATA[") ? ZELXMLFault::TextOutsideRoot : ZELXMLFault::MarkupUnknown,
+                p);
         } else if (p[1] == '/') {
             return Fail(ZELXMLFault::EndTagUnexpected, p);
         } else {
@@ -156,7 +162,8 @@ const char* ZELXMLTokenizer::ReadComment(const char* p) {
             return p + 3;
         } else {
             const bool atEnd = p + 2 == end_;
-            return atEnd ? Fail(ZELXMLFault::CommentNotClosed, begin) : Fail(ZELXMLFault::CommentDoubleHyphen, p);
+            return atEnd ? Fail(ZELXMLFault::CommentNotClosed, begin)
+                         : Fail(ZELXMLFault::CommentDoubleHyphen, p);
         }
     }
 }

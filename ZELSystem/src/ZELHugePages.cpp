@@ -1,0 +1,16 @@
+#include "ZELHugePages.h"
+
+#include <sys/mman.h>
+
+#include <cstdint>
+
+void ZELAdviseHugePages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t bytes) noexcept {
+#if defined(MADV_HUGEPAGE)
+    constexpr std::uintptr_t kHugePage = std::uintptr_t{2} << 20;
+    const auto begin = reinterpret_cast<std::uintptr_t>(memory);
+    const std::uintptr_t first = (begin + kHugePage - 1) / kHugePage * kHugePage;
+    const std::uintptr_t end = (begin + bytes) / kHugePage * kHugePage;
+    // Advice only: nothing depends on whether the system follows it.
+    if (end > first) madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+#endif
+}
