@@ -1,7 +1,6 @@
 #ifndef ZAN_DIC_ELEMENT_H
 #define ZAN_DIC_ELEMENT_H
 
-#include "ZELPool.h"
 #include "ZanDicExport.h"
 #include "ZanDicLink.h"
 #include "ZanDicObj.h"
@@ -12,7 +11,7 @@ class ZanDicPackage;
 ///
 /// An element knows its package by a link: it reads as unset once the package, or the element itself, is
 /// out of the dictionary. A null pointer as an argument gives E_FAIL and changes nothing. One thread.
-class ZANDICBASE_API ZanDicElement : public ZanDicObj, public ZELPooled {
+class ZANDICBASE_API ZanDicElement : public ZanDicObj {
 public:
     /// Alias and exposition level null.
     ZanDicElement();

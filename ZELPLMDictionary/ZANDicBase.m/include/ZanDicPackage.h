@@ -1,7 +1,6 @@
 #ifndef ZAN_DIC_PACKAGE_H
 #define ZAN_DIC_PACKAGE_H
 
-#include "ZELPool.h"
 #include "ZanDicExport.h"
 #include "ZanDicObj.h"
 #include "ZanHashList.h"
@@ -14,7 +13,7 @@ class ZanDicElement;
 /// is registered by its factory, and unregistered and released when it is removed or flushed. A null
 /// pointer as an argument gives E_FAIL and makes nothing. A package that is out of the dictionary, but
 /// still held by a caller, answers for its own texts; its factories and link setters refuse. One thread.
-class ZANDICBASE_API ZanDicPackage : public ZanDicObj, public ZELPooled {
+class ZANDICBASE_API ZanDicPackage : public ZanDicObj {
 public:
     /// Enters the registry; `is_Registered` tells whether that worked. Alias and exposition level null.
     /// \param domain may be null: no domain.
