@@ -38,7 +38,7 @@ public:
     /// Obsolete: writes a notice. \returns E_FAIL.
     virtual HRESULT CreateUnique(const ZELString* name, OXMIDicUnique** unique) = 0;
 
-    /// Not available yet. \returns E_FAIL.
+    /// Makes a method and appends it. Results as Create, without a message.
     virtual HRESULT CreateMethod(const ZELString* name, const ZELDbBinary* uuid, OXMIDicMethod** method) = 0;
 
     /// Obsolete: writes a notice. \returns E_FAIL.
@@ -53,7 +53,8 @@ public:
     /// \returns S_OK; E_FAIL when there is none of that name.
     virtual HRESULT RemoveElement(const ZELString* name) = 0;
 
-    /// Not available yet. \returns E_FAIL.
+    /// Flushes, unregisters and releases an own method. \returns S_OK; S_FALSE, after an error line, when
+    /// there is none of that name.
     virtual HRESULT RemoveMethod(const ZELString* name) = 0;
 
     /// As RemoveElement, for uniques.
