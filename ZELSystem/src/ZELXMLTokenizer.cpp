@@ -123,7 +123,7 @@ const char* ZELXMLTokenizer::ReadRoot(const char* p) {
 const char* ZELXMLTokenizer::ReadStartTag(const char* p) {
     const char* const tag = p + 1;
     p = ReadName(tag, ZELXMLFault::TagName);
-    if (p == nullptr) return nullptr;
+    if (p == nullptr) return fault_ == ZELXMLFault::TagName ? Fail(fault_, tag - 1) : nullptr;
     const auto firstAttribute = static_cast<std::uint32_t>(store_.attributes.Size());
     const auto element = static_cast<std::uint32_t>(store_.elements.Size());
     store_.elements.Append({Offset(tag), static_cast<std::uint32_t>(p - tag), firstAttribute, open_});
@@ -136,11 +136,11 @@ const char* ZELXMLTokenizer::ReadStartTag(const char* p) {
             CloseElement();
             return next + 2;
         }
+        if (next == end_ || *next == '<') return Fail(ZELXMLFault::TagNotClosed, tag - 1);
         if (next == p) {
             const bool isName = ZELXMLIs(*p, kZELXMLNameStart);
             return FailInStartTag(p, isName ? ZELXMLFault::AttributeNotSeparated : ZELXMLFault::TagCharacter);
         }
-        if (next == end_) return Fail(ZELXMLFault::TagNotClosed, tag - 1);
         p = ReadAttribute(next);
         if (p == nullptr) return nullptr;
     }
