@@ -1,0 +1,62 @@
+#include "ZanDicRBONode.h"
+
+#include "OXMIDicClass.h"
+#include "OXMIDicRBOComponent.h"
+#include "ZanDicClass.h"
+#include "ZanDicHandOut.h"
+#include "ZanDicImplementation.h"
+#include "ZanDicRBOComponent.h"
+#include "ZanDicRBOObject.h"
+#include "ZanDicTeardown.h"
+#include "ZanDicValues.h"
+
+ZanDicRBONode::ZanDicRBONode(const ZELString& name, const ZELDbBinary& uuid)
+    : ZanDicElement(name, uuid), _COMPONENTS(29, ZanHashListKind::Owner) {}
+
+ZanDicRBONode::~ZanDicRBONode() {
+    std::vector<ZanDicObj*> owned;
+    ZanDicRBONode::take_Owned(owned);
+    DropTaken(std::move(owned));
+}
+
+HRESULT ZanDicRBONode::SetBaseClass(const OXMIDicClass* baseClass) {
+    auto* const object = LiveImplementationOf<ZanDicClass>(baseClass);
+    if (object == nullptr || is_Gone()) return E_FAIL;
+    _BaseClass = object;
+    return S_OK;
+}
+
+HRESULT ZanDicRBONode::GetBaseClass(OXMIDicClass** baseClass) const {
+    return baseClass != nullptr && _BaseClass ? HandOutAs(*_BaseClass, baseClass) : E_FAIL;
+}
+
+HRESULT ZanDicRBONode::SetBaseClassRef(const ZELDbBinary* uuid) { return TakeValue(_BaseClassRef, uuid); }
+
+HRESULT ZanDicRBONode::GetBaseClassRef(ZELDbBinary* uuid) const { return GiveValue(_BaseClassRef, uuid); }
+
+HRESULT ZanDicRBONode::SetBaseClassName(const ZELUnicodeString* name) { return TakeValue(_BaseClassName, name); }
+
+HRESULT ZanDicRBONode::GetBaseClassName(ZELUnicodeString* name) const { return GiveValue(_BaseClassName, name); }
+
+HRESULT ZanDicRBONode::CreateRBOComponent(const ZELString* name, const ZELDbBinary* uuid,
+                                          OXMIDicRBOComponent** component) {
+    return MakeRBOMember<ZanDicRBOComponent>(*this, _COMPONENTS, name, uuid, component);
+}
+
+HRESULT ZanDicRBONode::FlushAll() { return FlushOwner(*this); }
+
+void ZanDicRBONode::Dump(const char* caller) const { DumpRBOObject(*this, caller); }
+
+void ZanDicRBONode::take_Owned(std::vector<ZanDicObj*>& owned) { TakeList(_COMPONENTS, owned); }
+
+void ZanDicRBONode::drop_Links() {
+    ZanDicElement::drop_Links();
+    _BaseClass.Reset();
+    std::vector<ZanDicObj*> owned;
+    ZanDicRBONode::take_Owned(owned);
+    DropTaken(std::move(owned));
+}
+
+int ZanDicRBONode::count_LostLinks() const {
+    return ZanDicElement::count_LostLinks() + static_cast<int>(_BaseClass.IsLost());
+}
