@@ -4,6 +4,7 @@
 #include "ZanDicElement.h"
 
 class ZanDicClass;
+class ZanDicScope;
 struct ZanDicAttributeFields;
 
 /// A member of a class: a simple value, a relationship or the inverse of one, told apart by the type code.
@@ -16,8 +17,6 @@ class ZANDICBASE_API ZanDicAttribute : public ZanDicElement {
 public:
     /// Type code Relationship until the class that makes the attribute says otherwise.
     ZanDicAttribute(const ZELString& name, const ZELDbBinary& uuid);
-    ZanDicAttribute(const ZanDicAttribute&) = delete;
-    ZanDicAttribute& operator=(const ZanDicAttribute&) = delete;
     ~ZanDicAttribute() override;
 
     static ZELMetaClass& ClassMeta();
@@ -91,11 +90,23 @@ public:
     /// Obsolete: writes two error lines. \returns E_FAIL.
     HRESULT GetInvertedAttribute(OXMIDicInverse** inverse) const;
 
-    /// The classes to which the attribute applies: not available yet. \returns E_FAIL.
+    /// The classes to which the attribute applies, with all below them; every class where none was ever
+    /// named or all were taken out by hand. A class that is gone counts as absent, but still restricts.
+    /// \returns S_OK; S_FALSE when the class is named already; E_FAIL for null, what is not in the
+    /// dictionary, or, after an error line, what is no class.
     HRESULT AddScope(const OXMIDicElement* scope);
+    /// Takes exactly that class out. \returns S_OK, also where no class was ever named; E_FAIL for null or a
+    /// class that is not named.
     HRESULT RemoveScope(const OXMIDicElement* scope);
+    /// Appends the named classes, in order. \returns the last query's result; S_FALSE when none was ever
+    /// named; E_FAIL for a null list.
     HRESULT GetScopes(ZELListPtrIUnknown* scopes) const;
+    /// The first question after a change of the scope walks all subclasses and writes two lines for each.
+    /// \param[out] inScope 1 or 0. \returns S_OK for 1, S_FALSE for 0; E_FAIL for null.
     HRESULT IsClassInScope(const ZELDbBinary* classUuid, unsigned char* inScope) const;
+    /// Adds \p root and everything below it to the answer of IsClassInScope.
+    /// \returns S_OK; E_FAIL for null or when the attribute has no scope.
+    HRESULT compute_Scopes(ZanDicClass* root);
 
     // What follows is for the library itself.
 
@@ -122,11 +133,17 @@ public:
     int stored_Mode(const Mode& mode) const;
 
 protected:
+    /// For kinds that may be copied: type, origin and inverses are shared, the scope is a copy.
+    ZanDicAttribute(const ZanDicAttribute&) = default;
+    ZanDicAttribute& operator=(const ZanDicAttribute&) = default;
+
     void drop_Links() override;
+    int count_LostLinks() const override;
     std::unique_ptr<ZanDicRareFields> new_RareFields() const override;
 
 private:
     const ZanDicAttributeFields* fields() const;
+    ZanDicScope* scope() const;
     ZanDicAttributeFields& make_Fields();
     void store_Mode(const Mode& mode, int value);
     int checked_Mode(const Mode& mode) const;

@@ -53,7 +53,8 @@ public:
     HRESULT CreateUnique(const ZELString* name, const ZELDbBinary* uuid, OXMIDicUnique** unique);
     HRESULT CreateUnique(const ZELString* name, OXMIDicUnique** unique);
 
-    /// Not available yet, the second with a notice. \returns E_FAIL.
+    /// As Create, without a message. The form without UUID is obsolete: it writes a notice, makes nothing
+    /// and gives E_FAIL.
     HRESULT CreateMethod(const ZELString* name, const ZELDbBinary* uuid, OXMIDicMethod** method);
     HRESULT CreateMethod(const ZELString* name, OXMIDicMethod** method);
 
@@ -61,8 +62,12 @@ public:
     HRESULT RemoveElement(const ZELString* name);
     HRESULT RemoveUnique(const ZELString* name);
 
-    /// Not available. \returns E_FAIL; `Inherited` also sets its flag to 0.
+    /// Flushes, unregisters and releases an own method: it is gone, and so are its parameters.
+    /// \returns the result of the unregistering; S_FALSE, after an error line, when there is none of that
+    /// name; the failing result of the method's FlushAll, and it stays.
     HRESULT RemoveMethod(const ZELString* name);
+
+    /// Not available. \returns E_FAIL; `Inherited` also sets its flag to 0.
     HRESULT CreateImplement(const ZELString* name, IUnknown** implement);
     HRESULT CreateSecurity(const ZELString* name, IUnknown** security);
     HRESULT RemoveImplement(const ZELString* name);
@@ -97,7 +102,7 @@ public:
     /// \returns S_OK; S_FALSE at a root.
     HRESULT GetSuperName(ZELString* name) const;
 
-    /// The same links, typed as interfaces: not available yet. \returns E_FAIL.
+    /// The same links and rules, typed as interfaces.
     HRESULT SetSuperInterface(const OXMIDicInterface* superInterface);
     HRESULT GetSuperInterface(OXMIDicInterface** superInterface) const;
     HRESULT GetSuperInterfaces(ZELListPtrIUnknown* superInterfaces) const;
@@ -156,11 +161,17 @@ public:
     HRESULT GetUnique(const ZELString* name, OXMIDicUnique** unique) const;
     HRESULT GetUniques(ZELListPtrIUnknown* uniques) const;
 
-    /// Methods and attribute blocks: not available yet. \returns E_FAIL.
+    /// Looks here, then up the super classes. \returns S_OK; E_FAIL.
     HRESULT GetMethod(const ZELString* name, OXMIDicMethod** method) const;
-    HRESULT GetMethods(ZELListPtrIUnknown* methods) const;
+    /// Looks among the own ones only.
     HRESULT GetClassMethod(const ZELString* name, OXMIDicMethod** method) const;
+    /// Appends the own methods, in the order of creation; a null list is accepted.
+    /// \returns the last query's result, S_OK for none.
+    HRESULT GetMethods(ZELListPtrIUnknown* methods) const;
+    /// The same, followed by those of each super class, nearest first; of methods of one name the first only.
     HRESULT GetAllMethods(ZELListPtrIUnknown* methods) const;
+
+    /// Attribute blocks: not available yet. \returns E_FAIL.
     HRESULT GetAttBlock(const ZELString* name, OXMIDicAttributeBlock** block) const;
     HRESULT GetAttBlocks(ZELListPtrIUnknown* blocks) const;
     HRESULT GetAttBlockForAtt(const ZELString* attributeName, OXMIDicAttributeBlock** block) const;
@@ -178,10 +189,13 @@ public:
     // What follows is for the library itself.
 
     ZanDicClass* get_SuperClass() const { return _SuperClass.Get(); }
+    /// The direct subclasses; of a class that was flushed also former ones, whose super class is another now.
+    const ZanDicLinkList<ZanDicClass>& get_SubClasses() const { return _invSuperClass; }
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
 
 protected:
     void drop_Links() override;
+    int count_LostLinks() const override;
     std::unique_ptr<ZanDicRareFields> new_RareFields() const override;
 
 private:
@@ -191,6 +205,8 @@ private:
     HRESULT make_Attribute(const ZELString& name, const ZELDbBinary& uuid, OXMDicTYPE type, void** attribute,
                            const ZanDicTraceScope& trace);
     HRESULT flush_Members(const ZanDicTraceScope& trace);
+    HRESULT set_SuperClass(const IUnknown* superClass, const ZanDicTraceScope& trace,
+                           std::string_view foreign);
     void drop_Hierarchy();
     bool is_AbleToBeUnder(const ZanDicClass& superClass) const;
     void forget_AllAttributes();
@@ -200,6 +216,10 @@ private:
     const ZanDicClassFields* fields() const;
     ZanDicClassFields& make_Fields();
     const ZanHashList& uniques() const;
+    const ZanHashList& methods() const;
+    template <class Member, class Interface>
+    HRESULT make_Member(ZanHashList ZanDicClassFields::*list, const ZELString* name, const ZELDbBinary* uuid,
+                        Interface** member);
 
     ZanDicLink<ZanDicClass> _SuperClass;  ///< not owning; null at a root and once the class is gone
     ZanDicLink<ZanDicClass> _Reference;   ///< not owning

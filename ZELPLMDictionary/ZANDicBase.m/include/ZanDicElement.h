@@ -1,11 +1,22 @@
 #ifndef ZAN_DIC_ELEMENT_H
 #define ZAN_DIC_ELEMENT_H
 
+#include <string_view>
+
 #include "ZanDicExport.h"
 #include "ZanDicLink.h"
 #include "ZanDicObj.h"
 
 class ZanDicPackage;
+class ZanDicTraceScope;
+class ZanHashList;
+
+/// A list that an element owns, as its teardown walks and names it; null where there is none to walk.
+struct ZanDicOwnedList {
+    ZanHashList* list = nullptr;
+    std::string_view name;
+    std::string_view operation;  ///< the FlushAll that drops it
+};
 
 /// Base of what a package owns, and of the members of that: package, visibility, alias, exposition level.
 ///
@@ -59,6 +70,11 @@ public:
     /// Said by the factory that makes the element. \returns S_OK.
     HRESULT set_Package(ZanDicPackage* package);
     ZanDicPackage* get_Package() const;
+
+    /// The one list that FlushAll drops, of kinds for which `FlushOwner` does that.
+    virtual ZanDicOwnedList owned_List() { return {}; }
+    /// Drops, after that list, what else the element owns. \returns S_OK; the failing result of a FlushAll.
+    virtual HRESULT flush_Rest(const ZanDicTraceScope& trace);
 
 protected:
     void drop_Links() override;

@@ -51,6 +51,7 @@ public:
 
     // What follows is for the library itself.
 
+    ZanDicOwnedList owned_List() override;
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
 
 protected:

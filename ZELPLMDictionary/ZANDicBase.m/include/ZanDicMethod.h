@@ -23,8 +23,8 @@ public:
 
     /// Makes a parameter, which gets no package.
     /// \param[out] parameter also written when only the registration failed, and the parameter is in the list
-    /// then. \returns the result of the registration; E_FAIL when the name is taken or the method is gone, and
-    /// nothing is made.
+    /// then. \returns the result of the registration; E_FAIL when the name is taken or the method is gone,
+    /// and nothing is made.
     HRESULT CreateParameter(const ZELString* name, const ZELDbBinary* uuid, OXMIDicParameter** parameter);
 
     /// Obsolete: always writes a notice. \returns E_FAIL.
@@ -45,6 +45,7 @@ public:
 
     // What follows is for the library itself.
 
+    ZanDicOwnedList owned_List() override;
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
 
 protected:

@@ -99,8 +99,9 @@ public:
     HRESULT IsCategory(const ZELString* name, unsigned char* isCategory) const;
     HRESULT GetCategories(ZELListPtrIUnknown* categories) const;
 
-    /// \returns E_FAIL: not available yet.
-    virtual HRESULT GetLostLinks(int* count) const;
+    /// \param[out] count how many links of this object were set and have lost their object since.
+    /// \returns S_OK; E_FAIL for null.
+    HRESULT GetLostLinks(int* count) const;
 
     /// Hands out the interface that belongs to a type code; a code below 1 means the object's own.
     /// \param[out] out carries one reference. \returns the query's result; E_FAIL, after a warning line,
@@ -139,6 +140,9 @@ public:
 protected:
     /// Drops every link that this object holds to others; run when it goes.
     virtual void drop_Links();
+    /// How many of the links that callers set have lost their object. What the library derives from them
+    /// (subclasses, answers that it keeps) does not count. Each kind adds its own to its base's.
+    virtual int count_LostLinks() const;
     /// Makes the rare fields of this kind.
     virtual std::unique_ptr<ZanDicRareFields> new_RareFields() const;
     ZanDicRareFields* rare() const { return _Rare.get(); }

@@ -57,13 +57,19 @@ public:
     /// Looks here, then one level deep in the used packages. \returns the last result.
     HRESULT GetElementR(const ZELString* name, OXMIDicElement** element) const;
 
-    /// RBO kinds and commands: nothing makes them yet. \returns E_FAIL.
+    /// \returns S_OK; E_FAIL when there is no RBO class of that name.
     HRESULT GetRBOClass(const ZELString* name, OXMIDicRBOClass** rboClass) const;
-    /// Null writes an error line.
+    /// Finds the first mapping whose stored reference is the UUID of \p rboClass or, where it stores none,
+    /// that is linked to it. \returns S_OK; E_FAIL when there is none, or, after an error line, for null or
+    /// what is no RBO class in the dictionary.
     HRESULT GetRBOMapping(const OXMIDicRBOClass* rboClass, OXMIDicRBOMapping** mapping) const;
+
+    /// Commands that a caller made and registered: links, by name. \returns S_OK; E_FAIL for null, for what
+    /// is no command in the dictionary, or for a name that is there already.
     HRESULT AddCommand(const OXMIDicCommand* command);
+    /// \returns S_OK; E_FAIL for null or a name that is not there.
     HRESULT RemoveCommand(const OXMIDicCommand* command);
-    /// \returns S_OK: there is none; E_FAIL for a null list.
+    /// As GetElements.
     HRESULT GetCommands(ZELListPtrIUnknown* commands) const;
 
     /// Flushes, unregisters and releases one element: it is gone, and so are its members.
@@ -93,8 +99,6 @@ public:
     HRESULT CreateEnum(const ZELString* name, OXMIDicEnum** element);
     HRESULT CreateCategory(const ZELString* name, const ZELDbBinary* uuid, OXMIDicCategory** element);
     HRESULT CreateCategory(const ZELString* name, OXMIDicCategory** element);
-
-    /// Kinds that are not available yet; the obsolete forms warn all the same. \returns E_FAIL.
     HRESULT CreateExtension(const ZELString* name, const ZELDbBinary* uuid, OXMIDicExtension** element);
     HRESULT CreateExtension(const ZELString* name, OXMIDicExtension** element);
     HRESULT CreateInterface(const ZELString* name, const ZELDbBinary* uuid, OXMIDicInterface** element);
@@ -102,6 +106,8 @@ public:
     HRESULT CreateRBOClass(const ZELString* name, const ZELDbBinary* uuid, OXMIDicRBOClass** element);
     HRESULT CreateRBOClass(const ZELString* name, OXMIDicRBOClass** element);
     HRESULT CreateRBOMapping(const ZELString* name, const ZELDbBinary* uuid, OXMIDicRBOMapping** element);
+
+    /// Not available yet. \returns E_FAIL.
     HRESULT CreateAttributeBlock(const ZELDbBinary* uuid, OXMIDicAttributeBlock** block);
 
     /// Never available. \returns E_FAIL.
@@ -120,10 +126,12 @@ public:
 
 protected:
     void drop_Links() override;
+    int count_LostLinks() const override;
 
 private:
     template <class Element, class Interface>
-    HRESULT make_Element(const ZELString* name, const ZELDbBinary* uuid, Interface** element);
+    HRESULT make_Element(const ZELString* name, const ZELDbBinary* uuid, Interface** element,
+                         OXMDicTYPE type = OXMDicTYPE_UNDEFINED);
     HRESULT add_Package(ZanHashList& packages, const OXMIDicPackage* package);
     HRESULT get_Packages(const ZanHashList& list, ZELListPtrIUnknown* packages) const;
 

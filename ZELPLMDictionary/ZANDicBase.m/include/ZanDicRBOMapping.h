@@ -31,8 +31,8 @@ public:
     HRESULT SetApplyToRBOClassName(const ZELUnicodeString* name);
     HRESULT GetApplyToRBOClassName(ZELUnicodeString* name) const;
 
-    /// \param[out] root carries one reference. \returns S_OK; E_FAIL, with nothing made or kept, when the name
-    /// or the UUID is taken or the mapping is gone.
+    /// \param[out] root carries one reference. \returns S_OK; E_FAIL, with nothing made or kept, when the
+    /// name or the UUID is taken or the mapping is gone.
     HRESULT CreateRBORoot(const ZELString* name, const ZELDbBinary* uuid, OXMIDicRBORoot** root);
 
     /// Appends the roots. \returns the last query's result, S_OK for none; E_FAIL, after an error line, for a
@@ -46,8 +46,8 @@ public:
 
     // What follows is for the library itself.
 
-    /// The UUID of the RBO class that the mapping applies to: the stored one or, without, the linked class's.
-    ZELDbBinary applied_Uuid() const;
+    /// Whether the stored reference is the UUID of that class or, without one, the link leads to it.
+    bool applies_To(const ZanDicRBOClass& rboClass) const;
     ZanDicOwnedList owned_List() override;
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
 

@@ -28,6 +28,7 @@ public:
 
 protected:
     void drop_Links() override;
+    int count_LostLinks() const override;
 
 private:
     ZanHashList _ELEMENTS;  ///< not owning

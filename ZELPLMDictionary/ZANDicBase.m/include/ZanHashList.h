@@ -56,6 +56,10 @@ public:
     /// \returns S_OK; E_FAIL when there is none.
     HRESULT Search(const ZELString& name, ZanDicObj** found) const;
 
+    /// How many objects went while they were in a list that does not own. One whose name was appended again
+    /// since does not count.
+    int LostCount() const;
+
     // What follows is for the library itself and writes nothing.
 
     /// Removes exactly \p object, whatever its name now is. \returns whether it was in the list.

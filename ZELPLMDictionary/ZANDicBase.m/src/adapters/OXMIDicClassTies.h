@@ -1,9 +1,10 @@
-/// Tie of classes.
+/// Ties of classes and extensions.
 #ifndef OXMI_DIC_CLASS_TIES_H
 #define OXMI_DIC_CLASS_TIES_H
 
 #include "OXMIDicClass.h"
 #include "OXMIDicElementTies.h"
+#include "OXMIDicExtension.h"
 
 /// Forwards OXMIDicClass.
 template <class Impl, class Base>
@@ -191,7 +192,23 @@ public:
     }
 };
 
+/// Forwards OXMIDicExtension.
+template <class Impl, class Base>
+class OXMIDicExtensionLayer : public Base {
+public:
+    HRESULT AddScope(const OXMIDicClass* scope) override { return this->impl().AddScope(scope); }
+    HRESULT RemoveScope(const OXMIDicClass* scope) override { return this->impl().RemoveScope(scope); }
+    HRESULT GetScopes(ZELListPtrIUnknown* scopes) override { return this->impl().GetScopes(scopes); }
+};
+
+/// What the ties of all interfaces that derive from OXMIDicClass stand on.
+template <class Interface, class Impl>
+using OXMIDicClassBase = OXMIDicClassLayer<Impl, OXMIDicElementBase<Interface, Impl>>;
+
 template <class Impl>
-using OXMIDicClassTie = OXMIDicClassLayer<Impl, OXMIDicElementBase<OXMIDicClass, Impl>>;
+using OXMIDicClassTie = OXMIDicClassBase<OXMIDicClass, Impl>;
+
+template <class Impl>
+using OXMIDicExtensionTie = OXMIDicExtensionLayer<Impl, OXMIDicClassBase<OXMIDicExtension, Impl>>;
 
 #endif

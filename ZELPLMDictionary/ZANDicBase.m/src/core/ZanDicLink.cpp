@@ -51,6 +51,13 @@ void ZanDicLinkBase::Set(ZanDicObj* object) {
     _Place = place;
 }
 
+void ZanDicLinkBase::Lose() noexcept {
+    if (_Place == 0) return;
+    Drop();
+    _Place = kLostPlace;
+    ++places[kLostPlace].links;
+}
+
 void ZanDicLinkBase::Drop() noexcept {
     const std::uint32_t number = std::exchange(_Place, 0);
     Place& place = places[number];

@@ -92,8 +92,8 @@ ZanDicObj::ZanDicObj() : _Name("UNDEFINED") {
 ZanDicObj::ZanDicObj(const ZELString& name, const ZELDbBinary& uuid) : _Name(name), _Uuid(uuid) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Detail)) return;
-    kConstructor.Line(TraceLevel::Detail) << "_Type=" << _Type << " (" << ZanDicTypeName(_Type)
-                                          << "), _Name=" << _Name << ", _Uuid=" << _Uuid;
+    kConstructor.Line(TraceLevel::Detail)
+        << "_Type=" << _Type << " (" << ZanDicTypeName(_Type) << "), _Name=" << _Name << ", _Uuid=" << _Uuid;
     kConstructor.Line(TraceLevel::Detail) << "@=" << this;
 }
 
@@ -295,7 +295,15 @@ HRESULT ZanDicObj::GetCategories(ZELListPtrIUnknown* categories) const {
     return rc;
 }
 
-HRESULT ZanDicObj::GetLostLinks(int* /*count*/) const { return E_FAIL; }
+HRESULT ZanDicObj::GetLostLinks(int* count) const {
+    if (count == nullptr) return E_FAIL;
+    *count = count_LostLinks();
+    return S_OK;
+}
+
+int ZanDicObj::count_LostLinks() const {
+    return _Rare && _Rare->categories ? _Rare->categories->LostCount() : 0;
+}
 
 HRESULT ZanDicObj::bind_Interface(OXMDicTYPE type, void** out) const {
     const int code = type < OXMDicTYPE_Primitive ? _Type : type;

@@ -38,6 +38,7 @@ struct ZanHashList::Store {
     ZELArray<Slot> index;                   ///< by key, a power of two of slots; empty while small
     int first = 0;                          ///< what is before it are gaps
     int gaps = 0;                           ///< the gaps behind it
+    ZELArray<ZELString> lost;               ///< keys of objects that went
     std::uint64_t seenLostCount = 0;        ///< nothing has gone since the count of lost links was this
     ZanHashListKind kind;
 
@@ -46,6 +47,9 @@ struct ZanHashList::Store {
     bool IsGone(int at) const { return kind == ZanHashListKind::Links && !links[at]; }
 
     void Append(const ZELString& key, ZanDicObj* object) {
+        for (int at = lost.Size() - 1; at >= 0; --at) {
+            if (lost[at] == key) lost.EraseAt(at);
+        }
         entries.Append({key, object});
         if (kind == ZanHashListKind::Links) links.Append(ZanDicLink<ZanDicObj>(object));
         if (index.Size() == 0 ? End() - first > kSmall : End() > MostEntries(index.Size())) {
@@ -59,6 +63,7 @@ struct ZanHashList::Store {
     int Find(const ZELString& key) {
         const int at = FindEntry(key);
         if (at == kNone || !IsGone(at)) return at;
+        lost.Append(key);
         RemoveAt(at);
         return kNone;
     }
@@ -113,7 +118,11 @@ private:
         const bool hasLinks = kind == ZanHashListKind::Links;
         int kept = 0;
         for (int at = first; at < End(); ++at) {
-            if (entries[at].object == nullptr || IsGone(at)) continue;
+            if (entries[at].object == nullptr) continue;
+            if (IsGone(at)) {
+                lost.Append(std::move(entries[at].key));
+                continue;
+            }
             if (kept != at) {
                 entries[kept] = std::move(entries[at]);
                 if (hasLinks) links[kept] = std::move(links[at]);
@@ -217,6 +226,11 @@ ZanDicObj* ZanHashList::operator[](int position) const {
 int ZanHashList::Size() const {
     _STORE->DropLost();
     return _STORE->Count();
+}
+
+int ZanHashList::LostCount() const {
+    _STORE->DropLost();
+    return _STORE->lost.Size();
 }
 
 HRESULT ZanHashList::Append(ZanDicObj* object) {

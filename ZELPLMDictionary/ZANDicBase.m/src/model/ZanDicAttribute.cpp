@@ -48,6 +48,17 @@ void ZanDicAttribute::drop_Links() {
     links.inverseOf.Reset();
     links.specialized.Reset();
     links.inversedBy.clear();
+    links.inversesLost = 0;
+    links.scope.Reset();
+}
+
+int ZanDicAttribute::count_LostLinks() const {
+    int count = ZanDicElement::count_LostLinks() + static_cast<int>(_TypeElement.IsLost());
+    if (fields() == nullptr) return count;
+    count += static_cast<int>(fields()->inverseOf.IsLost()) + fields()->inversesLost;
+    for (const ZanDicLink<ZanDicAttribute>& link : fields()->inversedBy)
+        count += static_cast<int>(link.IsLost());
+    return fields()->scope ? count + fields()->scope->Classes().LostCount() : count;
 }
 
 HRESULT ZanDicAttribute::SetName(const ZELString* name) {
@@ -259,11 +270,3 @@ HRESULT ZanDicAttribute::GetInverse(OXMIDicRelationship** relationship) const {
     const ZanDicAttribute* inverted = fields() != nullptr ? fields()->inverseOf.Get() : nullptr;
     return inverted != nullptr ? HandOutAs(*inverted, relationship) : S_FALSE;
 }
-
-HRESULT ZanDicAttribute::AddScope(const OXMIDicElement*) { return E_FAIL; }
-
-HRESULT ZanDicAttribute::RemoveScope(const OXMIDicElement*) { return E_FAIL; }
-
-HRESULT ZanDicAttribute::GetScopes(ZELListPtrIUnknown*) const { return E_FAIL; }
-
-HRESULT ZanDicAttribute::IsClassInScope(const ZELDbBinary*, unsigned char*) const { return E_FAIL; }

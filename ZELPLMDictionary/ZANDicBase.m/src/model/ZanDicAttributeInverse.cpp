@@ -75,7 +75,12 @@ HRESULT ZanDicAttribute::SetInvertedAttribute(const OXMIDicInverse* inverse) {
         return E_FAIL;
     }
     if (is_Gone()) return E_FAIL;
-    auto& inverses = make_Fields().inversedBy;
+    ZanDicAttributeFields& links = make_Fields();
+    auto& inverses = links.inversedBy;
+    if (inverses.size() == inverses.capacity()) {  // what is gone makes room before the list grows
+        links.inversesLost +=
+            static_cast<int>(std::erase_if(inverses, [](const auto& link) { return !link; }));
+    }
     inverses.emplace_back(inverting);
     if (auto line = trace.Line(TraceLevel::Detail)) {
         line << "_InversedBy.Size()="

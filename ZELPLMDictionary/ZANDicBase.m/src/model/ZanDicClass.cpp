@@ -5,6 +5,7 @@
 #include "HexToBinary.h"
 #include "OXMIDicClass.h"
 #include "OXMIDicInverse.h"
+#include "OXMIDicMethod.h"
 #include "OXMIDicRelationship.h"
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
@@ -13,6 +14,7 @@
 #include "ZanDicClassFields.h"
 #include "ZanDicHandOut.h"
 #include "ZanDicImplementation.h"
+#include "ZanDicMethod.h"
 #include "ZanDicRef.h"
 #include "ZanDicRegistry.h"
 #include "ZanDicTeardown.h"
@@ -52,16 +54,18 @@ const ZanHashList& ZanDicClass::uniques() const {
     return fields() != nullptr ? fields()->uniques : none;
 }
 
+const ZanHashList& ZanDicClass::methods() const {
+    static const ZanHashList none(29, ZanHashListKind::Owner);
+    return fields() != nullptr ? fields()->methods : none;
+}
+
 void ZanDicClass::take_Owned(std::vector<ZanDicObj*>& owned) {
-    for (int position = 1; position <= _ATTRIBUTES.Size(); ++position) owned.push_back(_ATTRIBUTES[position]);
-    _ATTRIBUTES.clear();
+    TakeList(_ATTRIBUTES, owned);
     if (rare() == nullptr) return;
     ZanDicClassFields& members = make_Fields();
-    for (int position = 1; position <= members.uniques.Size(); ++position) {
-        owned.push_back(members.uniques[position]);
-    }
+    TakeList(members.uniques, owned);
+    TakeList(members.methods, owned);
     owned.insert(owned.end(), members.removed.begin(), members.removed.end());
-    members.uniques.clear();
     members.removed.RemoveAll();
 }
 
@@ -75,6 +79,11 @@ void ZanDicClass::drop_Links() {
     _Reference.Reset();
     _invSuperClass.RemoveAll();
     _ALLATTRIBUTES.reset();
+}
+
+int ZanDicClass::count_LostLinks() const {
+    return ZanDicElement::count_LostLinks() + static_cast<int>(_SuperClass.IsLost()) +
+           static_cast<int>(_Reference.IsLost());
 }
 
 HRESULT ZanDicClass::Create(const ZELString* name, const ZELDbBinary* uuid, OXMDicTYPE type,
@@ -130,19 +139,30 @@ HRESULT ZanDicClass::make_Attribute(const ZELString& name, const ZELDbBinary& uu
     return registry->Insert(&owned);
 }
 
-HRESULT ZanDicClass::CreateUnique(const ZELString* name, const ZELDbBinary* uuid, OXMIDicUnique** unique) {
+template <class Member, class Interface>
+HRESULT ZanDicClass::make_Member(ZanHashList ZanDicClassFields::*list, const ZELString* name,
+                                 const ZELDbBinary* uuid, Interface** member) {
     ZanDicRegistry* const registry = ZanDicGetRegistry();
     ZanDicObj* present = nullptr;
-    if (name == nullptr || uuid == nullptr || unique == nullptr || is_Gone() || registry == nullptr) {
+    if (name == nullptr || uuid == nullptr || member == nullptr || is_Gone() || registry == nullptr) {
         return E_FAIL;
     }
-    if (Succeeded(uniques().Search(*name, &present))) return E_FAIL;
-    ZanDicRef<ZanDicUnique> made(new ZanDicUnique(*name, *uuid));
+    ZanHashList& members = make_Fields().*list;
+    if (Succeeded(members.Search(*name, &present))) return E_FAIL;
+    ZanDicRef<Member> made(new Member(*name, *uuid));
     made->set_Package(get_Package());
-    if (const HRESULT rc = make_Fields().uniques.Append(made.Get()); Failed(rc)) return rc;
-    ZanDicUnique& owned = *made.Detach();
-    HandOutOwn(owned, unique);
+    if (const HRESULT rc = members.Append(made.Get()); Failed(rc)) return rc;
+    Member& owned = *made.Detach();
+    HandOutOwn(owned, member);
     return registry->Insert(&owned);
+}
+
+HRESULT ZanDicClass::CreateUnique(const ZELString* name, const ZELDbBinary* uuid, OXMIDicUnique** unique) {
+    return make_Member<ZanDicUnique>(&ZanDicClassFields::uniques, name, uuid, unique);
+}
+
+HRESULT ZanDicClass::CreateMethod(const ZELString* name, const ZELDbBinary* uuid, OXMIDicMethod** method) {
+    return make_Member<ZanDicMethod>(&ZanDicClassFields::methods, name, uuid, method);
 }
 
 HRESULT ZanDicClass::RemoveElement(const ZELString* name) {
@@ -238,7 +258,8 @@ HRESULT ZanDicClass::flush_Members(const ZanDicTraceScope& trace) {
     ZanHashList& uniques = rare() != nullptr ? make_Fields().uniques : none;
     if (const HRESULT rc = DropOwned(uniques, "_UNIQUES", trace); Failed(rc)) return rc;
     trace.Say(TraceLevel::Detail, "processing _METHODS...");
-    if (const HRESULT rc = DropOwned(none, "_METHODS", trace); Failed(rc)) return rc;
+    ZanHashList& methods = rare() != nullptr ? make_Fields().methods : none;
+    if (const HRESULT rc = DropOwned(methods, "_METHODS", trace); Failed(rc)) return rc;
     none.RemoveAll();  // the reserved list
     trace.Say(TraceLevel::Detail, "processing _COMMANDS...");
     return none.RemoveAll();

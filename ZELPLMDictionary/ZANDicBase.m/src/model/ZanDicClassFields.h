@@ -8,6 +8,7 @@ struct ZanDicClassFields : ZanDicRareFields {
     ZELUnicodeString lateType{""};
     ZELUnicodeString applicationName{""};
     ZanHashList uniques{29, ZanHashListKind::Owner};  ///< the class owns one reference to each
+    ZanHashList methods{29, ZanHashListKind::Owner};  ///< and to each of these
     ZELListPtrZanDicObj removed;                      ///< and to each member that was removed from its list
 };
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "OXMIDicClass.h"
+#include "OXMIDicInterface.h"
 #include "ZanDicAllAttributes.h"
 #include "ZanDicAttribute.h"
 #include "ZanDicClass.h"
@@ -61,10 +62,21 @@ bool ZanDicClass::is_AbleToBeUnder(const ZanDicClass& superClass) const {
 
 HRESULT ZanDicClass::SetSuperClass(const OXMIDicClass* superClass) {
     const ZanDicTraceScope trace("ZanDicClass::SetSuperClass");
+    return set_SuperClass(superClass, trace, "*** ERROR *** Could not get implementation from OXMIDicClass");
+}
+
+HRESULT ZanDicClass::SetSuperInterface(const OXMIDicInterface* superInterface) {
+    const ZanDicTraceScope trace("ZanDicClass::SetSuperInterface");
+    return set_SuperClass(superInterface, trace,
+                          "*** ERROR *** Could not get implementation from OXMIDicInterface");
+}
+
+HRESULT ZanDicClass::set_SuperClass(const IUnknown* superClass, const ZanDicTraceScope& trace,
+                                    std::string_view foreign) {
     if (superClass == nullptr) return E_FAIL;
     auto* const newSuper = LiveImplementationOf<ZanDicClass>(superClass);
     if (newSuper == nullptr) {
-        trace.Error("*** ERROR *** Could not get implementation from OXMIDicClass");
+        trace.Error(foreign);
         return E_FAIL;
     }
     if (is_Gone()) return E_FAIL;
@@ -109,17 +121,26 @@ HRESULT ZanDicClass::GetSuperName(ZELString* name) const {
     return _SuperClass ? _SuperClass->GetName(name) : S_FALSE;
 }
 
-HRESULT ZanDicClass::SetSuperInterface(const OXMIDicInterface*) { return E_FAIL; }
+HRESULT ZanDicClass::GetSuperInterface(OXMIDicInterface** superInterface) const {
+    if (superInterface == nullptr) return E_FAIL;
+    return _SuperClass ? HandOutAs(*_SuperClass, superInterface) : S_FALSE;
+}
 
-HRESULT ZanDicClass::GetSuperInterface(OXMIDicInterface**) const { return E_FAIL; }
-
-HRESULT ZanDicClass::GetSuperInterfaces(ZELListPtrIUnknown*) const { return E_FAIL; }
+HRESULT ZanDicClass::GetSuperInterfaces(ZELListPtrIUnknown* superInterfaces) const {
+    if (superInterfaces == nullptr) return E_FAIL;
+    for (const ZanDicClass* above = _SuperClass.Get(); above != nullptr; above = above->_SuperClass.Get()) {
+        OXMIDicInterface* face = nullptr;
+        if (Succeeded(HandOutAs(*above, &face))) superInterfaces->Append(face);
+    }
+    // Deliberate: as GetSuperClasses.
+    return S_FALSE;
+}
 
 void ZanDicClass::drop_Hierarchy() {
     if (_SuperClass) _SuperClass->_invSuperClass.Remove(*this);
     _SuperClass.Reset();
     // Deliberate: the list of subclasses stays (ZanDicClassTest.FlushAllKeepsTheListOfSubClasses).
-    for_EachSubClass([](ZanDicClass& subClass) { subClass._SuperClass.Reset(); });
+    for_EachSubClass([](ZanDicClass& subClass) { subClass._SuperClass.Lose(); });
     ZanDicHierarchy::Changed();
 }
 

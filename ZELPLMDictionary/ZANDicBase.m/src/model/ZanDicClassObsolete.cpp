@@ -8,11 +8,6 @@ namespace {
 
 constexpr std::string_view kCreate = "ZanDicClass::Create";
 
-HRESULT RefuseDeprecated(std::string_view operation) {
-    ZanDicTraceScope(operation).Error(notice::kDeprecated);
-    return E_FAIL;
-}
-
 HRESULT RefuseNotImplemented(std::string_view operation) {
     ZanDicTraceScope(operation).Warning(notice::kNotImplemented);
     return E_FAIL;
@@ -46,8 +41,6 @@ HRESULT ZanDicClass::CreateUnique(const ZELString*, OXMIDicUnique**) {
     return E_FAIL;
 }
 
-HRESULT ZanDicClass::CreateMethod(const ZELString*, const ZELDbBinary*, OXMIDicMethod**) { return E_FAIL; }
-
 HRESULT ZanDicClass::CreateMethod(const ZELString*, OXMIDicMethod**) {
     ZanDicTraceScope("ZanDicClass::CreateMethod").Error(notice::kUuidNeeded);
     return E_FAIL;
@@ -55,7 +48,6 @@ HRESULT ZanDicClass::CreateMethod(const ZELString*, OXMIDicMethod**) {
 
 HRESULT ZanDicClass::CreateImplement(const ZELString*, IUnknown**) { return E_FAIL; }
 HRESULT ZanDicClass::CreateSecurity(const ZELString*, IUnknown**) { return E_FAIL; }
-HRESULT ZanDicClass::RemoveMethod(const ZELString*) { return E_FAIL; }
 HRESULT ZanDicClass::RemoveImplement(const ZELString*) { return E_FAIL; }
 HRESULT ZanDicClass::RemoveSecurity(const ZELString*) { return E_FAIL; }
 
@@ -90,11 +82,6 @@ HRESULT ZanDicClass::Inherited(OXMIDicElement*, unsigned char* inherited) const 
     if (inherited != nullptr) *inherited = 0;
     return E_FAIL;
 }
-
-HRESULT ZanDicClass::GetMethod(const ZELString*, OXMIDicMethod**) const { return E_FAIL; }
-HRESULT ZanDicClass::GetMethods(ZELListPtrIUnknown*) const { return E_FAIL; }
-HRESULT ZanDicClass::GetClassMethod(const ZELString*, OXMIDicMethod**) const { return E_FAIL; }
-HRESULT ZanDicClass::GetAllMethods(ZELListPtrIUnknown*) const { return E_FAIL; }
 
 HRESULT ZanDicClass::GetAttBlock(const ZELString*, OXMIDicAttributeBlock**) const { return E_FAIL; }
 HRESULT ZanDicClass::GetAttBlocks(ZELListPtrIUnknown*) const { return E_FAIL; }

@@ -110,6 +110,8 @@ HRESULT ZanDicElement::set_Package(ZanDicPackage* package) {
 
 ZanDicPackage* ZanDicElement::get_Package() const { return _Package.Get(); }
 
+HRESULT ZanDicElement::flush_Rest(const ZanDicTraceScope&) { return S_OK; }
+
 void ZanDicElement::drop_Links() {
     ZanDicObj::drop_Links();
     _Package.Reset();

@@ -9,8 +9,6 @@
 #include "ZanDicRef.h"
 #include "ZanDicRegistry.h"
 #include "ZanDicTeardown.h"
-#include "ZanDicTrace.h"
-#include "ZanDicTypeNames.h"
 
 ZELMetaClass& ZanDicEnum::ClassMeta() {
     static ZELMetaClass meta("ZanDicEnum", &ZanDicElement::ClassMeta());
@@ -87,21 +85,13 @@ HRESULT ZanDicEnum::RemoveEnumerator(const ZELString* name) {
 
 HRESULT ZanDicEnum::RemoveEnumValue(const ZELString* name) { return RemoveEnumerator(name); }
 
-HRESULT ZanDicEnum::FlushAll() {
-    const ZanDicTraceScope trace("ZanDicEnum::FlushAll", "RC=");
-    trace.Start("=== start === ");
-    if (auto line = trace.Line(TraceLevel::Detail)) {
-        line << "_Type=" << Type() << " (" << ZanDicTypeName(Type()) << "), _Name=" << Name();
-    }
-    trace.Say(TraceLevel::Detail, "processing _ENUMERATORS...");
-    return trace.Exit(DropOwned(_ENUMERATORS, "_ENUMERATORS", trace));
-}
+HRESULT ZanDicEnum::FlushAll() { return FlushOwner(*this); }
+
+ZanDicOwnedList ZanDicEnum::owned_List() { return {&_ENUMERATORS, "_ENUMERATORS", "ZanDicEnum::FlushAll"}; }
 
 void ZanDicEnum::take_Owned(std::vector<ZanDicObj*>& owned) {
-    for (int position = 1; position <= _ENUMERATORS.Size(); ++position)
-        owned.push_back(_ENUMERATORS[position]);
+    TakeList(_ENUMERATORS, owned);
     owned.insert(owned.end(), _REMOVED.begin(), _REMOVED.end());
-    _ENUMERATORS.clear();
     _REMOVED.RemoveAll();
 }
 

@@ -30,6 +30,12 @@ inline void WriteNotice(std::string_view operation, std::string_view text, ZELLi
     ZanDicWriteAlways(std::string(operation).append(" - ").append(text), severity);
 }
 
+/// An operation that is deprecated: an error line under its name. \returns E_FAIL.
+inline HRESULT RefuseDeprecated(std::string_view operation) {
+    ZanDicTraceScope(operation).Error(notice::kDeprecated);
+    return E_FAIL;
+}
+
 /// The factories without UUID: warn, then go on with a random one.
 /// \returns what \p create gives; E_FAIL, without a word, when \p name or \p out is null.
 template <class Name, class Out, class Create>

@@ -4,15 +4,24 @@
 
 #include "OXMIDicCategory.h"
 #include "OXMIDicClass.h"
+#include "OXMIDicCommand.h"
 #include "OXMIDicEnum.h"
+#include "OXMIDicExtension.h"
+#include "OXMIDicInterface.h"
 #include "OXMIDicPackage.h"
+#include "OXMIDicRBOClass.h"
+#include "OXMIDicRBOMapping.h"
 #include "ZELUuid.h"
 #include "ZanDicCategory.h"
 #include "ZanDicClass.h"
+#include "ZanDicCommand.h"
 #include "ZanDicEnum.h"
+#include "ZanDicExtension.h"
 #include "ZanDicHandOut.h"
 #include "ZanDicImplementation.h"
 #include "ZanDicNotices.h"
+#include "ZanDicRBOClass.h"
+#include "ZanDicRBOMapping.h"
 #include "ZanDicRef.h"
 #include "ZanDicRegistry.h"
 #include "ZanDicTeardown.h"
@@ -152,17 +161,45 @@ HRESULT ZanDicPackage::GetElementR(const ZELString* name, OXMIDicElement** eleme
     return rc;
 }
 
-HRESULT ZanDicPackage::GetRBOClass(const ZELString*, OXMIDicRBOClass**) const { return E_FAIL; }
+HRESULT ZanDicPackage::GetRBOClass(const ZELString* name, OXMIDicRBOClass** rboClass) const {
+    ZanDicObj* found = nullptr;
+    if (name == nullptr || rboClass == nullptr || Failed(_ELEMENTS.Search(*name, &found))) return E_FAIL;
+    return HandOutAs(*found, rboClass);
+}
 
-HRESULT ZanDicPackage::GetRBOMapping(const OXMIDicRBOClass* rboClass, OXMIDicRBOMapping**) const {
+HRESULT ZanDicPackage::GetRBOMapping(const OXMIDicRBOClass* rboClass, OXMIDicRBOMapping** mapping) const {
     const ZanDicTraceScope trace("ZanDicPackage::GetRBOMapping ");
-    trace.Error(rboClass == nullptr ? notice::kNullRBOClass : notice::kForeignRBOClass);
+    if (rboClass == nullptr || mapping == nullptr) {
+        trace.Error(notice::kNullRBOClass);
+        return E_FAIL;
+    }
+    const auto* const applied = LiveImplementationOf<ZanDicRBOClass>(rboClass);
+    if (applied == nullptr) {
+        trace.Error(notice::kForeignRBOClass);
+        return E_FAIL;
+    }
+    const int size = _ELEMENTS.Size();
+    for (int position = 1; position <= size; ++position) {
+        const ZanDicObj& element = *_ELEMENTS[position];
+        if (element.Type() != OXMDicTYPE_RBOMapping) continue;
+        if (static_cast<const ZanDicRBOMapping&>(element).applies_To(*applied))
+            return HandOutOwn(element, mapping);
+    }
     return E_FAIL;
 }
 
-HRESULT ZanDicPackage::AddCommand(const OXMIDicCommand*) { return E_FAIL; }
+HRESULT ZanDicPackage::AddCommand(const OXMIDicCommand* command) {
+    auto* const added = LiveImplementationOf<ZanDicCommand>(command);
+    ZanDicObj* present = nullptr;
+    if (added == nullptr || is_Gone() || Succeeded(_COMMANDS.Search(added->Name(), &present))) return E_FAIL;
+    return _COMMANDS.Append(added);
+}
 
-HRESULT ZanDicPackage::RemoveCommand(const OXMIDicCommand*) { return E_FAIL; }
+HRESULT ZanDicPackage::RemoveCommand(const OXMIDicCommand* command) {
+    ZELString name;
+    if (command == nullptr || Failed(const_cast<OXMIDicCommand*>(command)->GetName(&name))) return E_FAIL;
+    return _COMMANDS.Remove(name);
+}
 
 HRESULT ZanDicPackage::GetCommands(ZELListPtrIUnknown* commands) const {
     return AppendInterfaces(_COMMANDS, commands);
@@ -216,7 +253,8 @@ HRESULT ZanDicPackage::SetVersion(int) { return E_FAIL; }
 HRESULT ZanDicPackage::GetInterfaces(ZELListPtrIUnknown*) const { return E_FAIL; }
 
 template <class Element, class Interface>
-HRESULT ZanDicPackage::make_Element(const ZELString* name, const ZELDbBinary* uuid, Interface** element) {
+HRESULT ZanDicPackage::make_Element(const ZELString* name, const ZELDbBinary* uuid, Interface** element,
+                                    OXMDicTYPE type) {
     ZanDicRegistry* const registry = ZanDicGetRegistry();
     ZanDicObj* present = nullptr;
     if (name == nullptr || uuid == nullptr || element == nullptr || is_Gone() || registry == nullptr) {
@@ -225,6 +263,7 @@ HRESULT ZanDicPackage::make_Element(const ZELString* name, const ZELDbBinary* uu
     if (Succeeded(_ELEMENTS.Search(*name, &present))) return E_FAIL;
     ZanDicRef<Element> made(new Element(*name, *uuid));
     made->set_Package(this);
+    if (type != OXMDicTYPE_UNDEFINED) made->set_TYPE(type);
     if (const HRESULT rc = _ELEMENTS.Append(made.Get()); Failed(rc)) return rc;
     Element& owned = *made.Detach();
     HandOutOwn(owned, element);
@@ -244,20 +283,24 @@ HRESULT ZanDicPackage::CreateCategory(const ZELString* name, const ZELDbBinary* 
     return make_Element<ZanDicCategory>(name, uuid, element);
 }
 
-HRESULT ZanDicPackage::CreateExtension(const ZELString*, const ZELDbBinary*, OXMIDicExtension**) {
-    return E_FAIL;
+HRESULT ZanDicPackage::CreateExtension(const ZELString* name, const ZELDbBinary* uuid,
+                                       OXMIDicExtension** element) {
+    return make_Element<ZanDicExtension>(name, uuid, element);
 }
 
-HRESULT ZanDicPackage::CreateInterface(const ZELString*, const ZELDbBinary*, OXMIDicInterface**) {
-    return E_FAIL;
+HRESULT ZanDicPackage::CreateInterface(const ZELString* name, const ZELDbBinary* uuid,
+                                       OXMIDicInterface** element) {
+    return make_Element<ZanDicClass>(name, uuid, element, OXMDicTYPE_Interface);
 }
 
-HRESULT ZanDicPackage::CreateRBOClass(const ZELString*, const ZELDbBinary*, OXMIDicRBOClass**) {
-    return E_FAIL;
+HRESULT ZanDicPackage::CreateRBOClass(const ZELString* name, const ZELDbBinary* uuid,
+                                      OXMIDicRBOClass** element) {
+    return make_Element<ZanDicRBOClass>(name, uuid, element);
 }
 
-HRESULT ZanDicPackage::CreateRBOMapping(const ZELString*, const ZELDbBinary*, OXMIDicRBOMapping**) {
-    return E_FAIL;
+HRESULT ZanDicPackage::CreateRBOMapping(const ZELString* name, const ZELDbBinary* uuid,
+                                        OXMIDicRBOMapping** element) {
+    return make_Element<ZanDicRBOMapping>(name, uuid, element);
 }
 
 HRESULT ZanDicPackage::CreateRBOMapping(const ZELString*, OXMIDicRBOMapping**) { return E_FAIL; }
@@ -266,9 +309,11 @@ HRESULT ZanDicPackage::CreateClass_internal(const ZELString*, OXMIDicClass**) { 
 
 HRESULT ZanDicPackage::CreateAttributeBlock(const ZELDbBinary*, OXMIDicAttributeBlock**) { return E_FAIL; }
 
-void ZanDicPackage::take_Owned(std::vector<ZanDicObj*>& owned) {
-    for (int position = 1; position <= _ELEMENTS.Size(); ++position) owned.push_back(_ELEMENTS[position]);
-    _ELEMENTS.clear();
+void ZanDicPackage::take_Owned(std::vector<ZanDicObj*>& owned) { TakeList(_ELEMENTS, owned); }
+
+int ZanDicPackage::count_LostLinks() const {
+    return ZanDicObj::count_LostLinks() + _COMMANDS.LostCount() + _USEDPACKAGES.LostCount() +
+           _SCOPEPACKAGES.LostCount();
 }
 
 void ZanDicPackage::drop_Links() {

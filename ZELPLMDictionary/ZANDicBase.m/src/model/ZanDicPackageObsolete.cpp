@@ -33,15 +33,6 @@ HRESULT ZanDicPackage::CreateRBOClass(const ZELString* name, OXMIDicRBOClass** e
                                [&](const ZELDbBinary* uuid) { return CreateRBOClass(name, uuid, element); });
 }
 
-namespace {
-
-HRESULT RefuseDeprecated(std::string_view operation) {
-    ZanDicTraceScope(operation).Error(notice::kDeprecated);
-    return E_FAIL;
-}
-
-}  // namespace
-
 HRESULT ZanDicPackage::CreateCommand(const ZELString*, const ZELDbBinary*, OXMIDicCommand**) {
     return RefuseDeprecated("ZanDicPackage::CreateCommand");
 }

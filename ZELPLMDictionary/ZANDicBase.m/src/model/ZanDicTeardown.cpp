@@ -18,6 +18,80 @@ void KeepFrom(ZanHashList& owned, int position) {
     }
 }
 
+/// One list on its way down: announces each element, and drops it once it is flushed.
+class ListDrop {
+public:
+    ListDrop(ZanHashList& owned, std::string_view listName, const ZanDicTraceScope& trace)
+        : _Owned(&owned), _ListName(listName), _Trace(trace) {}
+
+    const ZanDicTraceScope& Trace() const { return _Trace; }
+
+    /// \returns the next element, which is to be flushed now; null after the last, and the list is empty.
+    ZanDicElement* Next() {
+        while (++_Position <= _Owned->Size()) {
+            auto* const element = static_cast<ZanDicElement*>((*_Owned)[_Position]);
+            if (element == nullptr) continue;
+            if (auto line = _Trace.Line(TraceLevel::Detail)) {
+                line << "processing " << _ListName << "[" << _Position << "]: " << element->Name()
+                     << ", Type: " << element->Type() << " (" << ZanDicTypeName(element->Type()) << ")";
+            }
+            return element;
+        }
+        _Owned->RemoveAll();
+        return nullptr;
+    }
+
+    /// Takes the result of the element's FlushAll. \returns it; after a failure the walk is over.
+    HRESULT Drop(HRESULT flushed) {
+        auto& element = static_cast<ZanDicElement&>(*(*_Owned)[_Position]);
+        if (auto line = _Trace.Line(TraceLevel::Detail)) {
+            line << "rc[" << _ListName << "[" << _Position
+                 << "]->FlushAll]=" << ZanDicTraceScope::Word(flushed);
+        }
+        if (Failed(flushed)) {
+            if (auto line = _Trace.Error()) {
+                line << "- *** ERROR *** could not process Element: " << element.Name()
+                     << ", Type: " << element.Type() << " (" << ZanDicTypeName(element.Type()) << ")";
+            }
+            KeepFrom(*_Owned, _Position);
+            return flushed;
+        }
+        std::uint32_t refCount = 0;
+        const HRESULT deleted = DropObject(element, &refCount);
+        if (auto line = _Trace.Line(TraceLevel::Detail)) {
+            line << "rc[ZanDictionary->Delete]=" << ZanDicTraceScope::Word(deleted);
+        }
+        if (auto line = _Trace.Line(TraceLevel::Detail)) {
+            line << "after " << _ListName << "[" << _Position << "]->Release, RefCount=" << refCount;
+        }
+        return flushed;
+    }
+
+private:
+    ZanHashList* _Owned;
+    std::string_view _ListName;
+    ZanDicTraceScope _Trace;
+    int _Position = 0;
+};
+
+/// An owner of a list whose flush has begun.
+struct Level {
+    ZanDicElement* owner;
+    ListDrop drop;
+};
+
+Level BeginFlush(ZanDicElement& owner) {
+    const ZanDicOwnedList owned = owner.owned_List();
+    const ZanDicTraceScope trace(owned.operation, "RC=");
+    trace.Start("=== start === ");
+    if (auto line = trace.Line(TraceLevel::Detail)) {
+        line << "_Type=" << owner.Type() << " (" << ZanDicTypeName(owner.Type())
+             << "), _Name=" << owner.Name();
+    }
+    if (auto line = trace.Line(TraceLevel::Detail)) line << "processing " << owned.name << "...";
+    return {&owner, ListDrop(*owned.list, owned.name, trace)};
+}
+
 }  // namespace
 
 HRESULT DropObject(ZanDicObj& object, std::uint32_t* refCount) {
@@ -29,44 +103,67 @@ HRESULT DropObject(ZanDicObj& object, std::uint32_t* refCount) {
 }
 
 HRESULT DropOwned(ZanHashList& owned, std::string_view listName, const ZanDicTraceScope& trace) {
-    for (int position = 1; position <= owned.Size(); ++position) {
-        auto* const element = static_cast<ZanDicElement*>(owned[position]);
-        if (element == nullptr) continue;
-        if (auto line = trace.Line(TraceLevel::Detail)) {
-            line << "processing " << listName << "[" << position << "]: " << element->Name()
-                 << ", Type: " << element->Type() << " (" << ZanDicTypeName(element->Type()) << ")";
-        }
-        const HRESULT flushed = element->FlushAll();
-        if (auto line = trace.Line(TraceLevel::Detail)) {
-            line << "rc[" << listName << "[" << position
-                 << "]->FlushAll]=" << ZanDicTraceScope::Word(flushed);
-        }
-        if (Failed(flushed)) {
-            if (auto line = trace.Error()) {
-                line << "- *** ERROR *** could not process Element: " << element->Name()
-                     << ", Type: " << element->Type() << " (" << ZanDicTypeName(element->Type()) << ")";
-            }
-            KeepFrom(owned, position);
-            return flushed;
-        }
-        std::uint32_t refCount = 0;
-        const HRESULT deleted = DropObject(*element, &refCount);
-        if (auto line = trace.Line(TraceLevel::Detail)) {
-            line << "rc[ZanDictionary->Delete]=" << ZanDicTraceScope::Word(deleted);
-        }
-        if (auto line = trace.Line(TraceLevel::Detail)) {
-            line << "after " << listName << "[" << position << "]->Release, RefCount=" << refCount;
+    ListDrop drop(owned, listName, trace);
+    while (ZanDicElement* const element = drop.Next()) {
+        if (const HRESULT rc = drop.Drop(element->FlushAll()); Failed(rc)) return rc;
+    }
+    return S_OK;
+}
+
+HRESULT FlushOwner(ZanDicElement& owner) {
+    std::vector<Level> way{BeginFlush(owner)};
+    HRESULT rc = S_OK;
+    while (true) {
+        Level& level = way.back();
+        ZanDicElement* const element = Failed(rc) ? nullptr : level.drop.Next();
+        if (element != nullptr && element->owned_List().list != nullptr) {
+            way.push_back(BeginFlush(*element));
+        } else if (element != nullptr) {
+            rc = level.drop.Drop(element->FlushAll());
+        } else {
+            if (Succeeded(rc)) rc = level.owner->flush_Rest(level.drop.Trace());
+            level.drop.Trace().Exit(rc);
+            way.pop_back();
+            if (way.empty()) return rc;
+            rc = way.back().drop.Drop(rc);
         }
     }
-    owned.RemoveAll();
-    return S_OK;
+}
+
+HRESULT DropMember(ZanDicElement& member, std::string_view memberName, const ZanDicTraceScope& trace) {
+    if (auto line = trace.Line(TraceLevel::Detail)) {
+        line << "processing " << memberName << ": " << member.Name() << ", Type: " << member.Type() << " ("
+             << ZanDicTypeName(member.Type()) << ")";
+    }
+    const HRESULT flushed = member.FlushAll();
+    if (auto line = trace.Line(TraceLevel::Detail)) {
+        line << "rc[" << memberName << "->FlushAll]=" << ZanDicTraceScope::Word(flushed);
+    }
+    std::uint32_t refCount = 0;
+    const HRESULT deleted = DropObject(member, &refCount);
+    if (auto line = trace.Line(TraceLevel::Detail)) {
+        line << "rc[ZanDictionary->Delete]=" << ZanDicTraceScope::Word(deleted);
+    }
+    if (auto line = trace.Line(TraceLevel::Detail)) {
+        line << "after " << memberName << "->Release, RefCount=" << refCount;
+    }
+    return flushed;
+}
+
+void TakeList(ZanHashList& owned, std::vector<ZanDicObj*>& taken) {
+    const int size = owned.Size();
+    for (int position = 1; position <= size; ++position) taken.push_back(owned[position]);
+    owned.clear();
 }
 
 void DropTaken(const std::vector<ZanDicObj*>& owned) {
     ZanDicRegistry* const registry = ZanDicFindRegistry();
-    for (ZanDicObj* object : owned) {
-        if (registry != nullptr && object->is_Registered()) registry->forget_Obj(*object);
-        object->mark_Gone();
-        object->Release();
+    std::vector<ZanDicObj*> taken(owned);
+    for (std::size_t next = 0; next < taken.size(); ++next) {
+        ZanDicObj& object = *taken[next];
+        object.take_Owned(taken);
+        if (registry != nullptr && object.is_Registered()) registry->forget_Obj(object);
+        object.mark_Gone();
+        object.Release();
     }
 }

@@ -9,6 +9,7 @@
 #include "ZELResult.h"
 #include "ZanHashList.h"
 
+class ZanDicElement;
 class ZanDicObj;
 class ZanDicTraceScope;
 
@@ -22,12 +23,25 @@ class ZanDicTraceScope;
 /// \returns S_OK; the failing FlushAll's result.
 HRESULT DropOwned(ZanHashList& owned, std::string_view listName, const ZanDicTraceScope& trace);
 
+/// The FlushAll of kinds that own one list (`ZanDicElement::owned_List`): start lines, the list by
+/// DropOwned's rules, what is left (`flush_Rest`), exit line. Goes down into owners of lists by itself: no
+/// depth of nesting recurses. \returns S_OK; the failing result of a member.
+HRESULT FlushOwner(ZanDicElement& owner);
+
+/// DropOwned for one element that no list holds. Its owner has let go of it. \param memberName of the field
+/// that held it, for the trace. \returns S_OK; the failing FlushAll's result: the element goes all the same.
+HRESULT DropMember(ZanDicElement& member, std::string_view memberName, const ZanDicTraceScope& trace);
+
 /// Drops one object that its owner's list no longer holds: out of the registry and gone, then the owner's
 /// reference. \param[out] refCount what was left of its references.
 /// \returns the result of the registry.
 HRESULT DropObject(ZanDicObj& object, std::uint32_t* refCount);
 
-/// Drops, without a word, objects whose owner has let go of them by `take_Owned`.
+/// Moves the references of an owning list to the end of \p taken; the list is empty after that.
+void TakeList(ZanHashList& owned, std::vector<ZanDicObj*>& taken);
+
+/// Drops, without a word, objects whose owner has let go of them by `take_Owned`, and what they own in turn;
+/// no depth of nesting recurses.
 void DropTaken(const std::vector<ZanDicObj*>& owned);
 
 #endif

@@ -34,6 +34,8 @@ HRESULT ZanDicUnique::GetElements(ZELListPtrIUnknown* elements) const {
     return AppendInterfaces(_ELEMENTS, elements);
 }
 
+int ZanDicUnique::count_LostLinks() const { return ZanDicElement::count_LostLinks() + _ELEMENTS.LostCount(); }
+
 void ZanDicUnique::drop_Links() {
     ZanDicElement::drop_Links();
     _ELEMENTS.clear();

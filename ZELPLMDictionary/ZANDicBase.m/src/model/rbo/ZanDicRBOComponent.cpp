@@ -23,23 +23,26 @@ ZanDicRBOComponent::ZanDicRBOComponent(const ZELString& name, const ZELDbBinary&
 ZanDicRBOComponent::~ZanDicRBOComponent() {
     std::vector<ZanDicObj*> owned;
     ZanDicRBOComponent::take_Owned(owned);
-    DropTaken(std::move(owned));
+    DropTaken(owned);
 }
 
 HRESULT ZanDicRBOComponent::CreateRBOPathExpression(const ZELString* name, const ZELDbBinary* uuid,
                                                     OXMIDicRBOPathExpression** path) {
     if (_PathExpression != nullptr) return E_FAIL;
-    return MakeRBOObject<ZanDicRBOPathExpression>(*this, name, uuid, path, [this](ZanDicRBOPathExpression& made) {
-        _PathExpression = &made;
-        return S_OK;
-    });
+    return MakeRBOObject<ZanDicRBOPathExpression>(*this, name, uuid, path,
+                                                  [this](ZanDicRBOPathExpression& made) {
+                                                      _PathExpression = &made;
+                                                      return S_OK;
+                                                  });
 }
 
 HRESULT ZanDicRBOComponent::GetRBOPathExpression(OXMIDicRBOPathExpression** path) const {
     return path != nullptr && _PathExpression != nullptr ? HandOutOwn(*_PathExpression, path) : E_FAIL;
 }
 
-HRESULT ZanDicRBOComponent::SetValidityRule(const ZELUnicodeString* rule) { return TakeValue(_ValidityRule, rule); }
+HRESULT ZanDicRBOComponent::SetValidityRule(const ZELUnicodeString* rule) {
+    return TakeValue(_ValidityRule, rule);
+}
 
 HRESULT ZanDicRBOComponent::GetValidityRule(ZELUnicodeString* rule) const {
     if (rule == nullptr) return E_FAIL;
@@ -61,7 +64,9 @@ HRESULT ZanDicRBOComponent::GetElements(ZELListPtrIUnknown* list) const {
     return rc;
 }
 
-ZanDicOwnedList ZanDicRBOComponent::owned_List() { return components_AsOwned("ZanDicRBOComponent::FlushAll"); }
+ZanDicOwnedList ZanDicRBOComponent::owned_List() {
+    return components_AsOwned("ZanDicRBOComponent::FlushAll");
+}
 
 HRESULT ZanDicRBOComponent::flush_Rest(const ZanDicTraceScope& trace) {
     if (_PathExpression == nullptr) return S_OK;
@@ -77,5 +82,5 @@ void ZanDicRBOComponent::drop_Links() {
     ZanDicRBONode::drop_Links();
     std::vector<ZanDicObj*> owned;
     ZanDicRBOComponent::take_Owned(owned);
-    DropTaken(std::move(owned));
+    DropTaken(owned);
 }

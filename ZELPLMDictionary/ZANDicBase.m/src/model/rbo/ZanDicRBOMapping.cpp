@@ -23,7 +23,7 @@ ZanDicRBOMapping::ZanDicRBOMapping(const ZELString& name, const ZELDbBinary& uui
 ZanDicRBOMapping::~ZanDicRBOMapping() {
     std::vector<ZanDicObj*> owned;
     ZanDicRBOMapping::take_Owned(owned);
-    DropTaken(std::move(owned));
+    DropTaken(owned);
 }
 
 HRESULT ZanDicRBOMapping::SetApplyToRBOClass(const OXMIDicRBOClass* rboClass) {
@@ -53,7 +53,8 @@ HRESULT ZanDicRBOMapping::GetApplyToRBOClassName(ZELUnicodeString* name) const {
     return GiveValue(_ApplyToRBOClassName, name);
 }
 
-HRESULT ZanDicRBOMapping::CreateRBORoot(const ZELString* name, const ZELDbBinary* uuid, OXMIDicRBORoot** root) {
+HRESULT ZanDicRBOMapping::CreateRBORoot(const ZELString* name, const ZELDbBinary* uuid,
+                                        OXMIDicRBORoot** root) {
     return MakeRBOMember<ZanDicRBORoot>(*this, _ROOTS, name, uuid, root);
 }
 
@@ -65,9 +66,9 @@ HRESULT ZanDicRBOMapping::FlushAll() { return FlushOwner(*this); }
 
 void ZanDicRBOMapping::Dump(const char* caller) const { DumpRBOObject(*this, caller); }
 
-ZELDbBinary ZanDicRBOMapping::applied_Uuid() const {
-    if (!_ApplyToRBOClassRef.IsEmpty() || !_ApplyToRBOClass) return _ApplyToRBOClassRef;
-    return _ApplyToRBOClass->Uuid();
+bool ZanDicRBOMapping::applies_To(const ZanDicRBOClass& rboClass) const {
+    return _ApplyToRBOClassRef.IsEmpty() ? _ApplyToRBOClass.Get() == &rboClass
+                                         : _ApplyToRBOClassRef == rboClass.Uuid();
 }
 
 ZanDicOwnedList ZanDicRBOMapping::owned_List() { return {&_ROOTS, "_ROOTS", "ZanDicRBOMapping::FlushAll"}; }
@@ -79,7 +80,7 @@ void ZanDicRBOMapping::drop_Links() {
     _ApplyToRBOClass.Reset();
     std::vector<ZanDicObj*> owned;
     ZanDicRBOMapping::take_Owned(owned);
-    DropTaken(std::move(owned));
+    DropTaken(owned);
 }
 
 int ZanDicRBOMapping::count_LostLinks() const {

@@ -16,7 +16,7 @@ ZanDicRBONode::ZanDicRBONode(const ZELString& name, const ZELDbBinary& uuid)
 ZanDicRBONode::~ZanDicRBONode() {
     std::vector<ZanDicObj*> owned;
     ZanDicRBONode::take_Owned(owned);
-    DropTaken(std::move(owned));
+    DropTaken(owned);
 }
 
 HRESULT ZanDicRBONode::SetBaseClass(const OXMIDicClass* baseClass) {
@@ -34,9 +34,13 @@ HRESULT ZanDicRBONode::SetBaseClassRef(const ZELDbBinary* uuid) { return TakeVal
 
 HRESULT ZanDicRBONode::GetBaseClassRef(ZELDbBinary* uuid) const { return GiveValue(_BaseClassRef, uuid); }
 
-HRESULT ZanDicRBONode::SetBaseClassName(const ZELUnicodeString* name) { return TakeValue(_BaseClassName, name); }
+HRESULT ZanDicRBONode::SetBaseClassName(const ZELUnicodeString* name) {
+    return TakeValue(_BaseClassName, name);
+}
 
-HRESULT ZanDicRBONode::GetBaseClassName(ZELUnicodeString* name) const { return GiveValue(_BaseClassName, name); }
+HRESULT ZanDicRBONode::GetBaseClassName(ZELUnicodeString* name) const {
+    return GiveValue(_BaseClassName, name);
+}
 
 HRESULT ZanDicRBONode::CreateRBOComponent(const ZELString* name, const ZELDbBinary* uuid,
                                           OXMIDicRBOComponent** component) {
@@ -54,7 +58,7 @@ void ZanDicRBONode::drop_Links() {
     _BaseClass.Reset();
     std::vector<ZanDicObj*> owned;
     ZanDicRBONode::take_Owned(owned);
-    DropTaken(std::move(owned));
+    DropTaken(owned);
 }
 
 int ZanDicRBONode::count_LostLinks() const {

@@ -1,0 +1,83 @@
+/// Ties of interfaces, methods and parameters.
+#ifndef OXMI_DIC_INTERFACE_TIES_H
+#define OXMI_DIC_INTERFACE_TIES_H
+
+#include "OXMIDicElementTies.h"
+#include "OXMIDicInterface.h"
+#include "OXMIDicMethod.h"
+#include "OXMIDicParameter.h"
+
+/// Forwards OXMIDicInterface.
+template <class Impl, class Base>
+class OXMIDicInterfaceLayer : public Base {
+public:
+    HRESULT CreateMethod(const ZELString* name, const ZELDbBinary* uuid, OXMIDicMethod** method) override {
+        return this->impl().CreateMethod(name, uuid, method);
+    }
+    HRESULT CreateMethod(const ZELString* name, OXMIDicMethod** method) override {
+        return this->impl().CreateMethod(name, method);
+    }
+    HRESULT RemoveMethod(const ZELString* name) override { return this->impl().RemoveMethod(name); }
+    HRESULT GetMethod(const ZELString* name, OXMIDicMethod** method) override {
+        return this->impl().GetMethod(name, method);
+    }
+    HRESULT GetMethods(ZELListPtrIUnknown* methods) override { return this->impl().GetMethods(methods); }
+    HRESULT GetClassMethod(const ZELString* name, OXMIDicMethod** method) override {
+        return this->impl().GetClassMethod(name, method);
+    }
+    HRESULT GetAllMethods(ZELListPtrIUnknown* methods) override {
+        return this->impl().GetAllMethods(methods);
+    }
+    HRESULT SetSuperInterface(const OXMIDicInterface* superInterface) override {
+        return this->impl().SetSuperInterface(superInterface);
+    }
+    HRESULT GetSuperInterface(OXMIDicInterface** superInterface) override {
+        return this->impl().GetSuperInterface(superInterface);
+    }
+    HRESULT GetSuperInterfaces(ZELListPtrIUnknown* superInterfaces) override {
+        return this->impl().GetSuperInterfaces(superInterfaces);
+    }
+};
+
+/// Forwards OXMIDicMethod.
+template <class Impl, class Base>
+class OXMIDicMethodLayer : public Base {
+public:
+    HRESULT CreateParameter(const ZELString* name, const ZELDbBinary* uuid,
+                            OXMIDicParameter** parameter) override {
+        return this->impl().CreateParameter(name, uuid, parameter);
+    }
+    HRESULT CreateParameter(const ZELString* name, OXMIDicParameter** parameter) override {
+        return this->impl().CreateParameter(name, parameter);
+    }
+    HRESULT GetParameter(const ZELString* name, OXMIDicParameter** parameter) override {
+        return this->impl().GetParameter(name, parameter);
+    }
+    HRESULT GetParameters(ZELListPtrIUnknown* parameters) override {
+        return this->impl().GetParameters(parameters);
+    }
+    HRESULT RemoveParameter(const ZELString* name) override { return this->impl().RemoveParameter(name); }
+};
+
+/// Forwards OXMIDicParameter.
+template <class Impl, class Base>
+class OXMIDicParameterLayer : public Base {
+public:
+    HRESULT GetType(OXMIDicElement** type) override { return this->impl().GetType(type); }
+    HRESULT SetType(const OXMIDicElement* type) override { return this->impl().SetType(type); }
+    HRESULT GetKind(OXMDicKIND* kind) override { return this->impl().GetKind(kind); }
+    HRESULT SetKind(OXMDicKIND kind) override { return this->impl().SetKind(kind); }
+    HRESULT GetDefault(ZELUnicodeString* value) override { return this->impl().GetDefault(value); }
+    HRESULT SetDefault(const ZELUnicodeString* value) override { return this->impl().SetDefault(value); }
+};
+
+template <class Impl>
+using OXMIDicInterfaceTie = OXMIDicInterfaceLayer<Impl, OXMIDicElementBase<OXMIDicInterface, Impl>>;
+
+template <class Impl>
+using OXMIDicMethodTie = OXMIDicMethodLayer<Impl, OXMIDicElementBase<OXMIDicMethod, Impl>>;
+
+template <class Impl>
+using OXMIDicParameterTie = OXMIDicParameterLayer<Impl, OXMIDicElementBase<OXMIDicParameter, Impl>>;
+
+#endif
