@@ -12,7 +12,6 @@
 template <class Impl, class Base>
 class OXMIDicAttributeLayer : public Base {
 public:
-    using Base::GetType;
     using Base::GetType;  // that of all objects
 
     HRESULT SetMandatory(unsigned char mandatory) override { return this->impl().SetMandatory(mandatory); }

@@ -24,7 +24,6 @@ public:
 template <class Impl, class Base>
 class OXMIDicElementHLayer : public Base {
 public:
-    using Base::GetType;
     using Base::GetType;  // attributes have another of that name
 
     HRESULT GetName(ZELString* name) override { return this->impl().GetName(name); }
