@@ -20,7 +20,8 @@ class KindsFixture : public ModelFixture {
 protected:
     /// Calls a factory that takes name and UUID, and expects it to work.
     template <class Owner, class Interface>
-    Held<Interface> Make(Owner& owner, HRESULT (Owner::*create)(const ZELString*, const ZELDbBinary*, Interface**),
+    Held<Interface> Make(Owner& owner,
+                         HRESULT (Owner::*create)(const ZELString*, const ZELDbBinary*, Interface**),
                          const char* name) {
         const ZELString text(name);
         const ZELDbBinary uuid = NextUuid();
@@ -64,7 +65,8 @@ protected:
 
     /// \returns the names that a list operation gives; a failure fails the test.
     template <class Owner, class Declared>
-    static std::string Listed(Owner& owner, HRESULT (Declared::*get)(ZELListPtrIUnknown*), HRESULT expected = S_OK) {
+    static std::string Listed(Owner& owner, HRESULT (Declared::*get)(ZELListPtrIUnknown*),
+                              HRESULT expected = S_OK) {
         HeldList list;
         EXPECT_EQ((owner.*get)(&list), expected);
         return NamesOf(list);

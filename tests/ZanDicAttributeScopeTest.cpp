@@ -75,9 +75,10 @@ TEST_F(ZanDicAttributeScopeTest, RefusesWhatIsNoClassWithALineThatNamesBoth) {
     ZELDbBinary referenced;
     maker->GetUuid(&own);
     colour->GetUuid(&referenced);
-    EXPECT_EQ(Written(), "ZanDicAttribute::AddScope-- incorrect metadata . an element of the scope in not a class "
-                         "element uuid:[" + own.HexText() + "] referenced uuid:[" + referenced.HexText() +
-                             "] class name Person.\n");
+    EXPECT_EQ(Written(),
+              "ZanDicAttribute::AddScope-- incorrect metadata . an element of the scope in not a class "
+              "element uuid:[" +
+                  own.HexText() + "] referenced uuid:[" + referenced.HexText() + "] class name Person.\n");
 }
 
 TEST_F(ZanDicAttributeScopeTest, AnAttributeWithoutClassIsNamedUndefined) {

@@ -39,9 +39,10 @@ TEST_F(ZanDicClassMethodsTest, TheFactoryWithoutUuidWarnsAndDrawsOne) {
     EXPECT_EQ(items->CreateInterface(Named("More"), made.Out()), S_OK);
 
     EXPECT_TRUE(IsRegistered(*made));
-    EXPECT_EQ(Written(),
-              "ZanDicPackage::CreateInterface - *** WARNING *** This method is now obsolete. Uuid will be assigned "
-              "dynamically.\n");
+    EXPECT_EQ(
+        Written(),
+        "ZanDicPackage::CreateInterface - *** WARNING *** This method is now obsolete. Uuid will be assigned "
+        "dynamically.\n");
 }
 
 TEST_F(ZanDicClassMethodsTest, RefusesASecondMethodOfOneNameWithoutAWord) {
@@ -89,9 +90,10 @@ TEST_F(ZanDicClassMethodsTest, CreateMethodWithoutUuidIsObsoleteAndItsLineHasASt
 
     EXPECT_EQ(shape->CreateMethod(Named("Area"), &made), E_FAIL);
 
-    EXPECT_EQ(Written(),
-              "ZanDicClass::CreateMethod- *** ERROR *** This method is now obsolete. Please use now the new method "
-              "providing the Uuid.\n");
+    EXPECT_EQ(
+        Written(),
+        "ZanDicClass::CreateMethod- *** ERROR *** This method is now obsolete. Please use now the new method "
+        "providing the Uuid.\n");
 }
 
 TEST_F(ZanDicClassMethodsTest, GetMethodClimbsAndGetClassMethodDoesNot) {
@@ -173,8 +175,9 @@ TEST_F(ZanDicClassMethodsTest, RemoveMethodOfAnUnknownNameIsNoFailureButSaysSo) 
 
     EXPECT_EQ(shape->RemoveMethod(Named("Area")), S_FALSE);
 
-    EXPECT_EQ(Written(),
-              "ZanDicClass::RemoveMethod- *** ERROR *** Could not find Element named Area for Class Shape.\n");
+    EXPECT_EQ(
+        Written(),
+        "ZanDicClass::RemoveMethod- *** ERROR *** Could not find Element named Area for Class Shape.\n");
 }
 
 TEST_F(ZanDicClassMethodsTest, RemoveMethodOfOneThatIsNotRegisteredSaysSoAndReleasesIt) {
@@ -249,7 +252,8 @@ TEST_F(ZanDicClassMethodsTest, ASuperInterfaceThatIsGoneReadsAsNeverSet) {
     ClearWritten();
     EXPECT_EQ(shape->SetSuperInterface(base.Get()), E_FAIL);
     EXPECT_EQ(Written(),
-              "ZanDicClass::SetSuperInterface- *** ERROR *** Could not get implementation from OXMIDicInterface.\n");
+              "ZanDicClass::SetSuperInterface- *** ERROR *** Could not get implementation from "
+              "OXMIDicInterface.\n");
 }
 
 }  // namespace

@@ -50,9 +50,9 @@ TEST_F(ZanDicCommandTest, EveryOperationOfACommandRefusesWithItsNotice) {
     EXPECT_EQ(target, nullptr);
     EXPECT_EQ(elements.Size(), 0);
     EXPECT_EQ(Written(), Notice("ZanDicCommand::CreateParameter") + Notice("ZanDicCommand::CreateParameter") +
-                             Notice("ZanDicCommand::GetCommandType") + Notice("ZanDicCommand::SetCommandType") +
-                             Notice("ZanDicCommand::GetElements") + Notice("ZanDicCommand::GetTarget") +
-                             Notice("ZanDicCommand::SetTarget"));
+                             Notice("ZanDicCommand::GetCommandType") +
+                             Notice("ZanDicCommand::SetCommandType") + Notice("ZanDicCommand::GetElements") +
+                             Notice("ZanDicCommand::GetTarget") + Notice("ZanDicCommand::SetTarget"));
 }
 
 TEST_F(ZanDicCommandTest, EveryOperationOfAParameterRefusesWithItsNotice) {
@@ -64,7 +64,8 @@ TEST_F(ZanDicCommandTest, EveryOperationOfAParameterRefusesWithItsNotice) {
     EXPECT_EQ(parameter->SetTarget(nullptr), E_FAIL);
 
     EXPECT_EQ(element, nullptr);
-    EXPECT_EQ(Written(), Notice("ZanDicCommandParameter::GetOrigin") + Notice("ZanDicCommandParameter::GetTarget") +
+    EXPECT_EQ(Written(), Notice("ZanDicCommandParameter::GetOrigin") +
+                             Notice("ZanDicCommandParameter::GetTarget") +
                              Notice("ZanDicCommandParameter::SetTarget"));
 }
 
@@ -112,7 +113,8 @@ TEST_F(ZanDicCommandTest, ACopiedParameterHasTheAttributePart) {
     assigned = *parameterObject;
     EXPECT_EQ(parameterObject->RemoveScope(part.Get()), S_OK);
 
-    for (const ZanDicCommandParameter* each : {&copy, static_cast<const ZanDicCommandParameter*>(&assigned)}) {
+    for (const ZanDicCommandParameter* each :
+         {&copy, static_cast<const ZanDicCommandParameter*>(&assigned)}) {
         unsigned char mandatory = 0;
         ZELUnicodeString text;
         HeldList scopes;

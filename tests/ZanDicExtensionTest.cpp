@@ -34,9 +34,10 @@ TEST_F(ZanDicExtensionTest, TheFactoryWithoutUuidWarnsAndDrawsOne) {
     EXPECT_EQ(items->CreateExtension(Named("More"), made.Out()), S_OK);
 
     EXPECT_TRUE(IsRegistered(*made));
-    EXPECT_EQ(Written(),
-              "ZanDicPackage::CreateExtension - *** WARNING *** This method is now obsolete. Uuid will be assigned "
-              "dynamically.\n");
+    EXPECT_EQ(
+        Written(),
+        "ZanDicPackage::CreateExtension - *** WARNING *** This method is now obsolete. Uuid will be assigned "
+        "dynamically.\n");
 }
 
 TEST_F(ZanDicExtensionTest, ANameIsTakenByAnyKind) {

@@ -80,9 +80,10 @@ TEST_F(ZanDicMethodTest, CreateParameterWithoutUuidIsObsoleteAndItsLineHasNoStop
     EXPECT_EQ(area->CreateParameter(Named("Unit"), &made), E_FAIL);
 
     EXPECT_EQ(made, nullptr);
-    EXPECT_EQ(Written(),
-              "ZanDicMethod::CreateParameter - *** ERROR *** This method is now obsolete. Please use now the new "
-              "method providing the Uuid\n");
+    EXPECT_EQ(
+        Written(),
+        "ZanDicMethod::CreateParameter - *** ERROR *** This method is now obsolete. Please use now the new "
+        "method providing the Uuid\n");
 }
 
 TEST_F(ZanDicMethodTest, FindsAndListsParameters) {

@@ -175,9 +175,10 @@ TEST_F(ZanDicRBOMappingTest, TheFactoriesWithoutUuid) {
     ClearWritten();
 
     EXPECT_EQ(tables->CreateRBOClass(Named("Line"), line.Out()), S_OK);
-    EXPECT_EQ(Written(),
-              "ZanDicPackage::CreateRBOClass - *** WARNING *** This method is now obsolete. Uuid will be assigned "
-              "dynamically.\n");
+    EXPECT_EQ(
+        Written(),
+        "ZanDicPackage::CreateRBOClass - *** WARNING *** This method is now obsolete. Uuid will be assigned "
+        "dynamically.\n");
     ClearWritten();
     EXPECT_EQ(tables->CreateRBOMapping(Named("More"), &made), E_FAIL);
     EXPECT_EQ(Written(), "");
