@@ -323,7 +323,16 @@ private:
     static void AskList(Owner& owner, HRESULT (Owner::*get)(ZELListPtrIUnknown*)) {
         HeldList list;
         RC_ASSERT(Succeeded((owner.*get)(&list)));
-        NamesOf(list);
+        for (IUnknown* const entry : list) AssertIsThere(entry);
+    }
+
+    /// What is handed out is in the dictionary: what is gone has no package any more. Primitives and
+    /// parameters never have one.
+    static void AssertIsThere(IUnknown* face) {
+        const auto element = face != nullptr ? QueryFor<OXMIDicElement>(*face) : Held<OXMIDicElement>();
+        if (!element || QueryFor<OXMIDicPrimitive>(*element) || QueryFor<OXMIDicParameter>(*element)) return;
+        ZELString package;
+        RC_ASSERT(element->GetPackageName(&package) == S_OK);
     }
 
     static void AskElement(OXMIDicElement& element) {
@@ -355,9 +364,12 @@ private:
         RC_ASSERT(owner.GetSuperClasses(&supers) == S_FALSE);
         RC_ASSERT((owner.GetSuperClass(superClass.Out()) == S_OK) == (supers.Size() != 0));
         RC_ASSERT(owner.GetInjectivesPointingOnMe(injectives) == S_OK);
+        for (IUnknown* const entry : injectives) AssertIsThere(entry);
+        for (IUnknown* const entry : supers) AssertIsThere(entry);
         RC_ASSERT(owner.GetExtensible(&extensible) == S_FALSE);
         RC_ASSERT(owner.GetKVADerivable(&derivable) == S_FALSE);
         owner.GetReference(reference.Out());
+        AssertIsThere(reference.Get());
     }
 
     static void AskEnum(OXMIDicEnum& owner) {
@@ -374,12 +386,18 @@ private:
         relationship.GetTarget(target.Out());
         relationship.GetOrigin(origin.Out());
         relationship.GetSpecializedAttribute(specialized.Out());
+        for (IUnknown* const linked :
+             {static_cast<IUnknown*>(target.Get()), static_cast<IUnknown*>(origin.Get()),
+              static_cast<IUnknown*>(specialized.Get())}) {
+            AssertIsThere(linked);
+        }
         HeldList scopes;
         unsigned char inScope = 2;
         ZELDbBinary uuid;
         if (origin) origin->GetUuid(&uuid);
         RC_ASSERT(Succeeded(relationship.GetScopes(&scopes)));
-        RC_ASSERT((relationship.IsClassInScope(&uuid, &inScope) == S_OK) == (inScope == 1));
+        const HRESULT answer = relationship.IsClassInScope(&uuid, &inScope);
+        RC_ASSERT(answer == (inScope == 1 ? S_OK : S_FALSE));
     }
 
     static void AskInterface(OXMIDicInterface& interface) {
@@ -390,7 +408,9 @@ private:
 
     static void AskParameter(OXMIDicParameter& parameter) {
         Held<OXMIDicElement> type;
-        RC_ASSERT((parameter.GetType(type.Out()) == S_OK) == static_cast<bool>(type));
+        const HRESULT answer = parameter.GetType(type.Out());
+        RC_ASSERT(answer == (type ? S_OK : S_FALSE));
+        AssertIsThere(type.Get());
     }
 
     static void AskRBO(OXMIDicElementH& object) {
@@ -400,11 +420,13 @@ private:
         Held<OXMIDicRBOPathExpression> path;
         if (const auto face = QueryFor<OXMIDicRBOMapping>(object)) {
             AskList(*face, &OXMIDicRBOMapping::GetElements);
-            RC_ASSERT((face->GetApplyToRBOClass(applied.Out()) == S_OK) == static_cast<bool>(applied));
+            const HRESULT answer = face->GetApplyToRBOClass(applied.Out());
+            RC_ASSERT(answer == (applied ? S_OK : E_FAIL));
         }
         if (const auto face = QueryFor<OXMIDicRBORoot>(object)) {
             AskList(*face, &OXMIDicRBORoot::GetElements);
-            RC_ASSERT((face->GetBaseClass(base.Out()) == S_OK) == static_cast<bool>(base));
+            const HRESULT answer = face->GetBaseClass(base.Out());
+            RC_ASSERT(answer == (base ? S_OK : E_FAIL));
         }
         if (const auto face = QueryFor<OXMIDicRBOComponent>(object)) {
             AskList(*face, &OXMIDicRBOComponent::GetElements);
@@ -412,6 +434,11 @@ private:
             face->GetRBOPathExpression(path.Out());
         }
         if (const auto face = QueryFor<OXMIDicRBOPathExpression>(object)) face->GetTarget(target.Out());
+        for (IUnknown* const linked :
+             {static_cast<IUnknown*>(applied.Get()), static_cast<IUnknown*>(base.Get()),
+              static_cast<IUnknown*>(target.Get()), static_cast<IUnknown*>(path.Get())}) {
+            AssertIsThere(linked);
+        }
     }
 
     static void AskInverse(OXMIDicInverse& inverse) {
@@ -419,6 +446,8 @@ private:
         Held<OXMIDicElement> type;
         inverse.GetInverse(relationship.Out());
         inverse.GetType(type.Out());
+        AssertIsThere(relationship.Get());
+        AssertIsThere(type.Get());
     }
 
     OXMIDicMgr& _Manager;
