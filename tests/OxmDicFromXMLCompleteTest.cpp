@@ -8,6 +8,7 @@
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
 #include "ReaderFixture.h"
+#include "ZanDicClass.h"
 
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -265,6 +266,18 @@ TEST_F(OxmDicFromXMLCompleteTest, ADomainWithoutTextIsNotNamed) {
                 HasSubstr("OxmDicFromXML:CheckSameDomain- *** ERROR *** Element C in Package P for Domain "
                           "VALKOR cannot be related to Element S in Package Base because Domains are "
                           "different..\n"));
+}
+
+TEST_F(OxmDicFromXMLCompleteTest, AnElementWithoutPackageIsNoTarget) {
+    const ZELDbBinary uuid = TestUuid(2);
+    Held<ZanDicClass> orphan(new ZanDicClass("S", uuid));
+    orphan->SetUuid(&uuid);  // registers it
+
+    EXPECT_EQ(LoadBody(ClassTag("C", 1, Ref("SuperRef", 2))), E_FAIL);
+
+    EXPECT_THAT(Written(),
+                HasSubstr("OxmDicFromXML:CheckSameDomain- *** ERROR *** Could not get Package from "
+                          "Element.\n"));
 }
 
 TEST_F(OxmDicFromXMLCompleteTest, TheOtherPartyOfACrossDomainReferenceIsNamed) {
