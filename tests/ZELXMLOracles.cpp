@@ -93,18 +93,15 @@ void NoteEnd(void* user, const xmlChar*) {
 }
 
 void NoteFault(void* user, xmlErrorPtr error) {
-    if (error->level != XML_ERR_FATAL) return;
-    static_cast<LibxmlReading*>(static_cast<xmlParserCtxt*>(user)->_private)->faults.insert(error->code);
+    if (error->level == XML_ERR_FATAL) static_cast<LibxmlReading*>(user)->faults.insert(error->code);
 }
-
-void PrintNothing(void*, const char*, ...) {}
 
 xmlParserInputPtr LoadNothing(const char*, const char*, xmlParserCtxtPtr) { return nullptr; }
 
 LibxmlReading ReadWithLibxml(std::string_view text) {
     LibxmlReading reading;
     xmlSetExternalEntityLoader(LoadNothing);
-    xmlSetGenericErrorFunc(nullptr, PrintNothing);
+    xmlSetStructuredErrorFunc(&reading, NoteFault);  // the context's own handler is for SAX 2 only
     const std::unique_ptr<xmlParserCtxt, decltype(&xmlFreeParserCtxt)> context(
         xmlCreateMemoryParserCtxt(text.data(), static_cast<int>(text.size())), xmlFreeParserCtxt);
     if (context == nullptr) return reading;
@@ -113,11 +110,12 @@ LibxmlReading ReadWithLibxml(std::string_view text) {
     context->_private = &reading;
     context->sax->startElement = NoteStart;
     context->sax->endElement = NoteEnd;
-    context->sax->serror = NoteFault;
     xmlParseDocument(context.get());
+    xmlSetStructuredErrorFunc(nullptr, nullptr);
+    const bool failed = context->wellFormed == 0 && reading.faults.empty();
+    if (failed) reading.faults.insert(context->errNo);
     reading.faults.erase(XML_ERR_ATTRIBUTE_REDEFINED);
-    const bool twiceOnly = context->wellFormed == 0 && context->errNo == XML_ERR_ATTRIBUTE_REDEFINED;
-    reading.wellFormed = reading.faults.empty() && (context->wellFormed != 0 || twiceOnly);
+    reading.wellFormed = reading.faults.empty();
     xmlFreeDoc(context->myDoc);
     context->myDoc = nullptr;
     return reading;
@@ -141,7 +139,10 @@ bool IsDeparture(std::string_view text, bool hasDoctype) {
     ZELXMLTokenizer tokenizer(padded.data(), text.size(), store);
     tokenizer.Run();
     const std::string_view before = text.substr(0, tokenizer.FaultOffset());
+    const std::string_view after = text.substr(before.size());
     switch (tokenizer.Fault()) {
+        case ZELXMLFault::ForbiddenCharacter:
+            return after.starts_with('\0');
         case ZELXMLFault::OtherEncodingMark:
         case ZELXMLFault::OtherEncodingDeclared:
         case ZELXMLFault::NotAscii:
@@ -149,7 +150,7 @@ bool IsDeparture(std::string_view text, bool hasDoctype) {
         case ZELXMLFault::ReferenceUndefined:
             return hasDoctype;
         case ZELXMLFault::DeclarationVersion:
-            return text.substr(before.size()).starts_with("1.");
+            return after.starts_with("1.");
         case ZELXMLFault::DoctypeMalformed:
             return before.ends_with("<!DOCTYPE");
         default:

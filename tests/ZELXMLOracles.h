@@ -9,7 +9,8 @@
 ///
 /// Not compared, because it differs on purpose: an attribute given twice, encodings other than UTF-8,
 /// entities that a document type declaration defines, and what its internal subset says. Nor is what
-/// libxml2 is lenient about: a version number "1." and a missing blank behind "<!DOCTYPE".
+/// libxml2 is lenient about: a version number "1.", a missing blank behind "<!DOCTYPE", NULs outside the
+/// root element.
 /// \returns what they disagree about; empty when they agree.
 std::string ZELXMLDisagreement(std::string_view text);
 
