@@ -1,11 +1,13 @@
 #include "ZanDicTieTable.h"
 
+#include "OXMIDicAttributeBlockTies.h"
 #include "OXMIDicAttributeTies.h"
 #include "OXMIDicClassTies.h"
 #include "OXMIDicElementTies.h"
 #include "OXMIDicMemberTies.h"
 #include "OXMIDicPackageTies.h"
 #include "ZanDicAttribute.h"
+#include "ZanDicAttributeBlock.h"
 #include "ZanDicCategory.h"
 #include "ZanDicClass.h"
 #include "ZanDicEnum.h"
@@ -34,6 +36,8 @@ constexpr ZELTieRow kEnumeratorRows[] = {ZELMakeTieRow<OXMIDicEnumeratorTie<ZanD
 constexpr ZELTieRow kPrimitiveRows[] = {ZELMakeTieRow<OXMIDicPrimitiveTie<ZanDicPrimitive>>()};
 constexpr ZELTieRow kCategoryRows[] = {ZELMakeTieRow<OXMIDicCategoryTie<ZanDicCategory>>()};
 constexpr ZELTieRow kUniqueRows[] = {ZELMakeTieRow<OXMIDicUniqueTie<ZanDicUnique>>()};
+constexpr ZELTieRow kAttributeBlockRows[] = {
+    ZELMakeTieRow<OXMIDicAttributeBlockTie<ZanDicAttributeBlock>>()};
 
 /// Registers the rows when the library is loaded.
 [[maybe_unused]] const bool kRegistered = [] {
@@ -55,6 +59,7 @@ std::span<const ZanDicTieTableEntry> ZanDicTieTable() {
         {ZanDicPrimitive::ClassMeta(), kPrimitiveRows},
         {ZanDicCategory::ClassMeta(), kCategoryRows},
         {ZanDicUnique::ClassMeta(), kUniqueRows},
+        {ZanDicAttributeBlock::ClassMeta(), kAttributeBlockRows},
     };
     return table;
 }

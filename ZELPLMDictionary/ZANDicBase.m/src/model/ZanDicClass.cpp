@@ -75,6 +75,7 @@ void ZanDicClass::drop_Links() {
     _Reference.Reset();
     _invSuperClass.RemoveAll();
     _ALLATTRIBUTES.reset();
+    if (rare() != nullptr) make_Fields().blocks.reset();
 }
 
 HRESULT ZanDicClass::Create(const ZELString* name, const ZELDbBinary* uuid, OXMDicTYPE type,

@@ -95,11 +95,3 @@ HRESULT ZanDicClass::GetMethod(const ZELString*, OXMIDicMethod**) const { return
 HRESULT ZanDicClass::GetMethods(ZELListPtrIUnknown*) const { return E_FAIL; }
 HRESULT ZanDicClass::GetClassMethod(const ZELString*, OXMIDicMethod**) const { return E_FAIL; }
 HRESULT ZanDicClass::GetAllMethods(ZELListPtrIUnknown*) const { return E_FAIL; }
-
-HRESULT ZanDicClass::GetAttBlock(const ZELString*, OXMIDicAttributeBlock**) const { return E_FAIL; }
-HRESULT ZanDicClass::GetAttBlocks(ZELListPtrIUnknown*) const { return E_FAIL; }
-HRESULT ZanDicClass::GetAttBlockForAtt(const ZELString*, OXMIDicAttributeBlock**) const { return E_FAIL; }
-HRESULT ZanDicClass::GetCBlockForAtt(const ZELString*, int, OXMIDicAttributeBlock**) { return E_FAIL; }
-HRESULT ZanDicClass::HasAttBlocks(unsigned char*) const { return E_FAIL; }
-HRESULT ZanDicClass::GetAllAttributeBlockList(ZELListPtrIUnknown*) const { return E_FAIL; }
-HRESULT ZanDicClass::RegisterBlockByName(OXMIDicAttributeBlock*, const ZELString*) { return E_FAIL; }

@@ -202,12 +202,11 @@ HRESULT ZanDicPackage::FlushAll() {
     if (auto line = trace.Line(TraceLevel::Detail)) line << "@=" << this;
     trace.Say(TraceLevel::Detail, "processing _ELEMENTS...");
     if (const HRESULT rc = DropOwned(_ELEMENTS, "_ELEMENTS", trace); Failed(rc)) return rc;
+    drop_Blocks();
     trace.Say(TraceLevel::Detail, "processing _COMMANDS...");
     trace.Warning("*** WARNING *** processing _COMMANDS: TO BE COMPLETED !");
     return trace.Exit(S_OK);
 }
-
-HRESULT ZanDicPackage::ComputeAttributeBlocks(const ZELListPtrIUnknown*) { return E_FAIL; }
 
 HRESULT ZanDicPackage::GetVersion(int*) const { return E_FAIL; }
 
@@ -264,11 +263,11 @@ HRESULT ZanDicPackage::CreateRBOMapping(const ZELString*, OXMIDicRBOMapping**) {
 
 HRESULT ZanDicPackage::CreateClass_internal(const ZELString*, OXMIDicClass**) { return E_FAIL; }
 
-HRESULT ZanDicPackage::CreateAttributeBlock(const ZELDbBinary*, OXMIDicAttributeBlock**) { return E_FAIL; }
-
 void ZanDicPackage::take_Owned(std::vector<ZanDicObj*>& owned) {
     for (int position = 1; position <= _ELEMENTS.Size(); ++position) owned.push_back(_ELEMENTS[position]);
     _ELEMENTS.clear();
+    owned.insert(owned.end(), _BLOCKS.begin(), _BLOCKS.end());
+    _BLOCKS.RemoveAll();
 }
 
 void ZanDicPackage::drop_Links() {
