@@ -51,7 +51,8 @@ HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTEN
     return LoadPackage(packageName, mode, OXMDicCONTENT_metadata);
 }
 
-HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTENT mode, OXMDicCONTENT content) {
+HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTENT mode,
+                                   OXMDicCONTENT content) {
     constexpr ZanDicTraceScope trace("ZanDictionary::LoadPackage", kExitWord);
     trace.Start();
     if (auto line = trace.Line(TraceLevel::Information)) {
@@ -59,7 +60,8 @@ HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTEN
     }
     if (mode < OXMDicPERSISTENT_None) {
         if (auto line = trace.Error()) {
-            line << "*** ERROR *** Should not be called with iMode=" << mode << " to load package " << packageName;
+            line << "*** ERROR *** Should not be called with iMode=" << mode << " to load package "
+                 << packageName;
         }
         trace.CallStack();
         if (auto line = trace.Error()) {
@@ -168,4 +170,6 @@ HRESULT ZanDictionary::SaveXml(const char* directory, const ZELString* packageNa
     return trace.Exit(E_FAIL);
 }
 
-HRESULT ZanDictionary::SaveExpress(const char* /*directory*/, const ZELString* /*packageName*/) { return E_FAIL; }
+HRESULT ZanDictionary::SaveExpress(const char* /*directory*/, const ZELString* /*packageName*/) {
+    return E_FAIL;
+}
