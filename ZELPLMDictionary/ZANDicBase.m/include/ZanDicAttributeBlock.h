@@ -16,7 +16,8 @@ struct ZanDicBlockPart;
 /// Made by a package, which owns it; registered with the manager, but no element. Class, father, root and
 /// attributes are links: what is gone counts as absent. A link setter refuses what is gone, and everything
 /// once the block is gone itself; a null pointer as an argument gives E_FAIL and changes nothing. Chains of
-/// fathers are walked by loops: their length is no limit, and inherited attributes cost no memory. One thread.
+/// fathers are walked by loops: their length is no limit, and inherited attributes cost no memory. One
+/// thread.
 class ZANDICBASE_API ZanDicAttributeBlock : public ZanDicObj {
 public:
     /// Name "UNDEFINED", as long as nobody gives it one.
@@ -83,13 +84,13 @@ protected:
 private:
     bool is_Above(const ZanDicAttributeBlock& other) const;
 
-    ZanDicLink<ZanDicClass> _Class;            ///< not owning
-    ZanDicLink<ZanDicAttributeBlock> _Father;  ///< not owning: as declared, or as built
-    ZanDicLink<ZanDicAttributeBlock> _Root;    ///< not owning; unset until built
+    ZanDicLink<ZanDicClass> _Class;                ///< not owning
+    ZanDicLink<ZanDicAttributeBlock> _Father;      ///< not owning: as declared, or as built
+    ZanDicLink<ZanDicAttributeBlock> _Root;        ///< not owning; unset until built
     std::shared_ptr<ZanDicBlockPart> _ATTRIBUTES;  ///< links; the father's are shared; null for none
-    bool _Complete = false;   ///< the father's attributes are among them
-    bool _IsFather = false;   ///< some block had this one as its father
-    bool _Described = false;  ///< by a document
+    bool _Complete = false;                        ///< the father's attributes are among them
+    bool _IsFather = false;                        ///< some block had this one as its father
+    bool _Described = false;                       ///< by a document
 };
 
 #endif

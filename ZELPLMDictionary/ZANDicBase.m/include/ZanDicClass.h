@@ -177,12 +177,12 @@ public:
     /// The first visible block that holds an attribute of that name. \returns S_OK; E_FAIL.
     HRESULT GetAttBlockForAtt(const ZELString* attributeName, OXMIDicAttributeBlock** block);
     /// The default block: of the attributes that no visible block holds, neither multi-valued ones nor
-    /// inverses, the last of all attributes first, as they are when it is made. Its father is the default block
-    /// of the super class, which is made first where there is none.
-    /// \param attributeName null, or an attribute that the block has to hold; it is then made in any case.
-    /// \param create whether to make it without a name.
-    /// \param[out] block null unless handed out. \returns S_OK; S_FALSE when there is none and none is to
-    /// be made; E_FAIL for a null \p block, without a package, or when the block does not hold the attribute.
+    /// inverses, the last of all attributes first, as they are when it is made. Its father is the default
+    /// block of the super class, which is made first where there is none. \param attributeName null, or an
+    /// attribute that the block has to hold; it is then made in any case. \param create whether to make it
+    /// without a name. \param[out] block null unless handed out. \returns S_OK; S_FALSE when there is none
+    /// and none is to be made; E_FAIL for a null \p block, without a package, or when the block does not hold
+    /// the attribute.
     HRESULT GetCBlockForAtt(const ZELString* attributeName, int create, OXMIDicAttributeBlock** block);
     /// Makes a block one of the own ones, under its own name. \returns S_OK; E_FAIL for null, for what is no
     /// block in the dictionary, and when the name is taken, by another block after a line on standard error.

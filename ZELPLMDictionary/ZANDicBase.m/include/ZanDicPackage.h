@@ -140,6 +140,7 @@ private:
     ZELString _Domain;
     mutable bool _OnTheWay = false;  ///< during GetAllElements: among those whose elements are being listed
     ZanHashList _ELEMENTS;           ///< this package owns one reference to each
+    ZELListPtrZanDicObj _BLOCKS;     ///< attribute blocks: this package owns one reference to each
     ZanHashList _COMMANDS;           ///< not owning
     ZanHashList _USEDPACKAGES;       ///< not owning
     ZanHashList _SCOPEPACKAGES;      ///< not owning

@@ -16,8 +16,10 @@
 /// A fault of blocks.
 struct ZanDicBlockFault {
     std::vector<std::string> lines;  ///< for standard error
+    std::string reason;              ///< what is wrong, in one plain sentence without full stop
     ZELDbBinary block;               ///< the block at fault; empty when it is a class
     ZELDbBinary owner;               ///< the class at fault, or that of the block; empty when there is none
+    std::string ownerName;
 };
 
 /// Is told faults instead of standard error, which is then its own business.
@@ -49,7 +51,7 @@ struct ZanDicTuningMember {
     OXMIDicPackage& package;
     const ZELListPtrIUnknown& blocks;
     ZanDicBlockFaultListener* listener = nullptr;  ///< null: standard error
-    HRESULT result = S_OK;                         ///< of the computation; one that failed before takes no part
+    HRESULT result = S_OK;  ///< of the computation; one that failed before takes no part
 };
 
 /// Computes the blocks of all members: each pass goes over the blocks of every member before the next begins,

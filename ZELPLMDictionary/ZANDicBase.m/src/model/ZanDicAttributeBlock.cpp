@@ -47,11 +47,14 @@ private:
     bool _GoesRound = false;
 };
 
-void TellFault(std::string_view text, const ZanDicAttributeBlock& block) {
-    const ZanDicClass* const owner = block.get_Class();
-    ZanDicTellBlockFault({{std::string(text) + UuidText(block.Uuid())},
-                          block.Uuid(),
-                          owner != nullptr ? owner->Uuid() : ZELDbBinary()});
+void TellFault(std::string_view text, std::string_view reason, const ZanDicAttributeBlock& block) {
+    ZanDicBlockFault fault{
+        {std::string(text) + UuidText(block.Uuid())}, std::string(reason), block.Uuid(), {}, {}};
+    if (const ZanDicClass* const owner = block.get_Class(); owner != nullptr) {
+        fault.owner = owner->Uuid();
+        fault.ownerName = owner->Name().View();
+    }
+    ZanDicTellBlockFault(fault);
 }
 
 }  // namespace
@@ -165,7 +168,7 @@ HRESULT ZanDicAttributeBlock::BuildName() {
     FatherWalk walk(this);
     for (; walk.Get() != nullptr && !walk.Get()->is_Named(); walk.Next()) nameless.push_back(walk.Get());
     if (walk.Get() == nullptr) {
-        TellFault(blocktext::kNoName, *nameless.back());
+        TellFault(blocktext::kNoName, blocktext::kNoNameReason, *nameless.back());
         return E_FAIL;
     }
     const ZELString name = walk.Get()->Name();
@@ -191,7 +194,7 @@ HRESULT ZanDicAttributeBlock::BuildFather() {
     ZanDicClass* const above = _Class ? _Class->get_SuperClass() : nullptr;
     ZanDicAttributeBlock* const father = above != nullptr ? above->find_BlockOfRoot(*_Root) : nullptr;
     if (father == nullptr) {
-        TellFault(blocktext::kNoFather, *this);
+        TellFault(blocktext::kNoFather, blocktext::kNoFatherReason, *this);
         return E_FAIL;
     }
     set_Father(*father);
@@ -205,7 +208,7 @@ HRESULT ZanDicAttributeBlock::BuildAllAttributes() {
         incomplete.push_back(walk.Get());
     }
     if (walk.GoesRound()) {
-        TellFault(blocktext::kCyclicExtents, *this);
+        TellFault(blocktext::kCyclicExtents, blocktext::kCyclicReason, *this);
         return E_FAIL;
     }
     for (auto next = incomplete.rbegin(); next != incomplete.rend(); ++next) {

@@ -29,8 +29,8 @@ inline constexpr BlockAssertion kBlockOfPass[] = {
 };
 
 inline constexpr BlockAssertion kVisibleBlock{"AssertionFailed:block", "ZanDicPackage", 1301};
-inline constexpr BlockAssertion kNothingVisibleYet{"AssertionFailed:!_AllAttributeBlocks.Size()", "ZanDicClass",
-                                                   1233};
+inline constexpr BlockAssertion kNothingVisibleYet{"AssertionFailed:!_AllAttributeBlocks.Size()",
+                                                   "ZanDicClass", 1233};
 
 }  // namespace assertion
 

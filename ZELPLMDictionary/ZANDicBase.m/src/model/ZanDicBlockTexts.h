@@ -18,6 +18,13 @@ inline constexpr std::string_view kScope = "::";
 inline constexpr std::string_view kDuplicatedAttributes = " : duplicated attributes :";
 inline constexpr std::string_view kBlockTwice = " : block name defined twice : ";
 
+// the same for people
+inline constexpr std::string_view kNoNameReason = "neither the block nor one that it extends has a name";
+inline constexpr std::string_view kNoFatherReason = "no class above has a block of the same root to extend";
+inline constexpr std::string_view kCyclicReason = "the block extends itself";
+inline constexpr std::string_view kDuplicatesReason = "in more than one block: ";
+inline constexpr std::string_view kBlockTwiceReason = "there is more than one block named ";
+
 }  // namespace blocktext
 
 #endif

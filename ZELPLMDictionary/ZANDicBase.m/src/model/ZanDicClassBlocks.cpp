@@ -26,6 +26,21 @@ const ZanDicVisibleBlocks::Shared& NoBlocks() {
 
 }  // namespace
 
+std::string QualifiedName(const ZanDicClass& owner) {
+    return std::string(owner.get_PackageName().View()).append(blocktext::kScope).append(owner.Name().View());
+}
+
+void TellBlockTwice(const ZanDicClass& owner, const ZanDicAttributeBlock& block) {
+    ZanDicTellBlockFault({{std::string(blocktext::kTuningError)
+                               .append(QualifiedName(owner))
+                               .append(blocktext::kBlockTwice)
+                               .append(block.Name().View())},
+                          std::string(blocktext::kBlockTwiceReason).append(block.Name().View()),
+                          block.Uuid(),
+                          owner.Uuid(),
+                          std::string(owner.Name().View())});
+}
+
 ZanDicVisibleBlocks::Shared ZanDicVisibleBlocks::Make(const ZanHashList& own, const Shared& inherited) {
     if (own.Size() == 0) return inherited;
     const auto made = std::make_shared<ZanDicVisibleBlocks>();
@@ -92,16 +107,7 @@ HRESULT ZanDicClass::RegisterBlockByName(OXMIDicAttributeBlock* block, const ZEL
     ZanHashList& own = make_Blocks().own;
     ZanDicObj* present = nullptr;
     if (Succeeded(own.Search(object->Name(), &present))) {
-        if (present != object) {
-            ZanDicTellBlockFault({{std::string(blocktext::kTuningError)
-                                       .append(get_PackageName().View())
-                                       .append(blocktext::kScope)
-                                       .append(Name().View())
-                                       .append(blocktext::kBlockTwice)
-                                       .append(object->Name().View())},
-                                  object->Uuid(),
-                                  Uuid()});
-        }
+        if (present != object) TellBlockTwice(*this, *object);
         return E_FAIL;
     }
     ZanDicBlockClock::Registered();

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -52,11 +53,17 @@ private:
     std::unordered_map<const ZanDicAttributeBlock*, ZanDicAttributeBlock*> _OFROOT;
 };
 
+/// \returns "Package::Class".
+std::string QualifiedName(const ZanDicClass& owner);
+
+/// Tells that another block that is visible in \p owner has the name of \p block.
+void TellBlockTwice(const ZanDicClass& owner, const ZanDicAttributeBlock& block);
+
 /// What a class that has to do with blocks keeps of them.
 struct ZanDicClassBlocks {
     ZanHashList own{29};  ///< links: the registered ones, by name, in order
     ZanDicVisibleBlocks::Shared visible;
-    std::uint64_t visibleAt = 0;  ///< state of the clock at which they are the answer
+    std::uint64_t visibleAt = 0;                    ///< state of the clock at which they are the answer
     ZanDicLink<ZanDicAttributeBlock> defaultBlock;  ///< not owning: of the attributes that no block has
 };
 

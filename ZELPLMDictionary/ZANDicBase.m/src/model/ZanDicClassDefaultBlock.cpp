@@ -30,14 +30,15 @@ HRESULT ZanDicClass::GetCBlockForAtt(const ZELString* attributeName, int create,
         if (const HRESULT rc = make_DefaultBlocks(); Failed(rc)) return rc;
     }
     const ZanDicAttributeBlock& found = *default_Block();
-    if (attributeName != nullptr && ZanDicBlockPart::Find(found.get_Attributes(), *attributeName) == nullptr) {
+    if (attributeName != nullptr &&
+        ZanDicBlockPart::Find(found.get_Attributes(), *attributeName) == nullptr) {
         return E_FAIL;
     }
     return HandOutAs(found, block);
 }
 
-/// Makes the default blocks of this class and of the classes above that have none, the highest first, after it
-/// is known that each of them has a package: a failure leaves nothing half made.
+/// Makes the default blocks of this class and of the classes above that have none, the highest first, after
+/// it is known that each of them has a package: a failure leaves nothing half made.
 HRESULT ZanDicClass::make_DefaultBlocks() {
     std::vector<ZanDicClass*> without;
     for (ZanDicClass* next = this; next != nullptr; next = next->get_SuperClass()) {
@@ -76,7 +77,8 @@ void ZanDicClass::fill_DefaultBlock(ZanDicAttributeBlock& block) {
         });
     }
     const auto isHere = [](const ZanDicAttribute* attribute) { return attribute != nullptr; };
-    ZanDicAllAttributes::List all = _ALLATTRIBUTES != nullptr ? _ALLATTRIBUTES->Listed() : ZanDicAllAttributes::List();
+    ZanDicAllAttributes::List all =
+        _ALLATTRIBUTES != nullptr ? _ALLATTRIBUTES->Listed() : ZanDicAllAttributes::List();
     if (std::none_of(all.begin(), all.end(), isHere)) {
         compute_AllAttributes();
         all = _ALLATTRIBUTES->Listed();

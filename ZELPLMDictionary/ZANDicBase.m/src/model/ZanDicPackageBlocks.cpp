@@ -50,10 +50,6 @@ HRESULT RunPass(std::size_t pass, const ZELListPtrIUnknown& blocks) {
     return S_OK;
 }
 
-std::string QualifiedName(const ZanDicClass& owner) {
-    return std::string(owner.get_PackageName().View()).append(blocktext::kScope).append(owner.Name().View());
-}
-
 /// Names that stand in more than one own block, each once, in the order in which they are met.
 std::vector<std::string_view> FindDuplicates(const ZanHashList& own) {
     std::vector<std::string_view> duplicates;
@@ -73,12 +69,17 @@ std::vector<std::string_view> FindDuplicates(const ZanHashList& own) {
 HRESULT CheckAttributes(const ZanDicClass& owner) {
     const std::vector<std::string_view> duplicates = FindDuplicates(owner.own_Blocks());
     if (duplicates.empty()) return S_OK;
-    ZanDicBlockFault fault{{}, {}, owner.Uuid()};
+    ZanDicBlockFault fault{{}, std::string(blocktext::kDuplicatesReason), {}, owner.Uuid(), ""};
+    fault.ownerName = owner.Name().View();
     fault.lines.push_back(std::string(blocktext::kTuningError)
                               .append(QualifiedName(owner))
                               .append(blocktext::kDuplicatedAttributes));
+    for (const std::string_view name : duplicates) {
+        fault.reason.append(name == duplicates.front() ? "" : ", ").append(name);
+    }
     for (std::size_t position = duplicates.size(); position >= 1; --position) {
-        fault.lines.push_back("  [" + std::to_string(position) + "]=" + std::string(duplicates[position - 1]));
+        fault.lines.push_back("  [" + std::to_string(position) +
+                              "]=" + std::string(duplicates[position - 1]));
     }
     ZanDicTellBlockFault(fault);
     return E_FAIL;
@@ -91,12 +92,7 @@ HRESULT CheckNames(const ZanDicClass& owner, const ZanDicVisibleBlocks& visible)
         const ZanDicAttributeBlock* const block = *next;
         assertion::kVisibleBlock.Require(block != nullptr);
         if (names.insert(block->Name().View()).second) continue;
-        ZanDicTellBlockFault({{std::string(blocktext::kTuningError)
-                                   .append(QualifiedName(owner))
-                                   .append(blocktext::kBlockTwice)
-                                   .append(block->Name().View())},
-                              block->Uuid(),
-                              owner.Uuid()});
+        TellBlockTwice(owner, *block);
         result = E_FAIL;
     }
     return result;
