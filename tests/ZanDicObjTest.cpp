@@ -78,6 +78,8 @@ protected:
 
 }  // namespace
 
+static_assert(sizeof(ZanDicObj) == 64, "what every object of the dictionary costs");
+
 TEST_F(ZanDicObjTest, ADefaultObjectIsUndefined) {
     const ZanDicObj object;
     OXMDicTYPE type = OXMDicTYPE_Class;
