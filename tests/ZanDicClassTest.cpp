@@ -324,7 +324,6 @@ TEST_F(ZanDicClassTest, RefusesInSilenceWhatIsNotAvailable) {
     OXMIDicMethod* method = nullptr;
     OXMIDicInterface* interface = nullptr;
     HeldList list;
-    unsigned char flag = 7;
     ClearWritten();
 
     EXPECT_EQ(part->CreateImplement(&name, &unknown), E_FAIL);
@@ -339,8 +338,6 @@ TEST_F(ZanDicClassTest, RefusesInSilenceWhatIsNotAvailable) {
     EXPECT_EQ(part->CreateMethod(&name, &uuid, &method), E_FAIL);
     EXPECT_EQ(part->GetMethods(&list), E_FAIL);
     EXPECT_EQ(part->GetSuperInterface(&interface), E_FAIL);
-    EXPECT_EQ(part->HasAttBlocks(&flag), E_FAIL);
-    EXPECT_EQ(part->GetAttBlocks(&list), E_FAIL);
 
     EXPECT_EQ(list.Size(), 0);
     EXPECT_EQ(Written(), "");

@@ -66,7 +66,7 @@ public:
 
     // What follows is for the library itself.
 
-    ZanDicClass* get_Class() const { return _Class.Get(); }
+    ZanDicClass* get_Class() const;
     ZanDicAttributeBlock* get_Father() const { return _Father.Get(); }
     ZanDicAttributeBlock* get_Root() const { return _Root.Get(); }
     const ZanDicBlockPart* get_Attributes() const { return _ATTRIBUTES.get(); }
@@ -75,6 +75,8 @@ public:
     void set_Father(ZanDicAttributeBlock& father);
     void set_Root(ZanDicAttributeBlock& root);
     HRESULT add_Attribute(ZanDicAttribute& attribute);
+    /// Said by the class that lists the block from now on: what changes in it changes what is visible there.
+    void set_Listed();
     /// Marks the block as described. \returns false when it is already, or has a name or attributes.
     bool begin_Description();
 
@@ -90,6 +92,7 @@ private:
     std::shared_ptr<ZanDicBlockPart> _ATTRIBUTES;  ///< links; the father's are shared; null for none
     bool _Complete = false;                        ///< the father's attributes are among them
     bool _IsFather = false;                        ///< some block had this one as its father
+    bool _Listed = false;                          ///< by a class
     bool _Described = false;                       ///< by a document
 };
 

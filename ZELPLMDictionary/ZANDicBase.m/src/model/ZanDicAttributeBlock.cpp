@@ -69,7 +69,11 @@ ZanDicAttributeBlock::ZanDicAttributeBlock(const ZELDbBinary& uuid)
     set_TYPE(OXMDicTYPE_AttributeBlock);
 }
 
-ZanDicAttributeBlock::~ZanDicAttributeBlock() { ZanDicBlockClock::Changed(); }
+ZanDicAttributeBlock::~ZanDicAttributeBlock() {
+    if (_Listed) ZanDicBlockClock::Changed();
+}
+
+ZanDicClass* ZanDicAttributeBlock::get_Class() const { return _Class.Get(); }
 
 bool ZanDicAttributeBlock::is_Named() const {
     return !Name().IsEmpty() && Name().View() != blocktext::kUndefined;
@@ -136,7 +140,12 @@ void ZanDicAttributeBlock::set_Father(ZanDicAttributeBlock& father) {
 
 void ZanDicAttributeBlock::set_Root(ZanDicAttributeBlock& root) {
     _Root = &root;
-    ZanDicBlockClock::Changed();
+    if (_Listed) ZanDicBlockClock::Changed();
+}
+
+void ZanDicAttributeBlock::set_Listed() {
+    _Listed = true;
+    ZanDicBlockClock::Registered();
 }
 
 HRESULT ZanDicAttributeBlock::AddAttribute(const OXMIDicAttribute* attribute) {
@@ -237,7 +246,7 @@ void ZanDicAttributeBlock::drop_Links() {
     _Father.Reset();
     _Root.Reset();
     _ATTRIBUTES.reset();
-    ZanDicBlockClock::Changed();
+    if (_Listed) ZanDicBlockClock::Changed();
 }
 
 bool ZanDicBeginDescription(OXMIDicAttributeBlock& block) {

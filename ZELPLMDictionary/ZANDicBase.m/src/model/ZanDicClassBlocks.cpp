@@ -110,7 +110,7 @@ HRESULT ZanDicClass::RegisterBlockByName(OXMIDicAttributeBlock* block, const ZEL
         if (present != object) TellBlockTwice(*this, *object);
         return E_FAIL;
     }
-    ZanDicBlockClock::Registered();
+    object->set_Listed();
     return own.Append(object);
 }
 

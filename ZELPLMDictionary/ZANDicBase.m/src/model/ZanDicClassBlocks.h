@@ -17,7 +17,7 @@ class ZanDicBlockClock {
 public:
     /// What is visible in classes is right as long as this stands still.
     static std::uint64_t State() { return changes + ZanDicHierarchy::State(); }
-    /// To be said when a block gets its root, or goes.
+    /// To be said when a registered block gets its root, or goes.
     static void Changed() { ++changes; }
 
     /// To be said when one is registered; whether one ever was.

@@ -43,7 +43,12 @@ TuningReading::~TuningReading() {
 }
 
 std::string TuningReading::ElementName(const BlockTag& tag) {
-    return Joined({tag.owner.name.View(), "::", NameOf(tag.node)});
+    const std::string_view name = NameOf(tag.node);
+    return Joined({tag.owner.name.View(), name.empty() ? "" : "::", name});
+}
+
+TuningReading::TagPlace TuningReading::PlaceOf(const BlockTag& tag) {
+    return {tag.node.Index(), ElementName(tag)};
 }
 
 // Faults.
@@ -60,8 +65,16 @@ Fault TuningReading::fault_Of(ZanDicDiagnosticCode code, const ZELVBTXMLNode& no
 }
 
 HRESULT TuningReading::report_Missing(const ZELVBTXMLNode& node, std::string_view attributeName,
-                                      std::string_view text, const ZELString& subject) {
-    Fault fault = fault_Of(MissingAttribute, node, Joined({text, subject.View()}));
+                                      std::string_view text) {
+    Fault fault = fault_Of(MissingAttribute, node, Joined({text, _Name.View()}));
+    fault.attributeName = attributeName;
+    return _Faults.Report(fault);
+}
+
+HRESULT TuningReading::report_Missing(const BlockTag& tag, std::string_view attributeName,
+                                      std::string_view text) {
+    Fault fault = fault_Of(MissingAttribute, tag.node, Joined({text, tag.owner.name.View()}));
+    fault.element = ElementName(tag);
     fault.attributeName = attributeName;
     return _Faults.Report(fault);
 }
@@ -122,15 +135,14 @@ bool TuningReading::parse_Document() {
 HRESULT TuningReading::check_Package(const ZELVBTXMLNode& node) {
     HRESULT result = S_OK;
     if (const ZELVBTXMLAttribute uuid = node.getAttribute(word::kUuid); !uuid) {
-        if (!goes_On(report_Missing(node, word::kUuid, tuningtext::kNoPackageUuid, _Name), result))
-            return result;
+        if (!goes_On(report_Missing(node, word::kUuid, tuningtext::kNoPackageUuid), result)) return result;
     } else if (UuidOf(uuid.Value()) != UuidOfObject(_Package)) {
         Fault fault = fault_Of(InvalidValue, node, Joined({tuningtext::kWrongPackageUuid, _Name.View()}));
         fault.attribute = uuid;
         if (!goes_On(_Faults.Report(fault), result)) return result;
     }
     if (NameOf(node).empty()) {
-        goes_On(report_Missing(node, word::kName, tuningtext::kNoPackageName, _Name), result);
+        goes_On(report_Missing(node, word::kName, tuningtext::kNoPackageName), result);
     } else if (NameOf(node) != _Name.View()) {
         Fault fault = fault_Of(InvalidValue, node, Joined({tuningtext::kWrongPackageName, _Name.View()}));
         fault.attribute = node.getAttribute(word::kName);
@@ -156,7 +168,7 @@ HRESULT TuningReading::read_Child(const ZELVBTXMLNode& node) {
 
 HRESULT TuningReading::find_Owner(const ZELVBTXMLNode& node, Owner& owner) {
     const ZELVBTXMLAttribute text = node.getAttribute(word::kUuid);
-    if (!text) return report_Missing(node, word::kUuid, tuningtext::kNoElementUuid, _Name);
+    if (!text) return report_Missing(node, word::kUuid, tuningtext::kNoElementUuid);
 
     const ZELDbBinary uuid = UuidOf(text.Value());
     ZanDicRef<OXMIDicElementH> object;
@@ -183,7 +195,7 @@ HRESULT TuningReading::find_Owner(const ZELVBTXMLNode& node, Owner& owner) {
     }
     owner.name = NameOfObject(*object);
     _PLACES.emplace(uuid, TagPlace{node.Index(), std::string(owner.name.View())});
-    if (NameOf(node).empty()) return report_Missing(node, word::kName, tuningtext::kNoElementName, _Name);
+    if (NameOf(node).empty()) return report_Missing(node, word::kName, tuningtext::kNoElementName);
     if (NameOf(node) == owner.name.View()) return S_OK;
     Fault fault = fault_Of(InvalidValue, node, Joined({tuningtext::kWrongElementName, _Name.View()}));
     fault.attribute = node.getAttribute(word::kName);
@@ -209,20 +221,19 @@ HRESULT TuningReading::read_Block(const ZELVBTXMLNode& node, const Owner& owner)
     }
     HRESULT result = S_OK;
     BlockTag block{node, owner, node.getAttribute(word::kUuid)};
-    if (!block.uuid &&
-        !goes_On(report_Missing(node, word::kUuid, tuningtext::kNoBlockUuid, owner.name), result)) {
+    if (!block.uuid && !goes_On(report_Missing(block, word::kUuid, tuningtext::kNoBlockUuid), result)) {
         return result;
     }
     block.name = NameOf(node);
     if (block.name.empty() && !isExtension &&
-        !goes_On(report_Missing(node, word::kName, tuningtext::kNoBlockName, owner.name), result)) {
+        !goes_On(report_Missing(block, word::kName, tuningtext::kNoBlockName), result)) {
         return result;
     }
     if (!goes_On(read_Attributes(block), result)) return result;
     if (isExtension) {
         block.extents = node.getAttribute(word::kExtents);
         if (!block.extents || block.extents.Value().empty()) {
-            const HRESULT rc = report_Missing(node, word::kExtents, tuningtext::kNoExtents, owner.name);
+            const HRESULT rc = report_Missing(block, word::kExtents, tuningtext::kNoExtents);
             if (!goes_On(rc, result)) return result;
         }
     }
@@ -233,8 +244,7 @@ HRESULT TuningReading::read_Attributes(BlockTag& block) {
     const std::string_view className = block.owner.name.View();
     const ZELVBTXMLAttribute list = block.node.getAttribute(word::kAttributeUuids);
     if (!list) {
-        return report_Missing(block.node, word::kAttributeUuids, tuningtext::kNoAttributeUuids,
-                              block.owner.name);
+        return report_Missing(block, word::kAttributeUuids, tuningtext::kNoAttributeUuids);
     }
     HRESULT result = S_OK;
     WordList items(list.Value());
@@ -263,7 +273,7 @@ HRESULT TuningReading::make_Block(const BlockTag& tag) {
     if (!ZanDicBeginDescription(*block)) {
         return report_Block(tag, tuningtext::kSecondValuation, "the block is described a second time");
     }
-    _PLACES.emplace(UuidOf(tag.uuid.Value()), TagPlace{tag.node.Index(), ElementName(tag)});
+    _PLACES.insert_or_assign(UuidOf(tag.uuid.Value()), PlaceOf(tag));
     HRESULT result = S_OK;
     if (tag.extents && !goes_On(set_Father(tag, *block), result)) return result;
     for (const ZanDicRef<OXMIDicAttribute>& attribute : tag.attributes) {
@@ -302,6 +312,8 @@ HRESULT TuningReading::get_Block(const BlockTag& tag, const ZELVBTXMLAttribute& 
 HRESULT TuningReading::set_Father(const BlockTag& tag, OXMIDicAttributeBlock& block) {
     ZanDicRef<OXMIDicAttributeBlock> father;
     if (const HRESULT rc = get_Block(tag, tag.extents, father); Failed(rc)) return rc;
+    // One that is never described is told where it is mentioned first.
+    _PLACES.try_emplace(UuidOf(tag.extents.Value()), PlaceOf(tag));
     if (Succeeded(block.SetFather(father.Get()))) return S_OK;
     return report_Block(tag, Joined({tuningtext::kCyclicExtents, UuidText(UuidOfObject(block))}),
                         "the block would extend itself");

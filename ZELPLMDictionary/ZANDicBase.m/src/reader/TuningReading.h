@@ -74,6 +74,7 @@ private:
     };
 
     static std::string ElementName(const BlockTag& tag);
+    static TagPlace PlaceOf(const BlockTag& tag);
 
     bool parse_Document();
     HRESULT check_Package(const ZELVBTXMLNode& node);
@@ -92,8 +93,9 @@ private:
 
     /// A fault that writes one line.
     Fault fault_Of(ZanDicDiagnosticCode code, const ZELVBTXMLNode& node, std::string_view line) const;
-    HRESULT report_Missing(const ZELVBTXMLNode& node, std::string_view attributeName, std::string_view text,
-                           const ZELString& subject);
+    /// Without the attribute: the line ends with the package's name, or with that of the block's class.
+    HRESULT report_Missing(const ZELVBTXMLNode& node, std::string_view attributeName, std::string_view text);
+    HRESULT report_Missing(const BlockTag& tag, std::string_view attributeName, std::string_view text);
     HRESULT report_Block(const BlockTag& tag, std::string_view line, std::string reason);
     bool goes_On(HRESULT rc, HRESULT& result) const { return _Faults.GoesOn(rc, result); }
 
