@@ -722,19 +722,19 @@ TEST_F(ZanDicClassTest, ALongChainOfAttributesIsAskedAtItsEndOnly) {
 }
 
 TEST_F(ZanDicClassTest, FiftyThousandSubClassesAttachAndLeave) {
-    constexpr int kCount = 50000;
+    constexpr std::size_t kCount = 50000;
     const auto documents = Package("Documents");
     const auto tool = Class(*items, "Tool");
     std::vector<Held<OXMIDicClass>> subClasses;
-    for (int number = 0; number < kCount; ++number) {
+    for (std::size_t number = 0; number < kCount; ++number) {
         subClasses.push_back(SubClass(*documents, ("S" + std::to_string(number)).c_str(), *part));
     }
     HeldList list;
 
-    for (int number = 0; number < kCount; number += 2) subClasses[number]->SetSuperClass(tool.Get());
+    for (std::size_t number = 0; number < kCount; number += 2) subClasses[number]->SetSuperClass(tool.Get());
 
     EXPECT_EQ(part->GetSubClasses(&list), S_OK);
-    EXPECT_EQ(list.Size(), kCount / 2);
+    EXPECT_EQ(list.Size(), 25000);
     EXPECT_TRUE(SameObject(*list[1], *subClasses[1]));
     list.Clear();
     RemovePackage("Documents");

@@ -100,20 +100,20 @@ TEST_F(ZanDicLinkListTest, RemoveAllEmptiesIt) {
 }
 
 TEST_F(ZanDicLinkListTest, KeepsItsOrderThroughManyRemovals) {
-    constexpr int kCount = 50000;
+    constexpr std::size_t kCount = 50000;
     std::vector<Held<ZanDicObj>> objects;
     std::vector<ZanDicObj*> expected;
-    for (int number = 0; number < kCount; ++number) {
-        objects.push_back(Object(number));
+    for (std::size_t number = 0; number < kCount; ++number) {
+        objects.push_back(Object(static_cast<int>(number)));
         list.Append(*objects.back());
     }
 
-    for (int number = kCount - 1; number >= 0; --number) {
+    for (std::size_t number = kCount; number-- > 0;) {
         if (number % 3 == 0) continue;
         ASSERT_TRUE(list.Remove(*objects[number]));
     }
 
-    for (int number = 0; number < kCount; number += 3) expected.push_back(objects[number].Get());
+    for (std::size_t number = 0; number < kCount; number += 3) expected.push_back(objects[number].Get());
     EXPECT_EQ(Walk(), expected);
     EXPECT_TRUE(list.Holds(*objects[3]));
     EXPECT_FALSE(list.Holds(*objects[4]));

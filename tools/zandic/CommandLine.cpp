@@ -30,7 +30,7 @@ public:
     }
 
     std::string make_usage(const CLI::App* app, std::string) const override {
-        const std::string_view command = app->get_parent() != nullptr ? app->get_name() : "COMMAND";
+        const std::string command = app->get_parent() != nullptr ? app->get_name() : "COMMAND";
         return fmt::format("\nUsage: zandic [OPTIONS] {} NAME...\n", command);
     }
 };
@@ -44,6 +44,7 @@ void AddOptions(CLI::App& app, Options& options) {
                    "place of the variable ZELDictionaryPath; adds up")
         ->type_name("DIRS")
         ->expected(1)
+        ->allow_extra_args(false)  // what follows DIRS is no further directory
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     app.add_option("--in", options.in, "packages in which 'show' looks for a UUID")
         ->type_name("NAME")

@@ -3,7 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+<<<<<<< HEAD
 #include "DocumentFile.h"
+=======
+#include "HexToBinary.h"
+>>>>>>> main
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
 #include "OxmDicFromXMLCheck.h"
@@ -374,7 +378,7 @@ void PackageLoad::read_Name() {
 
 void PackageLoad::read_Uuid() {
     if (const auto uuid = _Node.getAttributeValue(word::kUuid)) {
-        _Uuid = UuidOf(*uuid);
+        _Uuid = UuidFromText(*uuid);
         return;
     }
     Fault fault = package_Fault(MissingAttribute);
@@ -543,7 +547,7 @@ HRESULT PackageLoad::fill_Element(const ZELVBTXMLNode& node) {
         _Run.leftOut.AddAll(node);
         return result;
     }
-    if (row != nullptr) return row->read({*_Reading, node, _Reading->texts.Text(name), UuidOf(*uuid)});
+    if (row != nullptr) return row->read({*_Reading, node, _Reading->texts.Text(name), UuidFromText(*uuid)});
 
     Fault fault = FaultOf(*_Reading, UnknownTag, node);
     fault.severity = ZanDicSeverity::Warning;
