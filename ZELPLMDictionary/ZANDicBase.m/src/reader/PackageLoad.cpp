@@ -3,11 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-<<<<<<< HEAD
 #include "DocumentFile.h"
-=======
 #include "HexToBinary.h"
->>>>>>> main
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
 #include "OxmDicFromXMLCheck.h"

@@ -136,7 +136,7 @@ HRESULT TuningReading::check_Package(const ZELVBTXMLNode& node) {
     HRESULT result = S_OK;
     if (const ZELVBTXMLAttribute uuid = node.getAttribute(word::kUuid); !uuid) {
         if (!goes_On(report_Missing(node, word::kUuid, tuningtext::kNoPackageUuid), result)) return result;
-    } else if (UuidOf(uuid.Value()) != UuidOfObject(_Package)) {
+    } else if (UuidFromText(uuid.Value()) != UuidOfObject(_Package)) {
         Fault fault = fault_Of(InvalidValue, node, Joined({tuningtext::kWrongPackageUuid, _Name.View()}));
         fault.attribute = uuid;
         if (!goes_On(_Faults.Report(fault), result)) return result;
@@ -170,7 +170,7 @@ HRESULT TuningReading::find_Owner(const ZELVBTXMLNode& node, Owner& owner) {
     const ZELVBTXMLAttribute text = node.getAttribute(word::kUuid);
     if (!text) return report_Missing(node, word::kUuid, tuningtext::kNoElementUuid);
 
-    const ZELDbBinary uuid = UuidOf(text.Value());
+    const ZELDbBinary uuid = UuidFromText(text.Value());
     ZanDicRef<OXMIDicElementH> object;
     if (Failed(_Manager.Search(&uuid, object.Out())) || !object) {
         Fault fault =
@@ -249,7 +249,7 @@ HRESULT TuningReading::read_Attributes(BlockTag& block) {
     HRESULT result = S_OK;
     WordList items(list.Value());
     for (std::string_view text = items.Next(); !text.empty(); text = items.Next()) {
-        const ZELDbBinary uuid = UuidOf(text);
+        const ZELDbBinary uuid = UuidFromText(text);
         ZanDicRef<OXMIDicElementH> object;
         ZanDicRef<OXMIDicAttribute> attribute;
         const bool isThere = Succeeded(_Manager.Search(&uuid, object.Out())) && object;
@@ -273,7 +273,7 @@ HRESULT TuningReading::make_Block(const BlockTag& tag) {
     if (!ZanDicBeginDescription(*block)) {
         return report_Block(tag, tuningtext::kSecondValuation, "the block is described a second time");
     }
-    _PLACES.insert_or_assign(UuidOf(tag.uuid.Value()), PlaceOf(tag));
+    _PLACES.insert_or_assign(UuidFromText(tag.uuid.Value()), PlaceOf(tag));
     HRESULT result = S_OK;
     if (tag.extents && !goes_On(set_Father(tag, *block), result)) return result;
     for (const ZanDicRef<OXMIDicAttribute>& attribute : tag.attributes) {
@@ -294,7 +294,7 @@ HRESULT TuningReading::make_Block(const BlockTag& tag) {
 /// A block is made when it is first mentioned, by the package whose document mentions it.
 HRESULT TuningReading::get_Block(const BlockTag& tag, const ZELVBTXMLAttribute& uuidText,
                                  ZanDicRef<OXMIDicAttributeBlock>& block) {
-    const ZELDbBinary uuid = UuidOf(uuidText.Value());
+    const ZELDbBinary uuid = UuidFromText(uuidText.Value());
     ZanDicRef<OXMIDicElementH> object;
     if (Failed(_Manager.Search(&uuid, object.Out())) || !object) {
         if (Succeeded(_Package.CreateAttributeBlock(&uuid, block.Out())) && block) return S_OK;
@@ -313,7 +313,7 @@ HRESULT TuningReading::set_Father(const BlockTag& tag, OXMIDicAttributeBlock& bl
     ZanDicRef<OXMIDicAttributeBlock> father;
     if (const HRESULT rc = get_Block(tag, tag.extents, father); Failed(rc)) return rc;
     // One that is never described is told where it is mentioned first.
-    _PLACES.try_emplace(UuidOf(tag.extents.Value()), PlaceOf(tag));
+    _PLACES.try_emplace(UuidFromText(tag.extents.Value()), PlaceOf(tag));
     if (Succeeded(block.SetFather(father.Get()))) return S_OK;
     return report_Block(tag, Joined({tuningtext::kCyclicExtents, UuidText(UuidOfObject(block))}),
                         "the block would extend itself");
