@@ -321,7 +321,6 @@ TEST_F(ZanDicClassTest, RefusesInSilenceWhatIsNotAvailable) {
     const ZELString name("X");
     IUnknown* unknown = nullptr;
     HeldList list;
-    unsigned char flag = 7;
     ClearWritten();
 
     EXPECT_EQ(part->CreateImplement(&name, &unknown), E_FAIL);
@@ -332,8 +331,6 @@ TEST_F(ZanDicClassTest, RefusesInSilenceWhatIsNotAvailable) {
     EXPECT_EQ(part->GetAllImplements(&list), E_FAIL);
     EXPECT_EQ(part->GetClassSecurities(&list), E_FAIL);
     EXPECT_EQ(part->GetAllSecurities(&list), E_FAIL);
-    EXPECT_EQ(part->HasAttBlocks(&flag), E_FAIL);
-    EXPECT_EQ(part->GetAttBlocks(&list), E_FAIL);
 
     EXPECT_EQ(list.Size(), 0);
     EXPECT_EQ(Written(), "");

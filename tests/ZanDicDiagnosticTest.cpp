@@ -15,7 +15,7 @@ public:
 }  // namespace
 
 TEST(ZanDicDiagnosticTest, EveryCodeHasAWordOfItsOwn) {
-    constexpr int kCodes = static_cast<int>(ZanDicDiagnosticCode::InvalidRedefinition) + 1;
+    constexpr int kCodes = static_cast<int>(ZanDicDiagnosticCode::InvalidBlock) + 1;
     std::set<std::string_view> names;
     for (int code = 0; code < kCodes; ++code) {
         names.insert(ZanDicDiagnosticName(static_cast<ZanDicDiagnosticCode>(code)));
@@ -34,6 +34,7 @@ TEST(ZanDicDiagnosticTest, WordsAreStable) {
     EXPECT_EQ(ZanDicDiagnosticName(ZanDicDiagnosticCode::DuplicateUuid), "duplicate-uuid");
     EXPECT_EQ(ZanDicDiagnosticName(ZanDicDiagnosticCode::ReferenceNotFound), "reference-not-found");
     EXPECT_EQ(ZanDicDiagnosticName(ZanDicDiagnosticCode::InvalidRedefinition), "invalid-redefinition");
+    EXPECT_EQ(ZanDicDiagnosticName(ZanDicDiagnosticCode::InvalidBlock), "invalid-block");
     EXPECT_EQ(ZanDicDiagnosticName(static_cast<ZanDicDiagnosticCode>(200)), "?");
 }
 

@@ -189,16 +189,12 @@ TEST_F(ZanDicPackageTest, TheFormsWithoutUuidWarnAndDrawOne) {
         "dynamically.\n");
 }
 
-TEST_F(ZanDicPackageTest, DoesNotMakeTheKindsThatAreNotAvailable) {
-    const ZELDbBinary uuid = NextUuid();
+TEST_F(ZanDicPackageTest, MakesNoMappingWithoutUuid) {
     const ZELString name("New");
     OXMIDicRBOMapping* mapping = nullptr;
-    OXMIDicAttributeBlock* block = nullptr;
     ClearWritten();
 
     EXPECT_EQ(items->CreateRBOMapping(&name, &mapping), E_FAIL);
-    EXPECT_EQ(items->CreateAttributeBlock(&uuid, &block), E_FAIL);
-    EXPECT_EQ(items->ComputeAttributeBlocks(nullptr), E_FAIL);
 
     EXPECT_EQ(Written(), "");
 }

@@ -166,7 +166,11 @@ public:
     virtual HRESULT GetClassMethod(const ZELString* name, OXMIDicMethod** method) = 0;
     virtual HRESULT GetAllMethods(ZELListPtrIUnknown* methods) = 0;
 
-    /// Attribute blocks. Not available yet. \returns E_FAIL.
+    /// Attribute blocks. Visible in a class are its own, the last registered first, and inherited ones: of
+    /// each root only the most derived. GetAttBlock finds an own or visible one by name, GetAttBlockForAtt
+    /// the first visible one that holds an attribute, GetCBlockForAtt the default block, of the attributes
+    /// that none holds, which is made when \p create says so or an attribute is named.
+    /// \returns S_OK; S_FALSE when there is no default block; E_FAIL for null or when nothing is found.
     virtual HRESULT GetAttBlock(const ZELString* name, OXMIDicAttributeBlock** block) = 0;
     virtual HRESULT GetAttBlocks(ZELListPtrIUnknown* blocks) = 0;
     virtual HRESULT GetAttBlockForAtt(const ZELString* attributeName, OXMIDicAttributeBlock** block) = 0;

@@ -71,7 +71,9 @@ public:
     /// \returns S_OK, or the result of the element that could not be flushed.
     virtual HRESULT FlushAll() = 0;
 
-    /// Attribute blocks. Not available yet. \returns E_FAIL.
+    /// Computes attribute blocks that were made since (`OXMIDicAttributeBlock`): names, registers with their
+    /// classes, roots, fathers, inherited attributes; then checks all classes. Errors are lines on standard
+    /// error. Null, for the list or an entry, ends the process. \returns S_OK; E_FAIL.
     virtual HRESULT ComputeAttributeBlocks(const ZELListPtrIUnknown* blocks) = 0;
 
     /// Not available. \returns E_FAIL.

@@ -7,7 +7,10 @@
 
 class ZanDicAllAttributes;
 class ZanDicAttribute;
+class ZanDicAttributeBlock;
 class ZanDicTraceScope;
+class ZanDicVisibleBlocks;
+struct ZanDicClassBlocks;
 struct ZanDicClassFields;
 
 /// A class of the schema: one super class, own attributes, uniques and methods, and flags.
@@ -173,13 +176,27 @@ public:
     /// The same, followed by those of each super class, nearest first; of methods of one name the first only.
     HRESULT GetAllMethods(ZELListPtrIUnknown* methods) const;
 
-    /// Attribute blocks: not available yet. \returns E_FAIL.
-    HRESULT GetAttBlock(const ZELString* name, OXMIDicAttributeBlock** block) const;
-    HRESULT GetAttBlocks(ZELListPtrIUnknown* blocks) const;
-    HRESULT GetAttBlockForAtt(const ZELString* attributeName, OXMIDicAttributeBlock** block) const;
+    /// Attribute blocks. Visible are the own ones, the last registered first, and the inherited ones, but of
+    /// each root only the most derived; the answer is kept until a block, a root or the hierarchy changes.
+    /// \returns S_OK; E_FAIL for null.
+    HRESULT GetAttBlocks(ZELListPtrIUnknown* blocks);
+    HRESULT GetAllAttributeBlockList(ZELListPtrIUnknown* blocks);
+    /// \param[out] hasBlocks 1 when one is visible, else 0.
+    HRESULT HasAttBlocks(unsigned char* hasBlocks);
+    /// Looks among the own blocks, then among the visible ones. \returns S_OK; E_FAIL when there is none.
+    HRESULT GetAttBlock(const ZELString* name, OXMIDicAttributeBlock** block);
+    /// The first visible block that holds an attribute of that name. \returns S_OK; E_FAIL.
+    HRESULT GetAttBlockForAtt(const ZELString* attributeName, OXMIDicAttributeBlock** block);
+    /// The default block: of the attributes that no visible block holds, neither multi-valued ones nor
+    /// inverses, the last of all attributes first, as they are when it is made. Its father is the default
+    /// block of the super class, which is made first where there is none. \param attributeName null, or an
+    /// attribute that the block has to hold; it is then made in any case. \param create whether to make it
+    /// without a name. \param[out] block null unless handed out. \returns S_OK; S_FALSE when there is none
+    /// and none is to be made; E_FAIL for a null \p block, without a package, or when the block does not hold
+    /// the attribute.
     HRESULT GetCBlockForAtt(const ZELString* attributeName, int create, OXMIDicAttributeBlock** block);
-    HRESULT HasAttBlocks(unsigned char* hasBlocks) const;
-    HRESULT GetAllAttributeBlockList(ZELListPtrIUnknown* blocks) const;
+    /// Makes a block one of the own ones, under its own name. \returns S_OK; E_FAIL for null, for what is no
+    /// block in the dictionary, and when the name is taken, by another block after a line on standard error.
     HRESULT RegisterBlockByName(OXMIDicAttributeBlock* block, const ZELString* name);
 
     /// Drops attributes, uniques and methods, then the links to super class and subclasses. The class stays.
@@ -193,6 +210,12 @@ public:
     ZanDicClass* get_SuperClass() const { return _SuperClass.Get(); }
     /// The direct subclasses; of a class that was flushed also former ones, whose super class is another now.
     const ZanDicLinkList<ZanDicClass>& get_SubClasses() const { return _invSuperClass; }
+    /// The own blocks, in the order of registration.
+    const ZanHashList& own_Blocks() const;
+    /// The visible ones, computed when something changed; good until something changes again.
+    const ZanDicVisibleBlocks& visible_Blocks();
+    /// \returns the visible block of a root; null when there is none.
+    ZanDicAttributeBlock* find_BlockOfRoot(const ZanDicAttributeBlock& root);
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
 
 protected:
@@ -217,6 +240,13 @@ private:
     void forget_AllAttributes();
     template <class Visit>
     void for_EachSubClass(const Visit& visit) const;
+
+    const ZanDicClassBlocks* blocks() const;
+    ZanDicClassBlocks& make_Blocks();
+    ZanDicAttributeBlock* default_Block() const;
+    HRESULT make_DefaultBlocks();
+    HRESULT make_DefaultBlock();
+    void fill_DefaultBlock(ZanDicAttributeBlock& block);
 
     const ZanDicClassFields* fields() const;
     ZanDicClassFields& make_Fields();

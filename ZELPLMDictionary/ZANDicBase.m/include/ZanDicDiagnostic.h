@@ -8,7 +8,8 @@
 
 #include "ZanDicExport.h"
 
-/// How grave a fault is: an error makes the load fail, a warning does not.
+/// How grave a fault is: an error makes the load fail, a warning does not. Faults of tuning documents are
+/// warnings: the package stays loaded, without what the document describes.
 enum class ZanDicSeverity : std::uint8_t { Warning, Error };
 
 /// What is wrong. The words that belong to a code are those of `ZanDicDiagnosticName`.
@@ -45,6 +46,8 @@ enum class ZanDicDiagnosticCode : std::uint8_t {
     CrossDomainReference,
     ReferenceRefused,
     InvalidRedefinition,
+    // attribute blocks
+    InvalidBlock,
 };
 
 /// \returns the stable word of a code, such as "duplicate-uuid"; static storage.
@@ -100,7 +103,8 @@ class ZANDICBASE_API ZanDicDiagnosticObserver {
 public:
     /// \returns whether to go on after an error: a faulty attribute then counts as absent and a faulty
     /// element as left out; the load fails at its end all the same and leaves nothing behind. The
-    /// answer to a warning does not matter. Must not call the dictionary.
+    /// answer to a warning does not matter, but for one of a tuning document, which it ends the same way.
+    /// Must not call the dictionary.
     virtual bool OnDiagnostic(const ZanDicDiagnostic& diagnostic) = 0;
 
 protected:

@@ -81,8 +81,12 @@ public:
     /// FlushAll of an element that result, at once: it and those behind it stay.
     virtual HRESULT FlushAll();
 
-    /// Attribute blocks: not available yet. \returns E_FAIL.
-    HRESULT ComputeAttributeBlocks(const ZELListPtrIUnknown* blocks);
+    /// Computes blocks that were made since: gives each its name, registers it with its class, gives it root,
+    /// father and inherited attributes, each step for all blocks in order before the next, and checks all
+    /// classes. The first failing block ends everything; the checks go on, and their errors are lines on
+    /// standard error. A null list, or an entry that is no block, ends the process.
+    /// \returns S_OK; E_FAIL.
+    HRESULT ComputeAttributeBlocks(const ZELListPtrIUnknown* createdBlocks);
 
     /// Not available. \returns E_FAIL.
     HRESULT GetVersion(int* version) const;
@@ -107,7 +111,8 @@ public:
     HRESULT CreateRBOClass(const ZELString* name, OXMIDicRBOClass** element);
     HRESULT CreateRBOMapping(const ZELString* name, const ZELDbBinary* uuid, OXMIDicRBOMapping** element);
 
-    /// Not available yet. \returns E_FAIL.
+    /// Makes an attribute block without name or class. It is no element: this package keeps it until it is
+    /// flushed itself. \returns S_OK; E_FAIL when the UUID is registered already, and nothing is made.
     HRESULT CreateAttributeBlock(const ZELDbBinary* uuid, OXMIDicAttributeBlock** block);
 
     /// Never available. \returns E_FAIL.
@@ -123,6 +128,8 @@ public:
     // What follows is for the library itself.
 
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    /// The last step of the computation of blocks: looks for attributes and names that a class has twice.
+    HRESULT check_Blocks() const;
 
 protected:
     void drop_Links() override;
@@ -133,11 +140,13 @@ private:
     HRESULT make_Element(const ZELString* name, const ZELDbBinary* uuid, Interface** element,
                          OXMDicTYPE type = OXMDicTYPE_UNDEFINED);
     HRESULT add_Package(ZanHashList& packages, const OXMIDicPackage* package);
+    void drop_Blocks();
     HRESULT get_Packages(const ZanHashList& list, ZELListPtrIUnknown* packages) const;
 
     ZELString _Domain;
     mutable bool _OnTheWay = false;  ///< during GetAllElements: among those whose elements are being listed
     ZanHashList _ELEMENTS;           ///< this package owns one reference to each
+    ZELListPtrZanDicObj _BLOCKS;     ///< attribute blocks: this package owns one reference to each
     ZanHashList _COMMANDS;           ///< not owning
     ZanHashList _USEDPACKAGES;       ///< not owning
     ZanHashList _SCOPEPACKAGES;      ///< not owning

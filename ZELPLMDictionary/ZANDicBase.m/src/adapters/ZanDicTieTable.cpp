@@ -1,5 +1,6 @@
 #include "ZanDicTieTable.h"
 
+#include "OXMIDicAttributeBlockTies.h"
 #include "OXMIDicAttributeTies.h"
 #include "OXMIDicClassTies.h"
 #include "OXMIDicCommandTies.h"
@@ -11,6 +12,7 @@
 #include "ZanDicAttribute.h"
 #include "ZanDicBOLink.h"
 #include "ZanDicBObject.h"
+#include "ZanDicAttributeBlock.h"
 #include "ZanDicCategory.h"
 #include "ZanDicClass.h"
 #include "ZanDicCommand.h"
@@ -66,6 +68,8 @@ constexpr ZELTieRow kRBORootRows[] = {ZELMakeTieRow<OXMIDicRBORootTie<ZanDicRBOR
 constexpr ZELTieRow kRBOComponentRows[] = {ZELMakeTieRow<OXMIDicRBOComponentTie<ZanDicRBOComponent>>()};
 constexpr ZELTieRow kRBOPathExpressionRows[] = {
     ZELMakeTieRow<OXMIDicRBOPathExpressionTie<ZanDicRBOPathExpression>>()};
+constexpr ZELTieRow kAttributeBlockRows[] = {
+    ZELMakeTieRow<OXMIDicAttributeBlockTie<ZanDicAttributeBlock>>()};
 
 /// Registers the rows when the library is loaded.
 [[maybe_unused]] const bool kRegistered = [] {
@@ -99,6 +103,7 @@ std::span<const ZanDicTieTableEntry> ZanDicTieTable() {
         {ZanDicRBORoot::ClassMeta(), kRBORootRows},
         {ZanDicRBOComponent::ClassMeta(), kRBOComponentRows},
         {ZanDicRBOPathExpression::ClassMeta(), kRBOPathExpressionRows},
+        {ZanDicAttributeBlock::ClassMeta(), kAttributeBlockRows},
     };
     return table;
 }

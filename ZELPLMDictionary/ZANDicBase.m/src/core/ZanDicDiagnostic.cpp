@@ -35,8 +35,9 @@ constexpr std::string_view kNames[] = {
     "cross-domain-reference",
     "reference-refused",
     "invalid-redefinition",
+    "invalid-block",
 };
-static_assert(std::size(kNames) == static_cast<std::size_t>(ZanDicDiagnosticCode::InvalidRedefinition) + 1);
+static_assert(std::size(kNames) == static_cast<std::size_t>(ZanDicDiagnosticCode::InvalidBlock) + 1);
 
 constinit ZanDicDiagnosticObserver* diagnosticObserver = nullptr;
 

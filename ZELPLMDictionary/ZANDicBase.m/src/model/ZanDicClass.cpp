@@ -80,6 +80,7 @@ void ZanDicClass::drop_Links() {
     _Reference.Reset();
     _invSuperClass.RemoveAll();
     _ALLATTRIBUTES.reset();
+    if (rare() != nullptr) make_Fields().blocks.reset();
     forget_Relations();
 }
 

@@ -2,7 +2,10 @@
 #ifndef ZAN_DIC_CLASS_FIELDS_H
 #define ZAN_DIC_CLASS_FIELDS_H
 
+#include <memory>
+
 #include "ZanDicClass.h"
+#include "ZanDicClassBlocks.h"
 
 struct ZanDicClassFields : ZanDicRareFields {
     ZELUnicodeString lateType{""};
@@ -10,6 +13,7 @@ struct ZanDicClassFields : ZanDicRareFields {
     ZanHashList uniques{29, ZanHashListKind::Owner};  ///< the class owns one reference to each
     ZanHashList methods{29, ZanHashListKind::Owner};  ///< and to each of these
     ZELListPtrZanDicObj removed;                      ///< and to each member that was removed from its list
+    std::unique_ptr<ZanDicClassBlocks> blocks;        ///< null as long as nobody asked for blocks
 };
 
 #endif

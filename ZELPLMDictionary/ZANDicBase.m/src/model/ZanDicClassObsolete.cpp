@@ -83,10 +83,3 @@ HRESULT ZanDicClass::Inherited(OXMIDicElement*, unsigned char* inherited) const 
     return E_FAIL;
 }
 
-HRESULT ZanDicClass::GetAttBlock(const ZELString*, OXMIDicAttributeBlock**) const { return E_FAIL; }
-HRESULT ZanDicClass::GetAttBlocks(ZELListPtrIUnknown*) const { return E_FAIL; }
-HRESULT ZanDicClass::GetAttBlockForAtt(const ZELString*, OXMIDicAttributeBlock**) const { return E_FAIL; }
-HRESULT ZanDicClass::GetCBlockForAtt(const ZELString*, int, OXMIDicAttributeBlock**) { return E_FAIL; }
-HRESULT ZanDicClass::HasAttBlocks(unsigned char*) const { return E_FAIL; }
-HRESULT ZanDicClass::GetAllAttributeBlockList(ZELListPtrIUnknown*) const { return E_FAIL; }
-HRESULT ZanDicClass::RegisterBlockByName(OXMIDicAttributeBlock*, const ZELString*) { return E_FAIL; }

@@ -239,12 +239,11 @@ HRESULT ZanDicPackage::FlushAll() {
     if (auto line = trace.Line(TraceLevel::Detail)) line << "@=" << this;
     trace.Say(TraceLevel::Detail, "processing _ELEMENTS...");
     if (const HRESULT rc = DropOwned(_ELEMENTS, "_ELEMENTS", trace); Failed(rc)) return rc;
+    drop_Blocks();
     trace.Say(TraceLevel::Detail, "processing _COMMANDS...");
     trace.Warning("*** WARNING *** processing _COMMANDS: TO BE COMPLETED !");
     return trace.Exit(S_OK);
 }
-
-HRESULT ZanDicPackage::ComputeAttributeBlocks(const ZELListPtrIUnknown*) { return E_FAIL; }
 
 HRESULT ZanDicPackage::GetVersion(int*) const { return E_FAIL; }
 
@@ -307,9 +306,11 @@ HRESULT ZanDicPackage::CreateRBOMapping(const ZELString*, OXMIDicRBOMapping**) {
 
 HRESULT ZanDicPackage::CreateClass_internal(const ZELString*, OXMIDicClass**) { return E_FAIL; }
 
-HRESULT ZanDicPackage::CreateAttributeBlock(const ZELDbBinary*, OXMIDicAttributeBlock**) { return E_FAIL; }
-
-void ZanDicPackage::take_Owned(std::vector<ZanDicObj*>& owned) { TakeList(_ELEMENTS, owned); }
+void ZanDicPackage::take_Owned(std::vector<ZanDicObj*>& owned) {
+    TakeList(_ELEMENTS, owned);
+    owned.insert(owned.end(), _BLOCKS.begin(), _BLOCKS.end());
+    _BLOCKS.RemoveAll();
+}
 
 int ZanDicPackage::count_LostLinks() const {
     return ZanDicObj::count_LostLinks() + _COMMANDS.LostCount() + _USEDPACKAGES.LostCount() +

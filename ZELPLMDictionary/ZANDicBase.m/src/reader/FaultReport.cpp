@@ -45,8 +45,9 @@ constexpr ReasonRow kReasons[] = {
     {CrossDomainReference, "{attribute} of \"{element}\": {other} is in another domain"},
     {ReferenceRefused, "{attribute} of \"{element}\": {other} is refused ({detail})"},
     {InvalidRedefinition, "\"{element}\" does not redefine what it inherits: {detail}"},
+    {InvalidBlock, "attribute blocks of \"{element}\": {detail}"},
 };
-static_assert(std::size(kReasons) == static_cast<std::size_t>(InvalidRedefinition) + 1);
+static_assert(std::size(kReasons) == static_cast<std::size_t>(InvalidBlock) + 1);
 
 std::string_view AttributeName(const Fault& fault) {
     return fault.attribute ? fault.attribute.Name() : fault.attributeName;
@@ -85,6 +86,10 @@ public:
             if (!_TraceText.empty()) _TraceText += '\n';
             _TraceText += WholeLine(line);
         }
+        for (const std::string& line : fault.errorLines) {
+            if (!_TraceText.empty()) _TraceText += '\n';
+            _TraceText += line;
+        }
     }
 
     ZanDicSeverity Severity() const override { return _Fault.severity; }
@@ -104,6 +109,7 @@ public:
     std::string_view OtherParty() const override { return _Fault.otherParty; }
     std::string_view TraceText() const override { return _TraceText; }
     bool Traced() const override {
+        if (!_Fault.errorLines.empty()) return true;
         return std::any_of(_Fault.lines.begin(), _Fault.lines.end(),
                            [](const FaultLine& line) { return line.operation.On(line.level); });
     }
@@ -138,6 +144,7 @@ std::string PlainReason(const Fault& fault) {
 
 HRESULT FaultReport::Report(const Fault& fault) {
     const bool isError = fault.severity == ZanDicSeverity::Error;
+    const bool isFailure = isError || fault.asksToGoOn;
     bool goesOn = false;
     if (ZanDicDiagnosticObserver* const observer = ZanDicGetDiagnosticObserver(); observer != nullptr) {
         goesOn = observer->OnDiagnostic(ReportedFault(fault, _Document));
@@ -147,7 +154,8 @@ HRESULT FaultReport::Report(const Fault& fault) {
         if (!line.operation.On(line.level)) continue;
         ZELWriteLine({WholeLine(line), ZELLineStream::Output, severity, true});
     }
-    if (!isError) return S_OK;
+    for (const std::string& line : fault.errorLines) ZanDicWriteError(line);
+    if (!isFailure) return S_OK;
     if (!goesOn) _Stopped = true;
     return E_FAIL;
 }

@@ -32,6 +32,10 @@ struct Fault {
     std::string file = {};                ///< when it is not the document that is being read
     ZanDicPlace place = {};               ///< where there is no tag to point at
     std::vector<FaultLine> lines = {};    ///< none when somebody else wrote them
+    /// Whole lines for standard error, written whatever the trace settings.
+    std::vector<std::string> errorLines = {};
+    /// A warning for the load that fails a document of its own, as an error does.
+    bool asksToGoOn = false;
 };
 
 /// The document that is being read, as diagnostics name it.
@@ -47,7 +51,8 @@ public:
     /// Says which document is being read from now on; it must live until another is entered.
     void Enter(const FaultDocument& document) { _Document = &document; }
 
-    /// Tells the observer and writes the lines. \returns E_FAIL for an error, S_OK for a warning.
+    /// Tells the observer and writes the lines.
+    /// \returns E_FAIL for an error, and for a warning that fails its document; S_OK for another warning.
     HRESULT Report(const Fault& fault);
 
     /// Whether anybody would learn of a warning of that line. Asked before a frequent one is made.

@@ -1,16 +1,16 @@
 #include "PackageLoad.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
+#include "DocumentFile.h"
 #include "HexToBinary.h"
-#include "OxmBuildFileName.h"
 #include "OxmDicFromXMLCheck.h"
 #include "OxmDicFromXMLComplete.h"
 #include "OxmDicFromXMLElements.h"
 #include "OxmDicFromXMLFill.h"
 #include "ReaderTexts.h"
+#include "TuningReading.h"
 #include "WordList.h"
 #include "ZANDicValueWords.h"
 #include "ZELUuid.h"
@@ -29,17 +29,6 @@ std::string_view BeforeFirstDot(std::string_view name) { return name.substr(0, n
 bool IsPackageName(std::string_view name) {
     return !name.empty() && name.find_first_of("/\\") == std::string_view::npos &&
            name.find("..") == std::string_view::npos;
-}
-
-/// The file that the manager's search path has for a package and a content word; empty when none.
-std::string FindFile(const char* dirNames, const ZELString& package, const ZELString& extension,
-                     HRESULT* result = nullptr) {
-    char* fullName = nullptr;
-    const HRESULT rc =
-        OxmBuildFileName('r', dirNames, package.ConvertToChar(), extension.ConvertToChar(), &fullName);
-    const std::unique_ptr<char, decltype(&std::free)> owner(fullName, &std::free);
-    if (result != nullptr) *result = rc;
-    return Succeeded(rc) && fullName != nullptr ? std::string(fullName) : std::string();
 }
 
 /// What a later pass meets, at the level of tags.
@@ -170,7 +159,7 @@ bool PackageLoad::split_Name() {
 
 bool PackageLoad::find_Document() {
     HRESULT rc = E_FAIL;
-    std::string file = FindFile(_Run.dirNames, _AskedName, _Extension, &rc);
+    std::string file = FindDocument(_Run.dirNames, _AskedName, _Extension, &rc);
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kBuildFileNameResult << ZanDicTraceScope::Word(rc) << ", " << _AskedName;
     }
@@ -203,18 +192,10 @@ bool PackageLoad::parse_Document() {
 }
 
 bool PackageLoad::find_PackageNode() {
-    const ZELVBTXMLNode root = _Document->Root();
-    if (root.getTag() == tag::kPackage) {
-        _Node = root;
-        return true;
-    }
-    for (const ZELVBTXMLNode child : root.Children()) {
-        if (child.getTag() != tag::kPackage) continue;
-        _Node = child;
-        return true;
-    }
+    _Node = FindPackageNode(*_Document);
+    if (_Node) return true;
     Fault fault{NoPackageTag};
-    fault.node = root;
+    fault.node = _Document->Root();
     fault.element = _Place.package;
     fault.lines.push_back({kTrace, Joined({text::kErrorWhenSearching, tag::kPackage, text::kTag})});
     fault.lines.push_back({kTrace, Joined({text::kCouldNotFind, tag::kPackage, text::kTagInMetadata,
@@ -507,12 +488,13 @@ void PackageLoad::remove_Package() {
     _Run.manager.RemovePackage(&_Name);
 }
 
-/// Tuning documents are not read yet: one that is there gives a warning, and the package stays loaded.
+/// The package stays loaded, whatever is wrong with its tuning.
 void PackageLoad::read_Tuning() {
     if (auto line = kTrace.Line(TraceLevel::Information)) line << text::kCallingTuning << _Name << ")...";
-    const CodeWord* const tuning = FindCode(kContentWords, OXMDicCONTENT_tuning);
-    std::string file = FindFile(_Run.dirNames, _Name, ZELString(tuning->word));
-    const HRESULT rc = file.empty() ? S_FALSE : E_FAIL;
+    TuningReading tuning(_Run.manager, _Name, _Run.dirNames, *_Reading->package);
+    TuningReading* const one = &tuning;
+    if (tuning.Read() == S_OK) TuningReading::Compute({&one, 1});
+    const HRESULT rc = tuning.Result();
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kTuningResult << _Name << ")]=" << ZanDicTraceScope::Word(rc);
     }
@@ -520,8 +502,8 @@ void PackageLoad::read_Tuning() {
     Fault fault{TuningFailed};
     fault.severity = ZanDicSeverity::Warning;
     fault.element = _Name.View();
-    fault.file = std::move(file);
-    fault.detail = "tuning documents are not supported yet; the package is loaded without attribute blocks";
+    fault.file = tuning.File();
+    fault.detail = "the tuning document is at fault; the package is loaded without its attribute blocks";
     fault.lines.push_back({kTrace, Joined({text::kTuningWarning, _Name.View(), ")", text::kFailed})});
     _Run.faults.Report(fault);
 }
