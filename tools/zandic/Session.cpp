@@ -33,7 +33,7 @@ Session::Session(const Options& options)
     ZELSetLineSink(&Lines());
     ZanDicSetProfiler(&_Clock);
     ZanDicSetDiagnosticObserver(&_Observer);
-    if (options.traceLevel) ZanDicSetTraceLevel(*options.traceLevel);
+    if (options.traceLevel) ZanDicSetTraceLevel(std::stoi(*options.traceLevel));
 }
 
 Session::~Session() {
@@ -66,6 +66,21 @@ bool Session::Load(const std::string& name) {
     if (!result)
         Note(error ? std::move(*error) : Fault{name, {}, "the dictionary refuses it"}, ExitStatus::Refused);
     return static_cast<bool>(result);
+}
+
+std::vector<Session::LoadTime> Session::LoadTimes() const {
+    std::vector<LoadTime> times;
+    for (const std::string& asked : _Clock.Finished()) {
+        const std::string package = _Observer.NameIn(asked);
+        const auto same = std::find_if(times.begin(), times.end(),
+                                       [&](const LoadTime& time) { return time.package == package; });
+        if (same == times.end()) {
+            times.push_back({package, _Clock.Own(asked)});
+        } else {
+            same->own += _Clock.Own(asked);
+        }
+    }
+    return times;
 }
 
 void Session::LoadWholePath() {
