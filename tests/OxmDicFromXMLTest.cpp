@@ -20,6 +20,14 @@ namespace {
 
 const std::string kData = ZANDIC_TEST_DATA;
 
+/// The name of the package of that number in a chain.
+std::string ChainName(int number) { return std::string("P").append(std::to_string(number)); }
+
+/// The attribute by which a package of a chain uses the one before it.
+std::string UsesOneBefore(int number) {
+    return std::string("UseNames=\"").append(ChainName(number - 1)).append("\"");
+}
+
 class OxmDicFromXMLTest : public ReaderFixture {
 protected:
     HRESULT Read(std::string_view name, OXMDicCONTENT content = OXMDicCONTENT_metadata) {
@@ -385,10 +393,8 @@ TEST_F(OxmDicFromXMLTest, PackagesThatUseEachOthersScopesLoad) {
 }
 
 TEST_F(OxmDicFromXMLTest, AChainOf5000UsedPackagesLoads) {
-    for (int number = 0; number < 5000; ++number) {
-        const std::string name = "P" + std::to_string(number);
-        MakePackage(name, "", number > 0 ? "UseNames=\"P" + std::to_string(number - 1) + "\"" : "");
-    }
+    MakePackage(ChainName(0), "");
+    for (int number = 1; number < 5000; ++number) MakePackage(ChainName(number), "", UsesOneBefore(number));
 
     EXPECT_EQ(Load("P4999"), S_OK);
 
@@ -396,9 +402,7 @@ TEST_F(OxmDicFromXMLTest, AChainOf5000UsedPackagesLoads) {
 }
 
 TEST_F(OxmDicFromXMLTest, AChainOf5000PackagesFailsWithItsLast) {
-    for (int number = 1; number < 5000; ++number) {
-        MakePackage("P" + std::to_string(number), "", "UseNames=\"P" + std::to_string(number - 1) + "\"");
-    }
+    for (int number = 1; number < 5000; ++number) MakePackage(ChainName(number), "", UsesOneBefore(number));
 
     EXPECT_EQ(Load("P4999"), E_FAIL);
 

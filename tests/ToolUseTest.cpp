@@ -90,7 +90,7 @@ TEST_F(ToolUseTest, AnUnknownCommandIsNamed) {
 
 TEST_F(ToolUseTest, AnUnknownOptionIsNamed) {
     ExpectWrongUse({"load", "--fast", "BomItems"}, "there is no option '--fast' (see 'zandic load --help')");
-    ExpectWrongUse({"load", "--json", "BomItems"}, "there is no option '--json' (see 'zandic load --help')");
+    ExpectWrongUse({"load", "--json", "BomItems"}, "load does not know --json (see 'zandic load --help')");
     ExpectWrongUse({"--fast"}, "there is no option '--fast' (see 'zandic --help')");
 }
 
@@ -106,7 +106,8 @@ TEST_F(ToolUseTest, DumpWantsToBeAskedForJson) {
 }
 
 TEST_F(ToolUseTest, InBelongsToShow) {
-    ExpectWrongUse({"load", "BomItems", "--in", "BomPeople"}, "load does not know --in (see 'zandic load --help')");
+    ExpectWrongUse({"load", "BomItems", "--in", "BomPeople"},
+                   "load does not know --in (see 'zandic load --help')");
 }
 
 TEST_F(ToolUseTest, AnOptionWithoutItsValueIsNamed) {
@@ -116,7 +117,8 @@ TEST_F(ToolUseTest, AnOptionWithoutItsValueIsNamed) {
 }
 
 TEST_F(ToolUseTest, ATuningDocumentIsNotLoadedByItself) {
-    const std::string why = ": error: a tuning document is read with its package, not by itself: give the package's name";
+    const std::string why =
+        ": error: a tuning document is read with its package, not by itself: give the package's name";
     ExpectWrongName({"load", "BomItems.tuning"}, "BomItems.tuning" + why);
     ExpectWrongName({"show", "BomItems.tuning"}, "BomItems.tuning" + why);
     ExpectWrongName({"show", "BomItems.tuning::BomPart"}, "BomItems.tuning::BomPart" + why);
@@ -137,7 +139,8 @@ TEST_F(ToolUseTest, AnEmptyNameIsRefused) {
 
 TEST_F(ToolUseTest, WhatWasMeantForAUuidIsSaidToBeNone) {
     const std::string why = ": error: this is no UUID, which has 32 digits, grouped 8-4-4-16 or not at all";
-    ExpectWrongName({"show", "5AAF3900-5E46-4551-BB9AE4FD947B800"}, "5AAF3900-5E46-4551-BB9AE4FD947B800" + why);
+    ExpectWrongName({"show", "5AAF3900-5E46-4551-BB9AE4FD947B800"},
+                    "5AAF3900-5E46-4551-BB9AE4FD947B800" + why);
     ExpectWrongName({"show", "5aaf39005e464551bb9ae4fd947b80033"}, "5aaf39005e464551bb9ae4fd947b80033" + why);
 }
 
@@ -150,7 +153,8 @@ TEST_F(ToolUseTest, ANameOfDigitsIsAPackageWhereThereIsItsDocument) {
 TEST_F(ToolUseTest, TheWorstOfSeveralNamesCounts) {
     EXPECT_EQ(OnSample({"load", "BomNothing", "BomPeople"}).status, 1);
     EXPECT_EQ(OnSample({"load", "BomNothing", "BomPeople.tuning", "BomPeople"}).status, kWrongUse);
-    EXPECT_EQ(LinesIn(OnSample({"load", "BomNothing", "BomPeople.tuning", "BomPeople"}).out), 2) << "package, total";
+    EXPECT_EQ(LinesIn(OnSample({"load", "BomNothing", "BomPeople.tuning", "BomPeople"}).out), 2)
+        << "package, total";
 }
 
 }  // namespace

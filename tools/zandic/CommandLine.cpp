@@ -44,6 +44,7 @@ void AddOptions(CLI::App& app, Options& options) {
                    "place of the variable ZELDictionaryPath; adds up")
         ->type_name("DIRS")
         ->expected(1)
+        ->allow_extra_args(false)  // what follows DIRS is no further directory
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     app.add_option("--in", options.in, "packages in which 'show' looks for a UUID")
         ->type_name("NAME")

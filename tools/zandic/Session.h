@@ -60,7 +60,7 @@ public:
     ExitStatus Close();
 
 private:
-    void Note(Fault fault, ExitStatus status);
+    void Note(const Fault& fault, ExitStatus status);
 
     zandic::Dictionary _Dictionary;
     FaultObserver _Observer;
@@ -69,7 +69,8 @@ private:
     std::string _TraceMethods;
     std::set<std::string, std::less<>> _LOADED;   ///< names asked for that are there
     std::set<std::string, std::less<>> _REFUSED;  ///< names asked for that are not
-    std::vector<Fault> _FAULTS;
+    std::vector<std::string> _LINES;              ///< one for each fault
+    std::set<std::string, std::less<>> _TOLD;     ///< the same
     ExitStatus _Status = ExitStatus::Done;
 };
 

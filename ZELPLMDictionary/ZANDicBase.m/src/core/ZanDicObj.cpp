@@ -73,6 +73,7 @@ constinit ZELMetaClass objectMeta("ZanDicObj");
 }  // namespace
 
 constinit int ZanDicObj::liveObjects = 0;
+constinit ZanDicObj* ZanDicObj::sharedProbe = nullptr;
 
 ZanDicRareFields::ZanDicRareFields() = default;
 ZanDicRareFields::~ZanDicRareFields() = default;
@@ -242,7 +243,7 @@ HRESULT ZanDicObj::GetAllOtherAttributes(ZELListValZELUnicodeString& names,
 }
 
 HRESULT ZanDicObj::AddCategory(const OXMIDicCategory* category) {
-    constexpr ZanDicTraceScope trace("ZanDicObj::AddCategory");
+    static constexpr ZanDicTraceScope trace("ZanDicObj::AddCategory");
     trace.Start("=== start === ");
     if (auto line = trace.Line(TraceLevel::Detail)) line << "_Name=" << _Name;
     if (category == nullptr) {
@@ -342,7 +343,9 @@ void ZanDicObj::mark_Gone() {
 
 void ZanDicObj::take_Owned(std::vector<ZanDicObj*>& /*owned*/) {}
 
-void ZanDicObj::drop_Links() {}
+void ZanDicObj::drop_Links() {
+    if (_Rare) _Rare->categories.reset();
+}
 
 std::unique_ptr<ZanDicRareFields> ZanDicObj::new_RareFields() const {
     return std::make_unique<ZanDicRareFields>();
@@ -358,13 +361,9 @@ bool ZanDicObj::shows_Probe() {
 }
 
 void ZanDicObj::make_SharedProbe() {
-    // Kept for the life of the process, and no object of the dictionary.
-    static ZanDicObj* const probe = [] {
-        auto* const object = new ZanDicObj;
-        --liveObjects;
-        return object;
-    }();
-    static_cast<void>(probe);
+    if (sharedProbe != nullptr) return;
+    sharedProbe = new ZanDicObj;
+    --liveObjects;  // no object of the dictionary
 }
 
 std::uint32_t HashNameZanDicObj(ZanDicObj* object) {

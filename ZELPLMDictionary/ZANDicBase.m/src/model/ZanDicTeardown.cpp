@@ -163,6 +163,7 @@ void DropTaken(const std::vector<ZanDicObj*>& owned) {
         ZanDicObj& object = *taken[next];
         object.take_Owned(taken);
         if (registry != nullptr && object.is_Registered()) registry->forget_Obj(object);
+        object.set_Registered(false);
         object.mark_Gone();
         object.Release();
     }

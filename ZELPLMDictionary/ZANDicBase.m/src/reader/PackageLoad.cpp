@@ -184,7 +184,8 @@ bool PackageLoad::Advance() {
         StepResult result = StepResult::Finished;
         if (_Step < std::size(kSteps)) {
             const ZanDicTrace::DocumentScope document;
-            result = (this->*kSteps[_Step])();
+            const auto step = kSteps[_Step];  // on its own, or the sanitizer takes the pointer for the index
+            result = (this->*step)();
         }
         if (result == StepResult::NeedsPackage) return false;
         if (result == StepResult::Next) ++_Step;
