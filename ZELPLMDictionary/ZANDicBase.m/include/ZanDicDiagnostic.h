@@ -23,7 +23,6 @@ enum class ZanDicDiagnosticCode : std::uint8_t {
     InvalidDomain,
     PrerequisiteFailed,
     PackageNotCreated,
-    PackageInUseRing,
     TuningFailed,
     // tags and attributes
     MissingAttribute,
@@ -34,7 +33,7 @@ enum class ZanDicDiagnosticCode : std::uint8_t {
     UnknownTag,
     DeprecatedTag,
     UnsupportedTag,
-    UnsupportedAttribute,
+    RepeatedAttribute,  ///< the last one counts
     // elements
     NotCreated,
     DuplicateName,

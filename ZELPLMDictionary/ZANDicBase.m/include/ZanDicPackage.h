@@ -124,6 +124,11 @@ public:
 
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
 
+    /// The content kind that the package was loaded from, under which it is saved; metadata unless the reader
+    /// says otherwise.
+    void set_Content(OXMDicCONTENT content) { _Content = content; }
+    OXMDicCONTENT get_Content() const { return _Content; }
+
 protected:
     void drop_Links() override;
     int count_LostLinks() const override;
@@ -135,6 +140,7 @@ private:
     HRESULT add_Package(ZanHashList& packages, const OXMIDicPackage* package);
     HRESULT get_Packages(const ZanHashList& list, ZELListPtrIUnknown* packages) const;
 
+    OXMDicCONTENT _Content = OXMDicCONTENT_metadata;
     ZELString _Domain;
     mutable bool _OnTheWay = false;  ///< during GetAllElements: among those whose elements are being listed
     ZanHashList _ELEMENTS;           ///< this package owns one reference to each

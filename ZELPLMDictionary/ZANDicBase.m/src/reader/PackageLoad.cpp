@@ -4,16 +4,15 @@
 #include <cstdlib>
 #include <utility>
 
-#include "OXMIDicCategory.h"
-#include "OXMIDicEnum.h"
 #include "OxmBuildFileName.h"
-#include "OxmDicFromXMLCheck.h"
 #include "OxmDicFromXMLComplete.h"
+#include "OxmDicFromXMLElements.h"
 #include "OxmDicFromXMLFill.h"
 #include "ReaderTexts.h"
 #include "WordList.h"
 #include "ZANDicValueWords.h"
 #include "ZELUuid.h"
+#include "ZanDicLoadRecord.h"
 #include "ZanDicProfiling.h"
 
 using namespace ZANDicFormat;
@@ -42,175 +41,75 @@ std::string FindFile(const char* dirNames, const ZELString& package, const ZELSt
     return Succeeded(rc) && fullName != nullptr ? std::string(fullName) : std::string();
 }
 
-// Children of the package.
-
-/// A child of the package on its way to an element.
-struct ElementTag {
-    Reading& reading;
-    const ZELVBTXMLNode& node;
-    ZELString name;
-    ZELDbBinary uuid;
-};
-
-template <class Face>
-using Factory = HRESULT (OXMIDicPackage::*)(const ZELString*, const ZELDbBinary*, Face**);
-
-/// Makes an element by one of the package's factories. \returns E_FAIL when it was not made and registered.
-template <class Face>
-HRESULT CreateElement(const ElementTag& tag, Factory<Face> factory, ZanDicRef<Face>& element) {
-    OXMIDicPackage& package = *tag.reading.package;
-    const HRESULT rc = (package.*factory)(&tag.name, &tag.uuid, element.Out());
-    if (Succeeded(rc) && element) return S_OK;
-
-    ZanDicRef<OXMIDicElement> other;
-    const bool isNameTaken = Succeeded(package.GetElement(&tag.name, other.Out()));
-    return ReportNotCreated(tag.reading, kTrace, tag.node, static_cast<bool>(element), isNameTaken,
-                            Joined({text::kCouldNotCreate, tag.node.getTag(), " ", tag.name.View()}));
-}
-
-/// The line of a handler that failed; its faults are told already.
-void TraceFillFailed(std::string_view kind, std::string_view name) {
-    if (auto line = kTrace.Error()) {
-        line << text::kFillFailed << kind;
-        if (!name.empty()) line << text::kFor << name;
-        line << text::kFailed;
-    }
-}
-
-template <unsigned char IsInstance>
-HRESULT ReadClass(const ElementTag& tag) {
-    ElementNote note{tag.node.Index()};
-    HRESULT rc = CreateElement<OXMIDicClass>(tag, &OXMIDicPackage::CreateClass, note.element);
-    if (Failed(rc)) return rc;
-    note.element->SetInstance(IsInstance);
-    rc = FillClass(tag.reading, tag.node, *note.element, note);
-    tag.reading.elements.push_back(std::move(note));
-    if (Failed(rc)) TraceFillFailed(tag::kClass, tag.name.View());
-    return rc;
-}
-
-HRESULT ReadEnum(const ElementTag& tag) {
-    ZanDicRef<OXMIDicEnum> element;
-    HRESULT rc = CreateElement<OXMIDicEnum>(tag, &OXMIDicPackage::CreateEnum, element);
-    if (Failed(rc)) return rc;
-    rc = FillEnum(tag.reading, tag.node, *element);
-    if (Failed(rc)) TraceFillFailed(tag::kEnum, {});
-    return rc;
-}
-
-HRESULT ReadCategory(const ElementTag& tag) {
-    ZanDicRef<OXMIDicCategory> element;
-    HRESULT rc = CreateElement<OXMIDicCategory>(tag, &OXMIDicPackage::CreateCategory, element);
-    if (Failed(rc)) return rc;
-    rc = FillCategory(tag.reading, tag.node, *element);
-    if (Failed(rc)) TraceFillFailed(tag::kCategory, {});
-    return rc;
-}
-
-HRESULT Refuse(const ElementTag& tag, ZanDicDiagnosticCode code, std::string_view before,
-               std::string_view behind) {
-    Fault fault = FaultOf(tag.reading, code, tag.node);
-    fault.lines.push_back({kTrace, Joined({before, tag.node.getTag(), "[", tag.name.View(), behind})});
-    const HRESULT rc = tag.reading.faults.Report(fault);
-    if (!tag.reading.faults.IsStopped()) tag.reading.leftOut.AddAll(tag.node);
-    return rc;
-}
-
-HRESULT RefuseDeprecated(const ElementTag& tag) {
-    return Refuse(tag, DeprecatedTag, text::kDeprecatedTag, text::kNotSupportedAnyMore);
-}
-
-HRESULT RefuseUnsupported(const ElementTag& tag) {
-    return Refuse(tag, UnsupportedTag, text::kUnsupportedTag, text::kNotSupportedYet);
-}
-
-struct ElementRow {
-    std::string_view name;
-    HRESULT (*read)(const ElementTag&);  ///< null for what no pass looks at
-};
-
-constexpr ElementRow kElementRows[] = {
-    {tag::kClass, ReadClass<0>},
-    {tag::kInstance, ReadClass<1>},
-    {tag::kEnum, ReadEnum},
-    {tag::kCategory, ReadCategory},
-    {tag::kCommand, RefuseDeprecated},
-    {tag::kBObject, RefuseDeprecated},
-    {tag::kExtension, RefuseUnsupported},
-    {tag::kInterface, RefuseUnsupported},
-    {tag::kRBOClass, RefuseUnsupported},
-    {tag::kRBOMapping, RefuseUnsupported},
-    {tag::kComment, nullptr},
-    {tag::kKVAComment, nullptr},
-};
-
-const ElementRow* FindElementRow(std::string_view tagName) {
-    for (const ElementRow& row : kElementRows) {
-        if (row.name == tagName) return &row;
-    }
-    return nullptr;
-}
-
-std::string UnknownTagMessage(const ZELVBTXMLNode& node) {
-    return Joined({text::kUnknownTag, node.getTag(), "[", NameOf(node), text::kSkippingTag});
-}
-
-/// What a later pass meets, at the level of tags.
-void TraceTag(std::size_t pass, const ZELVBTXMLNode& node) {
-    if (auto line = kTrace.Line(TraceLevel::Tag)) {
-        line << text::kPassTags[pass] << node.getTag() << "[" << NameOf(node) << "]";
-    }
-}
-
 }  // namespace
 
-const PackageLoad::Step PackageLoad::kSteps[] = {
-    &PackageLoad::open_Document,      &PackageLoad::read_Identity,    &PackageLoad::load_UsedPackages,
-    &PackageLoad::create_Package,     &PackageLoad::add_UsedPackages, &PackageLoad::fill_Elements,
-    &PackageLoad::load_ScopePackages, &PackageLoad::add_Commands,     &PackageLoad::complete_Elements,
-    &PackageLoad::check_Classes,
+const PackageLoad::StepRow PackageLoad::kSteps[] = {
+    {&PackageLoad::open_Document, LoadPhase::Read},
+    {&PackageLoad::read_Identity, LoadPhase::Read},
+    {&PackageLoad::load_UsedPackages, LoadPhase::Read},
+    {&PackageLoad::create_Package, LoadPhase::Read},
+    {&PackageLoad::add_UsedPackagesAtOnce, LoadPhase::Read},
+    {&PackageLoad::fill_Elements, LoadPhase::Read},
+    {&PackageLoad::add_UsedPackages, LoadPhase::Used},
+    {&PackageLoad::load_ScopePackages, LoadPhase::Scoped},
+    {&PackageLoad::add_Commands, LoadPhase::Scoped},
+    {&PackageLoad::complete_Elements, LoadPhase::Completed},
+    {&PackageLoad::complete_PutOff, LoadPhase::Extended},
+    {&PackageLoad::check_Classes, LoadPhase::Checked},
 };
 
-PackageLoad::PackageLoad(LoadRun& run, PackageRequest request) : _Run(run), _Request(std::move(request)) {
+PackageLoad* LoadRun::Find(std::string_view name) const {
+    const auto entry = inProgress.find(std::string(name));
+    return entry != inProgress.end() ? entry->second : nullptr;
+}
+
+PackageLoad::PackageLoad(LoadRun& run, PackageRequest request, std::size_t order)
+    : _Run(run), _Request(std::move(request)), _Order(order), _Low(order), _FirstMember(run.created.size()) {
     _Place.file = _Request.name.View();
     _Place.package = BeforeFirstDot(_Request.name.View());
 }
 
 PackageLoad::~PackageLoad() { leave_Names(); }
 
-bool PackageLoad::Advance() {
+bool PackageLoad::HasReached(LoadPhase phase) const {
+    return _IsEnded || _Step == std::size(kSteps) || kSteps[_Step].phase > phase;
+}
+
+bool PackageLoad::Advance(LoadPhase phase) {
     _Run.faults.Enter(_Place);
-    while (!_IsOver) {
-        StepResult result = StepResult::Finished;
-        if (_Step < std::size(kSteps)) {
-            const ZanDicTrace::DocumentScope document;
-            const auto step = kSteps[_Step];  // on its own, or the sanitizer takes the pointer for the index
-            result = (this->*step)();
-        }
+    Resume();
+    while (!HasReached(phase)) {
+        const ZanDicTrace::DocumentScope document;
+        const auto step = kSteps[_Step].step;  // on its own, or the sanitizer takes the pointer for the index
+        const StepResult result = (this->*step)();
         if (result == StepResult::NeedsPackage) return false;
+        if (result == StepResult::Waits) return true;
         if (result == StepResult::Next) ++_Step;
-        if (result == StepResult::Finished) finish();
+        if (result == StepResult::Finished) _IsEnded = true;
     }
     return true;
 }
 
-void PackageLoad::Deliver(HRESULT rc) {
-    _IsWaiting = false;
+void PackageLoad::Deliver(const PackageLoad& inner) {
     _Run.faults.Enter(_Place);
+    const HRESULT rc = inner.Result();
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kCallResult << _Needed.name << "))=" << ZanDicTraceScope::Word(rc);
     }
-    ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
+    Resume();
+    Join(inner);
     if (Failed(rc)) {
         _Result = rc;
         _FAILED.push_back(ZELString(BeforeFirstDot(_Needed.name.View())));
     }
 }
 
-void PackageLoad::Abandon() {
-    if (_IsOver) return;
-    _Result = E_FAIL;
-    finish();
+void PackageLoad::Pause() {
+    if (std::exchange(_IsRunning, false)) ZanDicProfiling::StepOut(text::kPhase, _Request.name.View());
+}
+
+void PackageLoad::Resume() {
+    if (!std::exchange(_IsRunning, true)) ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
 }
 
 // The document.
@@ -223,15 +122,9 @@ PackageLoad::StepResult PackageLoad::open_Document() {
     }
     if (auto line = kTrace.Line(TraceLevel::Detail))
         line << text::kContent << static_cast<int>(_Request.content);
-    ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
 
-    if (!split_Name()) return StepResult::Finished;
+    if (!split_Name() || is_ThereAlready(_AskedName)) return StepResult::Finished;
     enter_Name(_AskedName);
-    if (is_Loaded(_AskedName)) {
-        kTrace.Say(TraceLevel::Information, text::kAlreadyLoaded);
-        _IsPassedOver = true;
-        return StepResult::Finished;
-    }
     if (!find_Document() || !parse_Document() || !find_PackageNode()) return StepResult::Finished;
     return StepResult::Next;
 }
@@ -347,11 +240,7 @@ PackageLoad::StepResult PackageLoad::read_Identity() {
     if (_Run.faults.IsStopped()) return StepResult::Finished;
 
     if (_Name != _AskedName) {
-        if (is_Loaded(_Name)) {
-            kTrace.Say(TraceLevel::Information, text::kAlreadyLoaded);
-            _IsPassedOver = true;
-            return StepResult::Finished;
-        }
+        if (is_ThereAlready(_Name)) return StepResult::Finished;
         enter_Name(_Name);
     }
     _NAMES = read_Names(word::kUseNames, false);
@@ -438,25 +327,9 @@ bool PackageLoad::is_Self(std::string_view packageName) const {
     return packageName == _AskedName.View() || packageName == _Name.View();
 }
 
-/// Whether a needed package may be loaded now: one that is being loaded and not there yet cannot.
-bool PackageLoad::check_Need(const ZELString& name) {
-    const ZELString package(BeforeFirstDot(name.View()));
-    if (!_Run.namesInProgress.contains(std::string(package.View())) || is_Loaded(package)) return true;
-    Fault fault = package_Fault(PackageInUseRing);
-    fault.attribute = _Needed.attribute;
-    fault.otherParty = package.View();
-    fault.detail = package.View();
-    fault.lines.push_back({kTrace, Joined({text::kUseRing, package.View(), text::kUseRingOf})});
-    goes_On(_Run.faults.Report(fault));
-    _FAILED.push_back(package);
-    return false;
-}
-
 PackageLoad::StepResult PackageLoad::need_Package(std::string_view attributeName, const ZELString& name) {
     _Needed = {name, OXMDicCONTENT_metadata, &_Place, _Node, _Node.getAttribute(attributeName)};
-    if (!check_Need(name)) return _Run.faults.IsStopped() ? StepResult::Finished : StepResult::Again;
-    _IsWaiting = true;
-    ZanDicProfiling::StepOut(text::kPhase, _Request.name.View());
+    Pause();
     if (auto line = kTrace.Line(TraceLevel::Information)) line << text::kCalling << name << ")";
     return StepResult::NeedsPackage;
 }
@@ -468,16 +341,16 @@ PackageLoad::StepResult PackageLoad::load_UsedPackages() {
 }
 
 PackageLoad::StepResult PackageLoad::create_Package() {
-    if (is_Loaded(_Name)) {
-        kTrace.Say(TraceLevel::Information, text::kFinallyLoaded);
-        _IsPassedOver = true;
-        return StepResult::Finished;
-    }
-    _Reading = std::make_unique<Reading>(_Run.manager, _Run.faults, _Run.leftOut, *_Document);
+    _Reading =
+        std::make_unique<Reading>(_Run.manager, _Run.faults, _Run.leftOut, _Run.untargeted, *_Document);
     const HRESULT rc = _Run.manager.CreatePackage(&_Name, &_Uuid, &_Domain, _Reading->package.Out());
-    if (Succeeded(rc) && _Reading->package) return next_After(FillPackage(*_Reading, _Node));
-
-    _Reading->package.Reset();
+    if (Succeeded(rc) && _Reading->package) {
+        const CodeWord* const content = FindWord(kContentWords, _Extension.View());
+        ZanDicNoteLoad(*_Reading->package, _AskedName, static_cast<OXMDicCONTENT>(content->code));
+        _Run.created.push_back(this);
+        return next_After(FillPackage(*_Reading, _Node));
+    }
+    _Reading.reset();
     ZanDicRef<OXMIDicElementH> registered;
     Fault fault = package_Fault(PackageNotCreated);
     if (Succeeded(_Run.manager.Search(&_Uuid, registered.Out()))) {
@@ -493,8 +366,11 @@ PackageLoad::StepResult PackageLoad::create_Package() {
 /// Notes a loaded package on this one. \returns whether to go on.
 bool PackageLoad::add_Package(std::string_view attributeName, const ZELString& name, bool isScope) {
     if (std::find(_FAILED.begin(), _FAILED.end(), name) != _FAILED.end()) return true;
-    ZanDicRef<OXMIDicPackage> package;
-    if (Succeeded(_Run.manager.GetPackage(&name, package.Out())) && package) {
+    if (const PackageLoad* const open = _Run.Find(name.View()); open != nullptr && !open->IsCreated()) {
+        return goes_On(E_FAIL);  // what kept it from being made is told already
+    }
+    if (const ZanDicRef<OXMIDicPackage> package = loaded_Package(name)) {
+        if (package.Get() == _Reading->package.Get()) return true;
         if (isScope) {
             _Reading->package->AddScopePackage(package.Get());
         } else {
@@ -511,7 +387,15 @@ bool PackageLoad::add_Package(std::string_view attributeName, const ZELString& n
     return goes_On(_Run.faults.Report(fault));
 }
 
+/// Where no ring is in sight the used packages are all there before the first pass; in a ring they are
+/// noted once the first pass of each member is done.
+PackageLoad::StepResult PackageLoad::add_UsedPackagesAtOnce() {
+    const bool isAlone = _Low == _Order && _Run.created.size() == _FirstMember + 1;
+    return isAlone ? add_UsedPackages() : StepResult::Next;
+}
+
 PackageLoad::StepResult PackageLoad::add_UsedPackages() {
+    if (std::exchange(_HasUsedPackages, true)) return StepResult::Next;
     // One that is missing does not keep the others from being tried.
     for (const ZELString& name : read_Names(word::kUseNames, true)) {
         add_Package(word::kUseNames, name, false);
@@ -521,12 +405,16 @@ PackageLoad::StepResult PackageLoad::add_UsedPackages() {
 
 PackageLoad::StepResult PackageLoad::load_ScopePackages() {
     if (Failed(_Result) && _Run.faults.IsStopped()) return StepResult::Finished;
-    if (_NextName > 0) {
+    if (_IsScopeOpen) {
         const ZELString name(BeforeFirstDot(_NAMES[_NextName - 1].View()));
+        const PackageLoad* const open = _Run.Find(name.View());
+        if (open != nullptr && !open->IsCreated() && !open->_IsEnded) return StepResult::Waits;
+        _IsScopeOpen = false;
         if (!add_Package(word::kUseScopes, name, true)) return StepResult::Finished;
     }
     if (_NextName == _NAMES.size()) return StepResult::Next;
     if (auto line = kTrace.Line(TraceLevel::Tag)) line << text::kBetweenPasses << _NAMES[_NextName];
+    _IsScopeOpen = true;
     return need_Package(word::kUseScopes, _NAMES[_NextName++]);
 }
 
@@ -536,100 +424,49 @@ PackageLoad::StepResult PackageLoad::add_Commands() { return next_After(Complete
 
 PackageLoad::StepResult PackageLoad::fill_Elements() {
     for (const ZELVBTXMLNode child : _Node.Children()) {
-        TraceTag(0, child);
-        if (!goes_On(fill_Element(child))) return StepResult::Finished;
+        if (!goes_On(ReadElement(*_Reading, child))) return StepResult::Finished;
     }
     _NAMES = read_Names(word::kUseScopes, false);
     _NextName = 0;
     return StepResult::Next;
 }
 
-HRESULT PackageLoad::fill_Element(const ZELVBTXMLNode& node) {
-    const ElementRow* const row = FindElementRow(node.getTag());
-    if (row != nullptr && row->read == nullptr) return S_OK;
-
-    HRESULT result = S_OK;
-    const std::string_view name = NameOf(node);
-    const auto uuid = node.getAttributeValue(word::kUuid);
-    for (const std::string_view attribute : {word::kName, word::kUuid}) {
-        if (attribute == word::kName ? !name.empty() : uuid.has_value()) continue;
-        Fault fault = FaultOf(*_Reading, MissingAttribute, node);
-        fault.attributeName = attribute;
-        fault.lines.push_back({kTrace, Joined({text::kCouldNotFindMandatory, attribute})});
-        if (!_Run.faults.GoesOn(_Run.faults.Report(fault), result)) return result;
-    }
-    if (Failed(result)) {
-        _Run.leftOut.AddAll(node);
-        return result;
-    }
-    if (row != nullptr) return row->read({*_Reading, node, _Reading->texts.Text(name), UuidOf(*uuid)});
-
-    Fault fault = FaultOf(*_Reading, UnknownTag, node);
-    fault.severity = ZanDicSeverity::Warning;
-    fault.lines.push_back({kTrace, UnknownTagMessage(node)});
-    _Run.faults.Report(fault);
-    _Reading->elements.push_back({node.Index()});
-    _Reading->elements.back().isUnknown = true;
-    return S_OK;
-}
-
 PackageLoad::StepResult PackageLoad::complete_Elements() {
     for (const ElementNote& note : _Reading->elements) {
-        if (!goes_On(complete_Element(note))) return StepResult::Finished;
+        if (!goes_On(CompleteElement(*_Reading, note))) return StepResult::Finished;
     }
     return StepResult::Next;
 }
 
-HRESULT PackageLoad::complete_Element(const ElementNote& note) {
-    const ZELVBTXMLNode node = _Document->ElementAt(note.node);
-    TraceTag(1, node);
-    if (note.isUnknown) {
-        kTrace.Error(UnknownTagMessage(node));
-        return S_OK;
-    }
-    const HRESULT rc = CompleteClass(*_Reading, note);
-    if (Failed(rc)) kTrace.Error(text::kCompleteClassFailed);
-    return rc;
-}
+PackageLoad::StepResult PackageLoad::complete_PutOff() { return next_After(CompletePutOff(*_Reading)); }
 
 PackageLoad::StepResult PackageLoad::check_Classes() {
     for (const ElementNote& note : _Reading->elements) {
-        if (!goes_On(check_Element(note))) return StepResult::Finished;
+        if (!goes_On(CheckElement(*_Reading, note))) return StepResult::Finished;
     }
     return StepResult::Next;
-}
-
-HRESULT PackageLoad::check_Element(const ElementNote& note) {
-    const ZELVBTXMLNode node = _Document->ElementAt(note.node);
-    TraceTag(2, node);
-    if (note.isUnknown) {
-        kTrace.Error(UnknownTagMessage(node));
-        return S_OK;
-    }
-    if (node.getTag() != tag::kClass) return S_OK;  // instances are not checked
-    const HRESULT rc = CheckClass(*_Reading, note);
-    if (Failed(rc)) kTrace.Error(text::kCheckClassFailed);
-    return rc;
 }
 
 // The end.
 
-void PackageLoad::finish() {
-    if (_IsWaiting) ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
-    _IsWaiting = false;
-    if (Failed(_Result)) {
-        remove_Package();
-    } else if (!_IsPassedOver) {
-        const ZanDicTrace::DocumentScope document;
-        read_Tuning();
-    }
+void PackageLoad::Fail() {
+    _Result = E_FAIL;
+    _Run.faults.Enter(_Place);
+    Resume();
+    remove_Package();
+    Finish();
+}
+
+void PackageLoad::Finish() {
+    Resume();
     _Document.reset();
-    if (_Reading != nullptr && _Reading->package) kTrace.Say(TraceLevel::Information, text::kReleasing);
+    if (IsCreated()) kTrace.Say(TraceLevel::Information, text::kReleasing);
     _Reading.reset();
     leave_Names();
-    ZanDicProfiling::StepOut(text::kPhase, _Request.name.View());
-    if (auto line = kTrace.Line(TraceLevel::Call)) line << text::kMainExit << ZanDicTraceScope::Word(_Result);
+    if (!_IsMet) _Low = _Order;
     _IsOver = true;
+    Pause();
+    if (auto line = kTrace.Line(TraceLevel::Call)) line << text::kMainExit << ZanDicTraceScope::Word(_Result);
 }
 
 void PackageLoad::remove_Package() {
@@ -640,9 +477,11 @@ void PackageLoad::remove_Package() {
             _Run.leftOut.AddUnknown();
         }
     }
-    if (_Reading == nullptr || !_Reading->package) return;
+    if (!IsCreated()) return;
     _Reading->elements.clear();
     _Reading->members.clear();
+    _Reading->objects.clear();
+    _Reading->putOff.clear();
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kRemoving << _Name << text::kFromDictionary;
     }
@@ -650,7 +489,10 @@ void PackageLoad::remove_Package() {
 }
 
 /// Tuning documents are not read yet: one that is there gives a warning, and the package stays loaded.
-void PackageLoad::read_Tuning() {
+void PackageLoad::ReadTuning() {
+    _Run.faults.Enter(_Place);
+    Resume();
+    const ZanDicTrace::DocumentScope document;
     if (auto line = kTrace.Line(TraceLevel::Information)) line << text::kCallingTuning << _Name << ")...";
     const CodeWord* const tuning = FindCode(kContentWords, OXMDicCONTENT_tuning);
     std::string file = FindFile(_Run.dirNames, _Name, ZELString(tuning->word));
@@ -668,23 +510,38 @@ void PackageLoad::read_Tuning() {
     _Run.faults.Report(fault);
 }
 
-bool PackageLoad::is_Loaded(const ZELString& name) {
+/// The package that is loaded under a name, its own or the one asked for; null when there is none.
+ZanDicRef<OXMIDicPackage> PackageLoad::loaded_Package(const ZELString& name) const {
     ZanDicRef<OXMIDicPackage> package;
     ZELString found;
     // The manager cuts a name at its first "." when it finds no other.
-    return Succeeded(_Run.manager.GetPackage(&name, package.Out())) && package &&
-           Succeeded(package->GetName(&found)) && found == name;
+    if (Succeeded(_Run.manager.GetPackage(&name, package.Out())) && package &&
+        Succeeded(package->GetName(&found)) && found == name) {
+        return package;
+    }
+    if (Failed(ZanDicFindLoad(name, package.Out()))) package.Reset();
+    return package;
+}
+
+/// Whether a package of that name is loaded, or in progress: then this load has nothing to do.
+bool PackageLoad::is_ThereAlready(const ZELString& name) {
+    if (const PackageLoad* const open = _Run.Find(name.View()); open != nullptr) {
+        kTrace.Say(TraceLevel::Information, text::kFinallyLoaded);
+        _Low = std::min(_Low, open->_Order);
+        _IsMet = true;
+        return true;
+    }
+    if (!loaded_Package(name)) return false;
+    kTrace.Say(TraceLevel::Information, text::kAlreadyLoaded);
+    return true;
 }
 
 void PackageLoad::enter_Name(const ZELString& name) {
     _ENTERED.emplace_back(name.View());
-    ++_Run.namesInProgress[_ENTERED.back()];
+    _Run.inProgress[_ENTERED.back()] = this;
 }
 
 void PackageLoad::leave_Names() {
-    for (const std::string& name : _ENTERED) {
-        const auto entry = _Run.namesInProgress.find(name);
-        if (entry != _Run.namesInProgress.end() && --entry->second == 0) _Run.namesInProgress.erase(entry);
-    }
+    for (const std::string& name : _ENTERED) _Run.inProgress.erase(name);
     _ENTERED.clear();
 }
