@@ -107,11 +107,6 @@ bool HasChild(const ObjectTag& tag) {
     return isThere;
 }
 
-bool HasPath(const ObjectTag& tag) {
-    ZanDicRef<OXMIDicRBOPathExpression> path;
-    return Succeeded(static_cast<OXMIDicRBOComponent&>(tag.owner).GetRBOPathExpression(path.Out()));
-}
-
 template <const auto& Words, class Face>
 HRESULT FillObject(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
                    OXMIDicElement& object) {
@@ -125,7 +120,7 @@ struct ObjectRow {
     OXMDicTYPE type;
     std::string_view operation;
     ZanDicRef<OXMIDicElement> (*make)(const ObjectTag&);
-    bool (*isTaken)(const ObjectTag&);
+    bool (*isTaken)(const ObjectTag&);  ///< null where names do not matter
     HRESULT (*fill)(Reading&, const ZanDicTraceScope&, const ZELVBTXMLNode&, OXMIDicElement&);
     std::string_view mandatoryReference = {};
 };
@@ -143,7 +138,7 @@ constexpr ObjectRow kObjectRows[] = {
     {OXMDicTYPE_RBOComponent, tag::kRBOPathExpression, OXMDicTYPE_RBOPathExpression,
      text::kFillRBOPathExpression,
      Make<OXMIDicRBOComponent, OXMIDicRBOPathExpression, &OXMIDicRBOComponent::CreateRBOPathExpression>,
-     HasPath, FillObject<kRBOPathExpressionWords, OXMIDicRBOPathExpression>, word::kTargetRef},
+     nullptr, FillObject<kRBOPathExpressionWords, OXMIDicRBOPathExpression>, word::kTargetRef},
 };
 
 const ObjectRow* FindObjectRow(OXMDicTYPE ownerType, std::string_view tagName) {
@@ -254,7 +249,10 @@ private:
                             UuidOf(*node.getAttributeValue(word::kUuid))};
         ZanDicRef<OXMIDicElement> object = row->make(tag);
         _Reading.objects.push_back({row->type, node.Index(), _Reading.objects.size() + 1});
-        if (!object) return ReportObjectNotCreated(_Reading, level.trace, tag, row->isTaken(tag));
+        if (!object) {
+            const bool isNameTaken = row->isTaken != nullptr && row->isTaken(tag);
+            return ReportObjectNotCreated(_Reading, level.trace, tag, isNameTaken);
+        }
         _Reading.objects.back().object = std::move(object);
         return enter(*row, node);
     }
