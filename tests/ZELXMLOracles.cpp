@@ -132,19 +132,24 @@ bool HasAttributeTwice(const ZELVBTXMLDocument& document) {
 }
 
 /// Whether libxml2 may well accept what is refused here.
-bool IsDeparture(std::string_view text, bool hasDoctype) {
-    std::string padded(text);
+bool IsDeparture(std::string_view bytes, bool hasDoctype) {
+    const ZELXMLUtf8 document = ZELXMLAsUtf8(bytes);
+    // What libxml2 makes of a broken end is not worth a comparison.
+    if (!document.isValid) return true;
+    const std::string& text = document.text;
+    std::string padded = text;
     padded.append(ZELXMLTokenizer::kPadding, '\0');
     ZELXMLTapeStore store;
-    ZELXMLTokenizer tokenizer(padded.data(), text.size(), store);
+    ZELXMLTokenizer tokenizer(padded.data(), text.size(), store, document.source);
     tokenizer.Run();
-    const std::string_view before = text.substr(0, tokenizer.FaultOffset());
-    const std::string_view after = text.substr(before.size());
+    const std::string_view before = std::string_view(text).substr(0, tokenizer.FaultOffset());
+    const std::string_view after = std::string_view(text).substr(before.size());
     switch (tokenizer.Fault()) {
         case ZELXMLFault::ForbiddenCharacter:
             return after.starts_with('\0');
         case ZELXMLFault::OtherEncodingMark:
         case ZELXMLFault::OtherEncodingDeclared:
+        case ZELXMLFault::EncodingNotAsDeclared:
         case ZELXMLFault::NotAscii:
             return true;
         case ZELXMLFault::ReferenceUndefined:
@@ -158,19 +163,42 @@ bool IsDeparture(std::string_view text, bool hasDoctype) {
     }
 }
 
+pugi::xml_encoding PugixmlEncoding(std::string_view text) {
+    switch (ZELXMLFindSource(text).encoding) {
+        case ZELXMLEncoding::Utf16Little:
+            return pugi::encoding_utf16_le;
+        case ZELXMLEncoding::Utf16Big:
+            return pugi::encoding_utf16_be;
+        case ZELXMLEncoding::Latin1:
+            return pugi::encoding_latin1;
+        case ZELXMLEncoding::Utf8:
+            break;
+    }
+    return pugi::encoding_utf8;
+}
+
 std::string CompareWithPugixml(std::string_view text, const std::string& tree) {
     pugi::xml_document document;
     const pugi::xml_parse_result result =
-        document.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_utf8);
+        document.load_buffer(text.data(), text.size(), pugi::parse_default, PugixmlEncoding(text));
     if (!result) return std::string("pugixml refuses it: ") + result.description();
     return Tree(document) == tree ? "" : "pugixml sees another tree";
 }
 
 }  // namespace
 
+ZELXMLUtf8 ZELXMLAsUtf8(std::string_view bytes) {
+    const ZELXMLSource source = ZELXMLFindSource(bytes);
+    if (source.encoding == ZELXMLEncoding::Utf8) return {std::string(bytes), source, true};
+    ZELXMLBlock<char> text;
+    const bool isValid = ZELXMLToUtf8(source.encoding, bytes.substr(source.markLength), text);
+    return {text.Size() > 0 ? std::string(text.Data(), text.Size()) : std::string(), source, isValid};
+}
+
 std::string ZELXMLDisagreement(std::string_view text) {
-    const bool hasDoctype = text.find("<!DOCTYPE") != std::string_view::npos;
-    const bool mayHaveSubset = hasDoctype && text.find('[') != std::string_view::npos;
+    const std::string utf8 = ZELXMLAsUtf8(text).text;
+    const bool hasDoctype = utf8.find("<!DOCTYPE") != std::string::npos;
+    const bool mayHaveSubset = hasDoctype && utf8.find('[') != std::string::npos;
     ZELVBTXMLError error;
     const auto document = ZELVBTXMLDocument::CreateFromMemory(text, &error);
     const LibxmlReading libxml = ReadWithLibxml(text);

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "ZELXMLChars.h"
 #include "ZELXMLOracles.h"
 #include "ZELXMLPositions.h"
 
@@ -38,14 +39,24 @@ constexpr const char* kFindings = ZANDIC_TEST_DATA "/../../fuzz/corpus/XmlTokeni
 /// One reading of a text. The text stands alone in its memory, so that the sanitizer sees each byte too many.
 class Reading {
 public:
-    explicit Reading(std::string_view text) : memory_(new char[text.size() + ZELXMLTokenizer::kPadding]()) {
+    explicit Reading(std::string_view bytes)
+        : document_(ZELXMLAsUtf8(bytes)),
+          memory_(new char[document_.text.size() + ZELXMLTokenizer::kPadding]()) {
+        const std::string_view text = document_.text;
         std::copy(text.begin(), text.end(), memory_.get());
-        ZELXMLTokenizer tokenizer(memory_.get(), text.size(), store);
+        const bool isUtf8 = document_.source.encoding == ZELXMLEncoding::Utf8;
+        ZELXMLPositions positions({memory_.get(), text.size()}, isUtf8 ? ZELXMLTokenizer::MarkLength(text) : 0);
+        if (!document_.isValid) {
+            fault = ZELXMLFault::BrokenUtf16;
+            reason = kZELXMLReasons[static_cast<std::size_t>(fault)];
+            place = positions.PositionOf(text.size());
+            return;
+        }
+        ZELXMLTokenizer tokenizer(memory_.get(), text.size(), store, document_.source);
         accepted = tokenizer.Run();
         fault = tokenizer.Fault();
         if (accepted) return;
         reason = tokenizer.Reason();
-        ZELXMLPositions positions({memory_.get(), text.size()}, ZELXMLTokenizer::MarkLength(text));
         place = positions.PositionOf(tokenizer.FaultOffset());
     }
 
@@ -56,6 +67,7 @@ public:
     ZELVBTXMLPosition place;
 
 private:
+    ZELXMLUtf8 document_;
     std::unique_ptr<char[]> memory_;
 };
 
@@ -133,6 +145,61 @@ TEST(ZELXMLTokenizer, AgreesWithTheOraclesWhicheverByteIsChanged) {
             ASSERT_EQ(ZELXMLDisagreement(text), "") << index << " " << static_cast<int>(byte);
         }
     }
+}
+
+std::string InUtf16(std::string_view text, bool isBig) {
+    std::string bytes = isBig ? "\xFE\xFF" : "\xFF\xFE";
+    const auto append = [&](std::uint32_t unit) {
+        const char high = static_cast<char>(unit >> 8U);
+        const char low = static_cast<char>(unit & 0xFFU);
+        bytes += isBig ? high : low;
+        bytes += isBig ? low : high;
+    };
+    const std::string padded = std::string(text) + std::string(4, '\0');
+    for (std::size_t offset = 0; offset < text.size();) {
+        const ZELXMLCharacter character = ZELXMLDecode(padded.data() + offset);
+        offset += character.length;
+        if (character.code >= 0x10000) {
+            append(0xD800 + ((character.code - 0x10000) >> 10U));
+            append(0xDC00 + ((character.code - 0x10000) & 0x3FFU));
+        } else {
+            append(character.code);
+        }
+    }
+    return bytes;
+}
+
+/// The sample without its mark, declared to be in another encoding.
+std::string SampleDeclared(std::string_view encoding) {
+    std::string text(kSample.substr(3));
+    return text.replace(text.find("UTF-8"), 5, encoding);
+}
+
+TEST(ZELXMLTokenizer, AgreesWithTheOraclesWhereverADocumentInUtf16IsCut) {
+    const std::string text = InUtf16(SampleDeclared("UTF-16"), true);
+    ASSERT_TRUE(Reading(text).accepted) << Reading(text).reason;
+    for (std::size_t length = 0; length <= text.size(); ++length) {
+        EXPECT_EQ(ZELXMLDisagreement(std::string_view(text).substr(0, length)), "") << length;
+    }
+}
+
+TEST(ZELXMLTokenizer, AgreesWithTheOraclesWhicheverByteOfADocumentInUtf16IsChanged) {
+    const std::string sample = InUtf16(SampleDeclared("UTF-16"), false);
+    for (std::size_t index = 2; index < sample.size(); ++index) {
+        for (const char byte : "\0\x01<&\x80\xD8\xDC\xFF"sv) {
+            std::string text = sample;
+            text[index] = byte;
+            ASSERT_EQ(ZELXMLDisagreement(text), "") << index << " " << static_cast<int>(byte);
+        }
+    }
+}
+
+TEST(ZELXMLTokenizer, PlacesInUtf16CountCharacters) {
+    const Reading reading(InUtf16("<a>\xC3\xA9\n\xF0\x9F\x98\x80\xE2\x82\xAC&x;</a>", true));
+
+    EXPECT_EQ(reading.fault, ZELXMLFault::ReferenceUndefined);
+    EXPECT_EQ(reading.place.line, 2);
+    EXPECT_EQ(reading.place.column, 3);
 }
 
 TEST(ZELXMLTokenizer, ReadsAMillionNestedElements) {

@@ -168,7 +168,8 @@ private:
 ///
 /// Reading checks the whole of XML 1.0 (fifth edition) that concerns a reader which does not validate,
 /// with one departure: an attribute given twice in a tag is accepted, and both stay, in their order.
-/// Text is UTF-8, with or without byte order mark; US-ASCII may be declared too, and is then enforced.
+/// Text is UTF-8, with or without byte order mark; US-ASCII may be declared too, and is then enforced. A
+/// text in UTF-16 (of either order, marked or declared) or ISO-8859-1 (declared) is turned into UTF-8 first.
 /// Any other encoding is refused. A document type declaration is passed over: of the declarations inside,
 /// quotes, comments and characters are checked and nothing else; nothing that they define is used, nothing
 /// outside the document is ever read, and a reference to anything but a character or one of the five

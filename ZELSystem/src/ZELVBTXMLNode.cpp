@@ -3,12 +3,14 @@
 #include <cstring>
 #include <filesystem>
 #include <new>
+#include <optional>
 #include <system_error>
 #include <utility>
 
 #include "ZELEnvironment.h"
 #include "ZELFile.h"
 #include "ZELXMLBlock.h"
+#include "ZELXMLEncoding.h"
 #include "ZELXMLPositions.h"
 #include "ZELXMLTokenizer.h"
 
@@ -33,15 +35,31 @@ std::unique_ptr<ZELVBTXMLDocument> Refuse(ZELVBTXMLError* error, std::string rea
 /// The text of a document, wherever it came from, its tape and its places.
 class ZELVBTXMLDocument::Storage {
 public:
-    explicit Storage(ZELFileContent content) : content_(std::move(content)), text_(content_.View()) {}
+    explicit Storage(ZELFileContent content) : content_(std::move(content)) {
+        text_ = content_.View();
+        if (source_ = ZELXMLFindSource(text_); source_.encoding == ZELXMLEncoding::Utf8) return;
+        text_ = Transcode(text_);
+        content_ = {};
+    }
 
-    explicit Storage(std::string_view text) : text_(Copy(text)) {}
+    explicit Storage(std::string_view text) : source_(ZELXMLFindSource(text)) {
+        text_ = source_.encoding == ZELXMLEncoding::Utf8 ? Copy(text) : Transcode(text);
+    }
 
     /// Writes the tape. Call it once.
     bool Read(ZELVBTXMLError* error) {
-        ZELXMLTokenizer tokenizer(text_.data(), text_.size(), store_);
+        if (text_.size() > kMaxLength) return Refuse(error, kTooLong) != nullptr;
+        positions_.emplace(text_, source_.encoding == ZELXMLEncoding::Utf8
+                                      ? ZELXMLTokenizer::MarkLength(text_)
+                                      : 0);
+        if (!isValid_) {
+            constexpr auto kBroken = static_cast<std::size_t>(ZELXMLFault::BrokenUtf16);
+            Refuse(error, std::string(kZELXMLReasons[kBroken]), positions_->PositionOf(text_.size()));
+            return false;
+        }
+        ZELXMLTokenizer tokenizer(text_.data(), text_.size(), store_, source_);
         if (!tokenizer.Run()) {
-            Refuse(error, tokenizer.Reason(), positions_.PositionOf(tokenizer.FaultOffset()));
+            Refuse(error, tokenizer.Reason(), positions_->PositionOf(tokenizer.FaultOffset()));
             return false;
         }
         static constexpr char kPadding[kReadablePadding] = {};
@@ -51,7 +69,7 @@ public:
                  .elements = store_.elements.Data(),
                  .attributes = store_.attributes.Data(),
                  .asides = store_.asides.Data(),
-                 .positions = &positions_,
+                 .positions = &*positions_,
                  .elementCount = static_cast<std::uint32_t>(store_.elements.Size() - 1),
                  .attributeCount = static_cast<std::uint32_t>(store_.attributes.Size())};
         return true;
@@ -67,11 +85,22 @@ private:
         return {copy_.Data(), text.size()};
     }
 
+    /// The text as UTF-8, as far as it is valid.
+    std::string_view Transcode(std::string_view bytes) {
+        isValid_ = ZELXMLToUtf8(source_.encoding, bytes.substr(source_.markLength), copy_);
+        const std::size_t length = copy_.Size();
+        copy_.SetSize(length + ZELXMLTokenizer::kPadding);
+        std::memset(copy_.Data() + length, 0, ZELXMLTokenizer::kPadding);
+        return {copy_.Data(), length};
+    }
+
     ZELFileContent content_;  ///< the text of a file,
-    ZELXMLBlock<char> copy_;  ///< or the copy of a text from memory
+    ZELXMLBlock<char> copy_;  ///< or the copy of a text, from memory or from another encoding
     std::string_view text_;   ///< in one of these two
+    ZELXMLSource source_;
+    bool isValid_ = true;  ///< in its own encoding, unless that is UTF-8
     ZELXMLTapeStore store_;
-    ZELXMLPositions positions_{text_, ZELXMLTokenizer::MarkLength(text_)};
+    std::optional<ZELXMLPositions> positions_;
     ZELVBTXMLTape tape_;
 };
 

@@ -22,8 +22,9 @@ const char* FindValueStop(const char* p, char quote) {
 
 }  // namespace
 
-ZELXMLTokenizer::ZELXMLTokenizer(const char* text, std::size_t length, ZELXMLTapeStore& store)
-    : text_(text), end_(text + length), store_(store) {
+ZELXMLTokenizer::ZELXMLTokenizer(const char* text, std::size_t length, ZELXMLTapeStore& store,
+                                 ZELXMLSource source)
+    : text_(text), end_(text + length), store_(store), source_(source) {
     // More than usual documents need, and untouched room is free.
     store_.elements.Reserve(length / 64 + 16);
     store_.attributes.Reserve(length / 16 + 16);

@@ -8,6 +8,7 @@
 
 #include "ZELVBTXMLTape.h"
 #include "ZELXMLBlock.h"
+#include "ZELXMLEncoding.h"
 #include "ZELXMLFault.h"
 
 /// What the tokenizer writes.
@@ -32,8 +33,9 @@ public:
     /// NULs that must stand behind the text.
     static constexpr std::size_t kPadding = 64;
 
-    /// \param text \p length bytes, less than 4 GiB, and kPadding NULs; both stay the caller's.
-    ZELXMLTokenizer(const char* text, std::size_t length, ZELXMLTapeStore& store);
+    /// \param text \p length bytes of UTF-8, less than 4 GiB, and kPadding NULs; both stay the caller's.
+    /// \param source the encoding that the document has itself.
+    ZELXMLTokenizer(const char* text, std::size_t length, ZELXMLTapeStore& store, ZELXMLSource source = {});
 
     /// Reads the whole document. Call it once.
     /// \returns whether it is well formed; if not, the store holds nothing of use.
@@ -102,6 +104,7 @@ private:
     const char* const text_;
     const char* const end_;
     ZELXMLTapeStore& store_;
+    const ZELXMLSource source_;
     std::uint32_t open_ = kNoElement;  ///< innermost open element; its endOfSubtree names the one around it
     bool asciiOnly_ = false;
     const char* doctype_ = nullptr;  ///< where the document type declaration begins, if there is one

@@ -13,17 +13,20 @@ using namespace std::string_view_literals;
 
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
-/// What a document in another encoding begins with: its byte order mark, or "<" or "<?" in that encoding.
+constexpr std::string_view kUnmarked = "UTF-16 without a mark or a declaration";
+
+/// What a document that is not read begins with: its byte order mark, or "<" or "<?" in its encoding.
 struct EncodingMark {
     std::string_view bytes;
     std::string_view encoding;
 };
-/// The longer marks stand first: that of UTF-16 is how that of UTF-32 begins.
 constexpr EncodingMark kOtherEncodingMarks[] = {
     {"\xFF\xFE\0\0"sv, "UTF-32"}, {"\0\0\xFE\xFF"sv, "UTF-32"}, {"<\0\0\0"sv, "UTF-32"},
-    {"\0\0\0<"sv, "UTF-32"},      {"\xFF\xFE"sv, "UTF-16"},     {"\xFE\xFF"sv, "UTF-16"},
-    {"<\0"sv, "UTF-16"},          {"\0<"sv, "UTF-16"},
+    {"\0\0\0<"sv, "UTF-32"},      {"<\0"sv, kUnmarked},      {"\0<"sv, kUnmarked},
 };
+
+constexpr ZELXMLEncoding kReadEncodings[] = {ZELXMLEncoding::Utf8, ZELXMLEncoding::Utf16Little,
+                                             ZELXMLEncoding::Utf16Big, ZELXMLEncoding::Latin1};
 
 constexpr std::string_view kMarkupDeclarations[] = {"<!ELEMENT", "<!ATTLIST", "<!ENTITY", "<!NOTATION"};
 
@@ -71,6 +74,7 @@ std::uint32_t ZELXMLTokenizer::MarkLength(std::string_view text) {
 
 const char* ZELXMLTokenizer::ReadEncodingMark(const char* p) {
     const std::string_view text(text_, static_cast<std::size_t>(end_ - text_));
+    if (source_.encoding != ZELXMLEncoding::Utf8) return p;
     for (const EncodingMark& mark : kOtherEncodingMarks) {
         if (text.starts_with(mark.bytes)) return Fail(ZELXMLFault::OtherEncodingMark, p, mark.encoding);
     }
@@ -84,7 +88,10 @@ const char* ZELXMLTokenizer::ReadDeclaration(const char* p) {
         {"encoding", false, ZELXMLFault::DeclarationMalformed, IsEncodingName},
         {"standalone", false, ZELXMLFault::DeclarationMalformed, IsYesOrNo},
     };
-    if (!ZELXMLStartsWith(p, "<?xml") || ZELXMLIs(p[5], kZELXMLName) || !ZELXMLIsAscii(p[5])) return p;
+    const bool isThere =
+        ZELXMLStartsWith(p, "<?xml") && !ZELXMLIs(p[5], kZELXMLName) && ZELXMLIsAscii(p[5]);
+    if (!isThere) return source_.mustBeDeclared ? Fail(ZELXMLFault::OtherEncodingMark, p, kUnmarked) : p;
+    bool isDeclared = false;
     p += 5;
     for (const DeclarationPart& part : kParts) {
         const char* const name = ZELXMLSkipBlanks(p);
@@ -97,8 +104,11 @@ const char* ZELXMLTokenizer::ReadDeclaration(const char* p) {
         p = ReadDeclarationValue(name + part.name.size(), value);
         if (p == nullptr) return nullptr;
         if (!part.isGood(value)) return Fail(part.whenBad, value.data());
-        if (part.name == "encoding" && TakeEncoding(value.data(), value) == nullptr) return nullptr;
+        if (part.name != "encoding") continue;
+        isDeclared = true;
+        if (TakeEncoding(value.data(), value) == nullptr) return nullptr;
     }
+    if (source_.mustBeDeclared && !isDeclared) return Fail(ZELXMLFault::OtherEncodingMark, text_, kUnmarked);
     p = ZELXMLSkipBlanks(p);
     return ZELXMLStartsWith(p, "?>") ? p + 2 : Fail(ZELXMLFault::DeclarationMalformed, p);
 }
@@ -117,8 +127,10 @@ const char* ZELXMLTokenizer::ReadDeclarationValue(const char* p, std::string_vie
 
 const char* ZELXMLTokenizer::TakeEncoding(const char* p, std::string_view name) {
     asciiOnly_ = EqualsIgnoringCase(name, "us-ascii");
-    if (asciiOnly_ || EqualsIgnoringCase(name, "utf-8")) return p;
-    return Fail(ZELXMLFault::OtherEncodingDeclared, p, name);
+    if (ZELXMLMayDeclare(source_.encoding, name)) return p;
+    const bool isRead = std::any_of(std::begin(kReadEncodings), std::end(kReadEncodings),
+                                    [name](ZELXMLEncoding encoding) { return ZELXMLMayDeclare(encoding, name); });
+    return Fail(isRead ? ZELXMLFault::EncodingNotAsDeclared : ZELXMLFault::OtherEncodingDeclared, p, name);
 }
 
 /// Reads comments, processing instructions, blanks and, before the root element, the document type

@@ -24,7 +24,6 @@ enum class ZanDicDiagnosticCode : std::uint8_t {
     InvalidDomain,
     PrerequisiteFailed,
     PackageNotCreated,
-    PackageInUseRing,
     TuningFailed,
     // tags and attributes
     MissingAttribute,
@@ -35,7 +34,7 @@ enum class ZanDicDiagnosticCode : std::uint8_t {
     UnknownTag,
     DeprecatedTag,
     UnsupportedTag,
-    UnsupportedAttribute,
+    RepeatedAttribute,  ///< the last one counts
     // elements
     NotCreated,
     DuplicateName,

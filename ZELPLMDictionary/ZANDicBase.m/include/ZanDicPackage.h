@@ -131,6 +131,11 @@ public:
     /// The last step of the computation of blocks: looks for attributes and names that a class has twice.
     HRESULT check_Blocks() const;
 
+    /// The content kind that the package was loaded from, under which it is saved; metadata unless the reader
+    /// says otherwise.
+    void set_Content(OXMDicCONTENT content) { _Content = content; }
+    OXMDicCONTENT get_Content() const { return _Content; }
+
 protected:
     void drop_Links() override;
     int count_LostLinks() const override;
@@ -143,6 +148,7 @@ private:
     void drop_Blocks();
     HRESULT get_Packages(const ZanHashList& list, ZELListPtrIUnknown* packages) const;
 
+    OXMDicCONTENT _Content = OXMDicCONTENT_metadata;
     ZELString _Domain;
     mutable bool _OnTheWay = false;  ///< during GetAllElements: among those whose elements are being listed
     ZanHashList _ELEMENTS;           ///< this package owns one reference to each

@@ -8,6 +8,8 @@
 
 class ZanDicAttribute;
 class ZanDicObj;
+class ZanDicPackage;
+class ZELString;
 
 /// What objects know of the manager: the registry that they enter and leave, and the index of the
 /// injective relationships that point at a class. The manager implements it. One thread.
@@ -48,6 +50,12 @@ public:
 
     /// Appends the interfaces of the attributes noted for a class. \returns S_OK; the first failure.
     virtual HRESULT get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) = 0;
+
+    /// Notes the name under which a package was asked for. Forgotten with the package.
+    virtual void note_Load(const ZELString& askedName, ZanDicPackage& package) = 0;
+
+    /// \returns the package that was asked for under that name; null when there is none.
+    virtual ZanDicPackage* find_Load(const ZELString& askedName) = 0;
 
 protected:
     ~ZanDicRegistry() = default;

@@ -1,12 +1,15 @@
 #ifndef ZAN_DICTIONARY_H
 #define ZAN_DICTIONARY_H
 
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "OXMDicTypes.h"
 #include "OXMIDicIdentifiers.h"
 #include "ZanDicClassToRelationElem.h"
 #include "ZanDicExport.h"
+#include "ZanDicLink.h"
 #include "ZanDicObj.h"
 #include "ZanDicRegistry.h"
 #include "ZanHashList.h"
@@ -84,6 +87,8 @@ public:
     void forget_Relations(const ZELDbBinary& classUuid) noexcept override;
     bool owns_Uuid(const ZanDicObj& object) const override;
     HRESULT get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) override;
+    void note_Load(const ZELString& askedName, ZanDicPackage& package) override;
+    ZanDicPackage* find_Load(const ZELString& askedName) override;
 
     /// \returns the number of registered objects.
     int count_Objs() const { return _OBJECTS.Size(); }
@@ -103,6 +108,7 @@ private:
 
     OXMDicPERSISTENT _LoadingMode = OXMDicPERSISTENT_Xml;
     ZanHashList _PACKAGES;         ///< one reference to each, in the order of creation
+    std::unordered_map<std::string, ZanDicLink<ZanDicPackage>> _LOADS;  ///< by a name asked for that is not theirs
     ZELHashTabZanDicObj _OBJECTS;  ///< not owning, by UUID
     ZanDicPrimitive* _PRIMITIVES[kPrimitiveCount] =
         {};  ///< one reference to each, by kind less 1; null before Create

@@ -159,6 +159,7 @@ std::vector<ZanDicObj*> ZanDictionary::take_All() {
     taken.reserve(static_cast<std::size_t>(_OBJECTS.Size() + kPrimitiveCount));
     for (int position = 1; position <= _PACKAGES.Size(); ++position) taken.push_back(_PACKAGES[position]);
     _PACKAGES.clear();
+    _LOADS.clear();
     openAll();
 
     // What is registered outside of the packages: first what these objects own among themselves, then those

@@ -131,6 +131,7 @@ HRESULT ZanDictionary::RemovePackage(const ZELString* name) {
         package->mark_Gone();
         const std::uint32_t count = package->Release();
         if (auto line = trace.Line(TraceLevel::Detail)) line << "RefCount=" << count;
+        std::erase_if(_LOADS, [](const auto& load) { return !load.second; });
     }
     return trace.Exit(rc);
 }
@@ -152,4 +153,14 @@ HRESULT ZanDictionary::SearchByName(const ZELString* name, ZELListPtrIUnknown* o
         rc = S_OK;
     }
     return rc;
+}
+
+void ZanDictionary::note_Load(const ZELString& askedName, ZanDicPackage& package) {
+    if (askedName != package.Name()) _LOADS[std::string(askedName.View())] = &package;
+}
+
+ZanDicPackage* ZanDictionary::find_Load(const ZELString& askedName) {
+    if (_LOADS.empty()) return nullptr;
+    const auto load = _LOADS.find(std::string(askedName.View()));
+    return load != _LOADS.end() ? load->second.Get() : nullptr;
 }

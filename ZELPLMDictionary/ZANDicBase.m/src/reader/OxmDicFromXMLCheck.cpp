@@ -48,7 +48,7 @@ public:
     ClassCheck(Reading& reading, const ZanDicTraceScope& trace, const ElementNote& note, OXMIDicClass& super)
         : _Reading(reading),
           _Trace(trace),
-          _Class(*note.element),
+          _Class(note.As<OXMIDicClass>()),
           _Super(super),
           _ClassName(NameOfObject(_Class)) {}
 
@@ -133,7 +133,7 @@ HRESULT CheckClass(Reading& reading, const ElementNote& note) {
     const ZanDicTraceScope trace(text::kCheckClass, "RC=");
     trace.Start();
     ZanDicRef<OXMIDicClass> super;
-    if (!note.hasRelationships || note.element->GetSuperClass(super.Out()) != S_OK || !super) {
+    if (!note.hasRelationships || note.As<OXMIDicClass>().GetSuperClass(super.Out()) != S_OK || !super) {
         return trace.Exit(S_OK);
     }
 

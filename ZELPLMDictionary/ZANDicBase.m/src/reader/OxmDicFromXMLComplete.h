@@ -4,15 +4,27 @@
 
 #include "ZELResult.h"
 
-class OXMIDicElement;
 class ZELVBTXMLNode;
 struct ElementNote;
+struct PutOffScopes;
 struct Reading;
 
 /// Super class, reference class and commands of a class, then the references of its members.
 /// \returns S_OK; E_FAIL when a reference failed, which is reported then. Stops at the first one unless the
 /// report says to go on; what was set before stays set.
 HRESULT CompleteClass(Reading& reading, const ElementNote& note);
+
+/// As CompleteClass, then the scopes. From the first that is not extensible yet they are put off, silently.
+HRESULT CompleteExtension(Reading& reading, const ElementNote& note);
+
+/// Sets scopes that were put off, once all super classes are set.
+HRESULT CompletePutOffScopes(Reading& reading, const PutOffScopes& scopes);
+
+/// Super interface, then the types of parameters.
+HRESULT CompleteInterface(Reading& reading, const ElementNote& note);
+
+/// The class that the mapping applies to, then the references of all that is nested in it.
+HRESULT CompleteRBOMapping(Reading& reading, const ElementNote& note);
 
 /// The commands of the package.
 HRESULT CompletePackage(Reading& reading, const ZELVBTXMLNode& node);

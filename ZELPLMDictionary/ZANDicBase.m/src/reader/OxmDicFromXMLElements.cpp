@@ -5,6 +5,11 @@
 #include "HexToBinary.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
+#include "OXMIDicInterface.h"
+#include "OXMIDicRBOClass.h"
+#include "OXMIDicRBOMapping.h"
+#include "OxmDicFromXMLCheck.h"
+#include "OxmDicFromXMLComplete.h"
 #include "OxmDicFromXMLFill.h"
 #include "ReaderTexts.h"
 #include "Reading.h"
@@ -50,51 +55,61 @@ void TraceFillFailed(std::string_view kind, std::string_view name) {
     }
 }
 
-template <unsigned char IsInstance>
+/// Keeps an element for the later passes.
+template <class Face>
+Face& Note(const ElementTag& tag, OXMDicTYPE type, ZanDicRef<Face>& element, ElementNote& note) {
+    note.node = tag.node.Index();
+    note.type = type;
+    note.element = ZanDicRef<OXMIDicElement>(element.Detach());
+    return note.As<Face>();
+}
+
+template <class Face, Factory<Face> Create, OXMDicTYPE Type, unsigned char IsInstance>
 HRESULT ReadClass(const ElementTag& tag) {
-    ElementNote note{tag.node.Index()};
-    HRESULT rc = CreateElement<OXMIDicClass>(tag, &OXMIDicPackage::CreateClass, note.element);
+    ZanDicRef<Face> made;
+    HRESULT rc = CreateElement<Face>(tag, Create, made);
     if (Failed(rc)) return rc;
-    note.element->SetInstance(IsInstance);
-    rc = FillClass(tag.reading, tag.node, *note.element, note);
+    ElementNote note{};
+    Face& element = Note(tag, Type, made, note);
+    element.SetInstance(IsInstance);
+    rc = FillClass(tag.reading, tag.node, element, note);
     tag.reading.elements.push_back(std::move(note));
     if (Failed(rc)) TraceFillFailed(tag::kClass, tag.name.View());
     return rc;
 }
 
-HRESULT ReadEnum(const ElementTag& tag) {
-    ZanDicRef<OXMIDicEnum> element;
-    HRESULT rc = CreateElement<OXMIDicEnum>(tag, &OXMIDicPackage::CreateEnum, element);
+/// What is filled with a note of its own.
+template <class Face, Factory<Face> Create, OXMDicTYPE Type, auto FillFace>
+HRESULT ReadNoted(const ElementTag& tag) {
+    ZanDicRef<Face> made;
+    HRESULT rc = CreateElement<Face>(tag, Create, made);
     if (Failed(rc)) return rc;
-    rc = FillEnum(tag.reading, tag.node, *element);
-    if (Failed(rc)) TraceFillFailed(tag::kEnum, {});
+    ElementNote note{};
+    Face& element = Note(tag, Type, made, note);
+    rc = FillFace(tag.reading, tag.node, element, note);
+    tag.reading.elements.push_back(std::move(note));
+    if (Failed(rc)) TraceFillFailed(tag.node.getTag(), {});
     return rc;
 }
 
-HRESULT ReadCategory(const ElementTag& tag) {
-    ZanDicRef<OXMIDicCategory> element;
-    HRESULT rc = CreateElement<OXMIDicCategory>(tag, &OXMIDicPackage::CreateCategory, element);
+/// What has no references.
+template <class Face, Factory<Face> Create, auto FillFace>
+HRESULT ReadPlain(const ElementTag& tag) {
+    ZanDicRef<Face> element;
+    HRESULT rc = CreateElement<Face>(tag, Create, element);
     if (Failed(rc)) return rc;
-    rc = FillCategory(tag.reading, tag.node, *element);
-    if (Failed(rc)) TraceFillFailed(tag::kCategory, {});
-    return rc;
-}
-
-HRESULT Refuse(const ElementTag& tag, ZanDicDiagnosticCode code, std::string_view before,
-               std::string_view behind) {
-    Fault fault = FaultOf(tag.reading, code, tag.node);
-    fault.lines.push_back({kTrace, Joined({before, tag.node.getTag(), "[", tag.name.View(), behind})});
-    const HRESULT rc = tag.reading.faults.Report(fault);
-    if (!tag.reading.faults.IsStopped()) tag.reading.leftOut.AddAll(tag.node);
+    rc = FillFace(tag.reading, tag.node, *element);
+    if (Failed(rc)) TraceFillFailed(tag.node.getTag(), {});
     return rc;
 }
 
 HRESULT RefuseDeprecated(const ElementTag& tag) {
-    return Refuse(tag, DeprecatedTag, text::kDeprecatedTag, text::kNotSupportedAnyMore);
-}
-
-HRESULT RefuseUnsupported(const ElementTag& tag) {
-    return Refuse(tag, UnsupportedTag, text::kUnsupportedTag, text::kNotSupportedYet);
+    Fault fault = FaultOf(tag.reading, DeprecatedTag, tag.node);
+    fault.lines.push_back({kTrace, Joined({text::kDeprecatedTag, tag.node.getTag(), "[", tag.name.View(),
+                                           text::kNotSupportedAnyMore})});
+    const HRESULT rc = tag.reading.faults.Report(fault);
+    if (!tag.reading.faults.IsStopped()) tag.reading.leftOut.AddAll(tag.node);
+    return rc;
 }
 
 struct ElementRow {
@@ -103,16 +118,19 @@ struct ElementRow {
 };
 
 constexpr ElementRow kElementRows[] = {
-    {tag::kClass, ReadClass<0>},
-    {tag::kInstance, ReadClass<1>},
-    {tag::kEnum, ReadEnum},
-    {tag::kCategory, ReadCategory},
+    {tag::kClass, ReadClass<OXMIDicClass, &OXMIDicPackage::CreateClass, OXMDicTYPE_Class, 0>},
+    {tag::kInstance, ReadClass<OXMIDicClass, &OXMIDicPackage::CreateClass, OXMDicTYPE_Class, 1>},
+    {tag::kExtension,
+     ReadClass<OXMIDicExtension, &OXMIDicPackage::CreateExtension, OXMDicTYPE_Extension, 0>},
+    {tag::kInterface,
+     ReadNoted<OXMIDicInterface, &OXMIDicPackage::CreateInterface, OXMDicTYPE_Interface, FillInterface>},
+    {tag::kEnum, ReadPlain<OXMIDicEnum, &OXMIDicPackage::CreateEnum, FillEnum>},
+    {tag::kCategory, ReadPlain<OXMIDicCategory, &OXMIDicPackage::CreateCategory, FillCategory>},
+    {tag::kRBOClass, ReadPlain<OXMIDicRBOClass, &OXMIDicPackage::CreateRBOClass, FillRBOClass>},
+    {tag::kRBOMapping,
+     ReadNoted<OXMIDicRBOMapping, &OXMIDicPackage::CreateRBOMapping, OXMDicTYPE_RBOMapping, FillRBOMapping>},
     {tag::kCommand, RefuseDeprecated},
     {tag::kBObject, RefuseDeprecated},
-    {tag::kExtension, RefuseUnsupported},
-    {tag::kInterface, RefuseUnsupported},
-    {tag::kRBOClass, RefuseUnsupported},
-    {tag::kRBOMapping, RefuseUnsupported},
     {tag::kComment, nullptr},
     {tag::kKVAComment, nullptr},
 };
@@ -124,13 +142,35 @@ const ElementRow* FindElementRow(std::string_view tagName) {
     return nullptr;
 }
 
-}  // namespace
+/// The second pass, by type.
+struct CompleteRow {
+    OXMDicTYPE type;
+    HRESULT (*complete)(Reading&, const ElementNote&);
+    std::string_view failed;
+};
+
+constexpr CompleteRow kCompleteRows[] = {
+    {OXMDicTYPE_Class, CompleteClass, text::kCompleteClassFailed},
+    {OXMDicTYPE_Extension, CompleteExtension, text::kCompleteExtensionFailed},
+    {OXMDicTYPE_Interface, CompleteInterface, text::kCompleteInterfaceFailed},
+    {OXMDicTYPE_RBOMapping, CompleteRBOMapping, text::kCompleteRBOMappingFailed},
+};
 
 std::string UnknownTagMessage(const ZELVBTXMLNode& node) {
     return Joined({text::kUnknownTag, node.getTag(), "[", NameOf(node), text::kSkippingTag});
 }
 
-HRESULT FillElement(Reading& reading, const ZELVBTXMLNode& node) {
+/// What a pass meets, at the level of tags.
+void TraceTag(std::size_t pass, const ZELVBTXMLNode& node) {
+    if (auto line = kTrace.Line(TraceLevel::Tag)) {
+        line << text::kPassTags[pass] << node.getTag() << "[" << NameOf(node) << "]";
+    }
+}
+
+}  // namespace
+
+HRESULT ReadElement(Reading& reading, const ZELVBTXMLNode& node) {
+    TraceTag(0, node);
     const ElementRow* const row = FindElementRow(node.getTag());
     if (row != nullptr && row->read == nullptr) return S_OK;
 
@@ -155,6 +195,41 @@ HRESULT FillElement(Reading& reading, const ZELVBTXMLNode& node) {
     fault.lines.push_back({kTrace, UnknownTagMessage(node)});
     reading.faults.Report(fault);
     reading.elements.push_back({node.Index()});
-    reading.elements.back().isUnknown = true;
     return S_OK;
+}
+
+HRESULT CompleteElement(Reading& reading, const ElementNote& note) {
+    const ZELVBTXMLNode node = reading.document.ElementAt(note.node);
+    TraceTag(1, node);
+    for (const CompleteRow& row : kCompleteRows) {
+        if (row.type != note.type) continue;
+        const HRESULT rc = row.complete(reading, note);
+        if (Failed(rc)) kTrace.Error(row.failed);
+        return rc;
+    }
+    kTrace.Error(UnknownTagMessage(node));
+    return S_OK;
+}
+
+HRESULT CompletePutOff(Reading& reading) {
+    HRESULT result = S_OK;
+    for (const PutOffScopes& scopes : reading.putOff) {
+        const HRESULT rc = CompletePutOffScopes(reading, scopes);
+        if (Failed(rc)) kTrace.Error(text::kCompleteExtensionFailed);
+        if (!reading.faults.GoesOn(rc, result)) break;
+    }
+    return result;
+}
+
+HRESULT CheckElement(Reading& reading, const ElementNote& note) {
+    const ZELVBTXMLNode node = reading.document.ElementAt(note.node);
+    TraceTag(2, node);
+    if (note.type == OXMDicTYPE_UNDEFINED) {
+        kTrace.Error(UnknownTagMessage(node));
+        return S_OK;
+    }
+    if (node.getTag() != tag::kClass) return S_OK;  // instances and extensions are not checked
+    const HRESULT rc = CheckClass(reading, note);
+    if (Failed(rc)) kTrace.Error(text::kCheckClassFailed);
+    return rc;
 }

@@ -3,9 +3,8 @@
 #include <string>
 #include <type_traits>
 
-#include "AttributeWord.h"
+#include "FillWords.h"
 #include "HexToBinary.h"
-#include "IntegerText.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
 #include "OXMIDicEnumerator.h"
@@ -13,131 +12,15 @@
 #include "OXMIDicRelationship.h"
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
-#include "ReaderTexts.h"
-#include "Reading.h"
-#include "ZANDicValueWords.h"
 
 using namespace ZANDicFormat;
+using namespace fill;
 
 namespace {
 
-/// An attribute on its way to a setter.
-struct Given {
-    Reading& reading;
-    const ZanDicTraceScope& trace;
-    const ZELVBTXMLNode& node;
-    const ZELVBTXMLAttribute& attribute;
-
-    std::string_view Value() const { return attribute.Value(); }
-};
-
-/// What is done with an attribute of an element.
-template <class Element>
-struct AttributeWord {
-    std::string_view name;
-    HRESULT (*fill)(Element&, const Given&);
-};
-
-/// The argument of a setter, without pointer and const.
-template <class Setter>
-struct ArgumentOf;
-template <class Owner, class Argument>
-struct ArgumentOf<HRESULT (Owner::*)(Argument)> {
-    using Type = std::remove_cv_t<std::remove_pointer_t<Argument>>;
-};
-template <auto Setter>
-using Argument = typename ArgumentOf<decltype(Setter)>::Type;
-
-/// Name="value".
-std::string Assignment(const Given& given) { return Joined({given.attribute.Name(), "=", given.Value()}); }
-
-void Warn(ZanDicDiagnosticCode code, const Given& given, TraceLevel level, std::string_view message,
-          std::string_view detail) {
-    if (!FaultReport::IsWanted(given.trace, level)) return;
-    Fault fault = FaultOf(given.reading, code, given.node);
-    fault.severity = ZanDicSeverity::Warning;
-    fault.attribute = given.attribute;
-    fault.detail = detail;
-    fault.lines.push_back({given.trace, Joined({message, Assignment(given)}), level});
-    given.reading.faults.Report(fault);
-}
-
-// Setters. Each is the one place of its form.
-
-/// Known, and without effect here.
-template <class Element>
-HRESULT Skip(Element&, const Given&) {
-    return S_OK;
-}
-
-/// Left for the second pass.
-template <std::size_t Slot, class Element>
-HRESULT Reference(Element&, const Given& given) {
-    given.reading.references.Note(Slot, given.attribute);
-    return S_OK;
-}
-
-template <auto Setter, class Element>
-HRESULT Text(Element& element, const Given& given) {
-    const Argument<Setter> value(given.reading.texts.Text(given.Value()));
-    return (element.*Setter)(&value);
-}
-
-template <auto Setter, class Element>
-HRESULT Flag(Element& element, const Given& given) {
-    return (element.*Setter)(given.Value() == value::kYes ? 1 : 0);
-}
-
-/// A word of a list; any other stands for a code of its own.
-template <auto Setter, const auto& Words, int OtherCode, class Element>
-HRESULT Word(Element& element, const Given& given) {
-    return (element.*Setter)(static_cast<Argument<Setter>>(CodeOf(Words, given.Value(), OtherCode)));
-}
-
-/// A word of a list; any other changes nothing.
-template <auto Setter, const auto& Words, class Element>
-HRESULT KnownWord(Element& element, const Given& given) {
-    if (const CodeWord* const row = FindWord(Words, given.Value()); row != nullptr) {
-        return (element.*Setter)(static_cast<Argument<Setter>>(row->code));
-    }
-    Warn(ZanDicDiagnosticCode::UnknownWord, given, TraceLevel::Error, text::kUnknownWord,
-         "it is passed over");
-    return S_OK;
-}
-
-template <auto Setter, class Element>
-HRESULT Integer(Element& element, const Given& given) {
-    using enum IntegerText::Verdict;
-    const auto warn = [&given](std::string_view detail) {
-        Warn(ZanDicDiagnosticCode::InvalidNumber, given, TraceLevel::Error, text::kInvalidNumber, detail);
-    };
-
-    const IntegerText number = ReadInteger(given.Value());
-    if (number.verdict == NoDigits) {
-        warn("it is passed over");
-        return S_OK;
-    }
-    if (number.verdict == TextBehind) warn("what stands behind the digits is passed over");
-    if (number.verdict == Clamped) warn("the nearest number that fits is taken");
-    return (element.*Setter)(number.value);
-}
-
-/// Kept on the element as it stands.
-template <class Element>
-HRESULT Keep(Element& element, const Given& given) {
-    const ZELUnicodeString name(given.reading.texts.Text(given.attribute.Name()));
-    const ZELUnicodeString value(given.reading.texts.Text(given.Value()));
-    return element.SetOtherAttribute(name, value);
-}
-
-HRESULT SetPrimitiveType(OXMIDicAttribute& element, const Given& given, int kind) {
-    OXMIDicPrimitive* const primitive = given.reading.Primitive(kind);
-    return primitive != nullptr ? element.SetType(primitive) : E_FAIL;
-}
-
 HRESULT SimpleType(OXMIDicSimple& element, const Given& given) {
     if (const CodeWord* const row = FindWord(kSimpleTypeWords, given.Value()); row != nullptr) {
-        return SetPrimitiveType(element, given, row->code);
+        return SetPrimitiveType(given.reading, element, row->code);
     }
     Warn(ZanDicDiagnosticCode::UnknownWord, given, TraceLevel::Call, text::kUnknownAttribute,
          "it is kept as a free attribute");
@@ -145,12 +28,12 @@ HRESULT SimpleType(OXMIDicSimple& element, const Given& given) {
 }
 
 HRESULT RelationType(OXMIDicRelationship& element, const Given& given) {
-    return SetPrimitiveType(element, given, CodeOf(kRelationTypeWords, given.Value(), kOtherRelationType));
+    return SetPrimitiveType(given.reading, element, CodeOf(kRelationTypeWords, given.Value(), kOtherRelationType));
 }
 
 HRESULT RelationTarget(OXMIDicRelationship& element, const Given& given) {
     if (given.Value() != value::kAnyObject) return Reference<slot::kTarget>(element, given);
-    return SetPrimitiveType(element, given, OXMDicPRIMITIVEType_AnyObject);
+    return SetPrimitiveType(given.reading, element, OXMDicPRIMITIVEType_AnyObject);
 }
 
 HRESULT RememberPersistent(OXMIDicClass&, const Given& given) {
@@ -184,7 +67,7 @@ constexpr AttributeWord<OXMIDicClass> kClassWords[] = {
     {word::kReferenceRef, Reference<slot::kReference>},
     {word::kCommandRefs, Reference<slot::kCommands>},
     {word::kSuperName, Skip},
-    {word::kScopeRefs, Skip},
+    {word::kScopeRefs, Reference<slot::kExtended>},
     {word::kScopeNames, Skip},
     {word::kInterfaceRefs, Skip},
 };
@@ -279,48 +162,6 @@ constexpr AttributeWord<OXMIDicPackage> kPackageWords[] = {
     {word::kVersion, Keep},  // no field holds it
 };
 
-/// The index of the words of a kind.
-template <const auto& Words>
-constexpr WordIndex kIndex{Words};
-
-/// Gives an attribute to the setter of its row. \returns S_OK; E_FAIL when the value is refused.
-template <class Element>
-HRESULT Fill(const AttributeWord<Element>& row, Element& element, const Given& given) {
-    if (Succeeded(row.fill(element, given))) return S_OK;
-    Fault fault = FaultOf(given.reading, ZanDicDiagnosticCode::InvalidValue, given.node);
-    fault.attribute = given.attribute;
-    fault.lines.push_back({given.trace, Joined({text::kRefusedValue, Assignment(given)})});
-    return given.reading.faults.Report(fault);
-}
-
-/// Reports an attribute that no row knows and keeps it on the element.
-template <class Element>
-void FillUnknown(Element& element, const Given& given, std::string_view message) {
-    Warn(ZanDicDiagnosticCode::UnknownAttribute, given, TraceLevel::Call, message, {});
-    Keep(element, given);
-}
-
-/// Gives each attribute to its row, in document order; the last of a name wins.
-template <const auto& Words, class Element>
-HRESULT FillAttributes(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
-                       Element& element) {
-    HRESULT result = S_OK;
-    int position = 0;
-    for (const ZELVBTXMLAttribute attribute : node.Attributes()) {
-        ++position;
-        const Given given{reading, trace, node, attribute};
-        if (auto line = trace.Line(TraceLevel::Detail)) {
-            line << text::kProcessingAttribute << position << "]:" << Assignment(given);
-        }
-        if (const auto* const row = kIndex<Words>.Find(attribute.Name()); row == nullptr) {
-            FillUnknown(element, given, text::kUnknownAttribute);
-        } else if (!reading.faults.GoesOn(Fill(*row, element, given), result)) {
-            break;
-        }
-    }
-    return result;
-}
-
 /// Relationships and inverses: the first attribute of each name, in the order of the rows. Others are
 /// never looked at.
 HRESULT FillRelation(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRelationship& element) {
@@ -341,13 +182,6 @@ HRESULT FillRelation(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRelatio
         if (!reading.faults.GoesOn(rc, result)) break;
     }
     return trace.Exit(result);
-}
-
-template <const auto& Words, class Element>
-HRESULT FillPlain(Reading& reading, std::string_view operation, const ZELVBTXMLNode& node, Element& element) {
-    const ZanDicTraceScope trace(operation, "RC=");
-    trace.Start();
-    return trace.Exit(FillAttributes<Words>(reading, trace, node, element));
 }
 
 /// Keeps a member for the second pass when it has something to resolve there.
@@ -457,31 +291,12 @@ constexpr MemberRow kMemberRows[] = {
 };
 constexpr WordIndex kMemberIndex{kMemberRows};
 
-HRESULT ReportMissingUuid(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
-                          std::string_view attribute) {
-    Fault fault = FaultOf(reading, ZanDicDiagnosticCode::MissingAttribute, node);
-    fault.attributeName = attribute;
-    std::string message = Joined({text::kCouldNotFindAttribute, attribute, text::kFor, node.getTag()});
-    if (const std::string_view name = NameOf(node); !name.empty()) message += Joined({" ", name});
-    fault.lines.push_back({trace, std::move(message)});
-    return reading.faults.Report(fault);
-}
-
-/// Reports a child that is not known there; the load goes on without it.
-void ReportUnknownTag(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node) {
-    Fault fault = FaultOf(reading, ZanDicDiagnosticCode::UnknownTag, node);
-    fault.severity = ZanDicSeverity::Warning;
-    fault.lines.push_back(
-        {trace, Joined({text::kUnknownMemberTag, node.getTag(), "[", NameOf(node), text::kSkippingTag})});
-    reading.faults.Report(fault);
-}
-
 HRESULT FillMember(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
                    OXMIDicClass& owner) {
     const std::string_view name = NameOf(node);
     if (name.empty()) return S_OK;
     const auto uuid = node.getAttributeValue(word::kUuid);
-    if (!uuid) return ReportMissingUuid(reading, trace, node, word::kUuid);
+    if (!uuid) return ReportMissing(reading, trace, node, word::kUuid);
 
     const MemberRow* const row = kMemberIndex.Find(node.getTag());
     if (row == nullptr) {
@@ -515,15 +330,9 @@ HRESULT FillEnumeratorOf(Reading& reading, const ZanDicTraceScope& trace, const 
         ReportUnknownTag(reading, trace, node);
         return S_OK;
     }
-    HRESULT result = S_OK;
+    if (const HRESULT rc = CheckIdentity(reading, trace, node); Failed(rc)) return rc;
     const std::string_view nameText = NameOf(node);
     const auto uuidText = node.getAttributeValue(word::kUuid);
-    if (nameText.empty() &&
-        !reading.faults.GoesOn(ReportMissingUuid(reading, trace, node, word::kName), result)) {
-        return result;
-    }
-    if (!uuidText) reading.faults.GoesOn(ReportMissingUuid(reading, trace, node, word::kUuid), result);
-    if (Failed(result)) return result;
 
     const ZELString name = reading.texts.Text(nameText);
     const ZELDbBinary uuid = UuidFromText(*uuidText);

@@ -5,7 +5,6 @@
 
 #include "DocumentFile.h"
 #include "HexToBinary.h"
-#include "OxmDicFromXMLCheck.h"
 #include "OxmDicFromXMLComplete.h"
 #include "OxmDicFromXMLElements.h"
 #include "OxmDicFromXMLFill.h"
@@ -14,6 +13,7 @@
 #include "WordList.h"
 #include "ZANDicValueWords.h"
 #include "ZELUuid.h"
+#include "ZanDicLoadRecord.h"
 #include "ZanDicProfiling.h"
 
 using namespace ZANDicFormat;
@@ -31,62 +31,75 @@ bool IsPackageName(std::string_view name) {
            name.find("..") == std::string_view::npos;
 }
 
-/// What a later pass meets, at the level of tags.
-void TraceTag(std::size_t pass, const ZELVBTXMLNode& node) {
-    if (auto line = kTrace.Line(TraceLevel::Tag)) {
-        line << text::kPassTags[pass] << node.getTag() << "[" << NameOf(node) << "]";
-    }
-}
-
 }  // namespace
 
-const PackageLoad::Step PackageLoad::kSteps[] = {
-    &PackageLoad::open_Document,      &PackageLoad::read_Identity,    &PackageLoad::load_UsedPackages,
-    &PackageLoad::create_Package,     &PackageLoad::add_UsedPackages, &PackageLoad::fill_Elements,
-    &PackageLoad::load_ScopePackages, &PackageLoad::add_Commands,     &PackageLoad::complete_Elements,
-    &PackageLoad::check_Classes,
+const PackageLoad::StepRow PackageLoad::kSteps[] = {
+    {&PackageLoad::open_Document, LoadPhase::Read},
+    {&PackageLoad::read_Identity, LoadPhase::Read},
+    {&PackageLoad::load_UsedPackages, LoadPhase::Read},
+    {&PackageLoad::create_Package, LoadPhase::Read},
+    {&PackageLoad::add_UsedPackagesAtOnce, LoadPhase::Read},
+    {&PackageLoad::fill_Elements, LoadPhase::Read},
+    {&PackageLoad::add_UsedPackages, LoadPhase::Used},
+    {&PackageLoad::load_ScopePackages, LoadPhase::Scoped},
+    {&PackageLoad::add_Commands, LoadPhase::Scoped},
+    {&PackageLoad::complete_Elements, LoadPhase::Completed},
+    {&PackageLoad::complete_PutOff, LoadPhase::Extended},
+    {&PackageLoad::check_Classes, LoadPhase::Checked},
 };
 
-PackageLoad::PackageLoad(LoadRun& run, PackageRequest request) : _Run(run), _Request(std::move(request)) {
+PackageLoad* LoadRun::Find(std::string_view name) const {
+    const auto entry = inProgress.find(std::string(name));
+    return entry != inProgress.end() ? entry->second : nullptr;
+}
+
+PackageLoad::PackageLoad(LoadRun& run, PackageRequest request, std::size_t order)
+    : _Run(run), _Request(std::move(request)), _Order(order), _Low(order), _FirstMember(run.created.size()) {
     _Place.file = _Request.name.View();
     _Place.package = BeforeFirstDot(_Request.name.View());
 }
 
 PackageLoad::~PackageLoad() { leave_Names(); }
 
-bool PackageLoad::Advance() {
+bool PackageLoad::HasReached(LoadPhase phase) const {
+    return _IsEnded || _Step == std::size(kSteps) || kSteps[_Step].phase > phase;
+}
+
+bool PackageLoad::Advance(LoadPhase phase) {
     _Run.faults.Enter(_Place);
-    while (!_IsOver) {
-        StepResult result = StepResult::Finished;
-        if (_Step < std::size(kSteps)) {
-            const ZanDicTrace::DocumentScope document;
-            const auto step = kSteps[_Step];  // on its own, or the sanitizer takes the pointer for the index
-            result = (this->*step)();
-        }
+    Resume();
+    while (!HasReached(phase)) {
+        const ZanDicTrace::DocumentScope document;
+        const auto step = kSteps[_Step].step;  // on its own, or the sanitizer takes the pointer for the index
+        const StepResult result = (this->*step)();
         if (result == StepResult::NeedsPackage) return false;
+        if (result == StepResult::Waits) return true;
         if (result == StepResult::Next) ++_Step;
-        if (result == StepResult::Finished) finish();
+        if (result == StepResult::Finished) _IsEnded = true;
     }
     return true;
 }
 
-void PackageLoad::Deliver(HRESULT rc) {
-    _IsWaiting = false;
+void PackageLoad::Deliver(const PackageLoad& inner) {
     _Run.faults.Enter(_Place);
+    const HRESULT rc = inner.Result();
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kCallResult << _Needed.name << "))=" << ZanDicTraceScope::Word(rc);
     }
-    ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
+    Resume();
+    Join(inner);
     if (Failed(rc)) {
         _Result = rc;
         _FAILED.push_back(ZELString(BeforeFirstDot(_Needed.name.View())));
     }
 }
 
-void PackageLoad::Abandon() {
-    if (_IsOver) return;
-    _Result = E_FAIL;
-    finish();
+void PackageLoad::Pause() {
+    if (std::exchange(_IsRunning, false)) ZanDicProfiling::StepOut(text::kPhase, _Request.name.View());
+}
+
+void PackageLoad::Resume() {
+    if (!std::exchange(_IsRunning, true)) ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
 }
 
 // The document.
@@ -99,15 +112,9 @@ PackageLoad::StepResult PackageLoad::open_Document() {
     }
     if (auto line = kTrace.Line(TraceLevel::Detail))
         line << text::kContent << static_cast<int>(_Request.content);
-    ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
 
-    if (!split_Name()) return StepResult::Finished;
+    if (!split_Name() || is_ThereAlready(_AskedName)) return StepResult::Finished;
     enter_Name(_AskedName);
-    if (is_Loaded(_AskedName)) {
-        kTrace.Say(TraceLevel::Information, text::kAlreadyLoaded);
-        _IsPassedOver = true;
-        return StepResult::Finished;
-    }
     if (!find_Document() || !parse_Document() || !find_PackageNode()) return StepResult::Finished;
     return StepResult::Next;
 }
@@ -215,11 +222,7 @@ PackageLoad::StepResult PackageLoad::read_Identity() {
     if (_Run.faults.IsStopped()) return StepResult::Finished;
 
     if (_Name != _AskedName) {
-        if (is_Loaded(_Name)) {
-            kTrace.Say(TraceLevel::Information, text::kAlreadyLoaded);
-            _IsPassedOver = true;
-            return StepResult::Finished;
-        }
+        if (is_ThereAlready(_Name)) return StepResult::Finished;
         enter_Name(_Name);
     }
     _NAMES = read_Names(word::kUseNames, false);
@@ -306,25 +309,9 @@ bool PackageLoad::is_Self(std::string_view packageName) const {
     return packageName == _AskedName.View() || packageName == _Name.View();
 }
 
-/// Whether a needed package may be loaded now: one that is being loaded and not there yet cannot.
-bool PackageLoad::check_Need(const ZELString& name) {
-    const ZELString package(BeforeFirstDot(name.View()));
-    if (!_Run.namesInProgress.contains(std::string(package.View())) || is_Loaded(package)) return true;
-    Fault fault = package_Fault(PackageInUseRing);
-    fault.attribute = _Needed.attribute;
-    fault.otherParty = package.View();
-    fault.detail = package.View();
-    fault.lines.push_back({kTrace, Joined({text::kUseRing, package.View(), text::kUseRingOf})});
-    goes_On(_Run.faults.Report(fault));
-    _FAILED.push_back(package);
-    return false;
-}
-
 PackageLoad::StepResult PackageLoad::need_Package(std::string_view attributeName, const ZELString& name) {
     _Needed = {name, OXMDicCONTENT_metadata, &_Place, _Node, _Node.getAttribute(attributeName)};
-    if (!check_Need(name)) return _Run.faults.IsStopped() ? StepResult::Finished : StepResult::Again;
-    _IsWaiting = true;
-    ZanDicProfiling::StepOut(text::kPhase, _Request.name.View());
+    Pause();
     if (auto line = kTrace.Line(TraceLevel::Information)) line << text::kCalling << name << ")";
     return StepResult::NeedsPackage;
 }
@@ -336,16 +323,16 @@ PackageLoad::StepResult PackageLoad::load_UsedPackages() {
 }
 
 PackageLoad::StepResult PackageLoad::create_Package() {
-    if (is_Loaded(_Name)) {
-        kTrace.Say(TraceLevel::Information, text::kFinallyLoaded);
-        _IsPassedOver = true;
-        return StepResult::Finished;
-    }
-    _Reading = std::make_unique<Reading>(_Run.manager, _Run.faults, _Run.leftOut, *_Document);
+    _Reading =
+        std::make_unique<Reading>(_Run.manager, _Run.faults, _Run.leftOut, _Run.untargeted, *_Document);
     const HRESULT rc = _Run.manager.CreatePackage(&_Name, &_Uuid, &_Domain, _Reading->package.Out());
-    if (Succeeded(rc) && _Reading->package) return next_After(FillPackage(*_Reading, _Node));
-
-    _Reading->package.Reset();
+    if (Succeeded(rc) && _Reading->package) {
+        const CodeWord* const content = FindWord(kContentWords, _Extension.View());
+        ZanDicNoteLoad(*_Reading->package, _AskedName, static_cast<OXMDicCONTENT>(content->code));
+        _Run.created.push_back(this);
+        return next_After(FillPackage(*_Reading, _Node));
+    }
+    _Reading.reset();
     ZanDicRef<OXMIDicElementH> registered;
     Fault fault = package_Fault(PackageNotCreated);
     if (Succeeded(_Run.manager.Search(&_Uuid, registered.Out()))) {
@@ -361,8 +348,11 @@ PackageLoad::StepResult PackageLoad::create_Package() {
 /// Notes a loaded package on this one. \returns whether to go on.
 bool PackageLoad::add_Package(std::string_view attributeName, const ZELString& name, bool isScope) {
     if (std::find(_FAILED.begin(), _FAILED.end(), name) != _FAILED.end()) return true;
-    ZanDicRef<OXMIDicPackage> package;
-    if (Succeeded(_Run.manager.GetPackage(&name, package.Out())) && package) {
+    if (const PackageLoad* const open = _Run.Find(name.View()); open != nullptr && !open->IsCreated()) {
+        return goes_On(E_FAIL);  // what kept it from being made is told already
+    }
+    if (const ZanDicRef<OXMIDicPackage> package = loaded_Package(name)) {
+        if (package.Get() == _Reading->package.Get()) return true;
         if (isScope) {
             _Reading->package->AddScopePackage(package.Get());
         } else {
@@ -379,7 +369,15 @@ bool PackageLoad::add_Package(std::string_view attributeName, const ZELString& n
     return goes_On(_Run.faults.Report(fault));
 }
 
+/// Where no ring is in sight the used packages are all there before the first pass; in a ring they are
+/// noted once the first pass of each member is done.
+PackageLoad::StepResult PackageLoad::add_UsedPackagesAtOnce() {
+    const bool isAlone = _Low == _Order && _Run.created.size() == _FirstMember + 1;
+    return isAlone ? add_UsedPackages() : StepResult::Next;
+}
+
 PackageLoad::StepResult PackageLoad::add_UsedPackages() {
+    if (std::exchange(_HasUsedPackages, true)) return StepResult::Next;
     // One that is missing does not keep the others from being tried.
     for (const ZELString& name : read_Names(word::kUseNames, true)) {
         add_Package(word::kUseNames, name, false);
@@ -389,12 +387,16 @@ PackageLoad::StepResult PackageLoad::add_UsedPackages() {
 
 PackageLoad::StepResult PackageLoad::load_ScopePackages() {
     if (Failed(_Result) && _Run.faults.IsStopped()) return StepResult::Finished;
-    if (_NextName > 0) {
+    if (_IsScopeOpen) {
         const ZELString name(BeforeFirstDot(_NAMES[_NextName - 1].View()));
+        const PackageLoad* const open = _Run.Find(name.View());
+        if (open != nullptr && !open->IsCreated() && !open->_IsEnded) return StepResult::Waits;
+        _IsScopeOpen = false;
         if (!add_Package(word::kUseScopes, name, true)) return StepResult::Finished;
     }
     if (_NextName == _NAMES.size()) return StepResult::Next;
     if (auto line = kTrace.Line(TraceLevel::Tag)) line << text::kBetweenPasses << _NAMES[_NextName];
+    _IsScopeOpen = true;
     return need_Package(word::kUseScopes, _NAMES[_NextName++]);
 }
 
@@ -404,8 +406,7 @@ PackageLoad::StepResult PackageLoad::add_Commands() { return next_After(Complete
 
 PackageLoad::StepResult PackageLoad::fill_Elements() {
     for (const ZELVBTXMLNode child : _Node.Children()) {
-        TraceTag(0, child);
-        if (!goes_On(FillElement(*_Reading, child))) return StepResult::Finished;
+        if (!goes_On(ReadElement(*_Reading, child))) return StepResult::Finished;
     }
     _NAMES = read_Names(word::kUseScopes, false);
     _NextName = 0;
@@ -414,61 +415,40 @@ PackageLoad::StepResult PackageLoad::fill_Elements() {
 
 PackageLoad::StepResult PackageLoad::complete_Elements() {
     for (const ElementNote& note : _Reading->elements) {
-        if (!goes_On(complete_Element(note))) return StepResult::Finished;
+        if (!goes_On(CompleteElement(*_Reading, note))) return StepResult::Finished;
     }
     return StepResult::Next;
 }
 
-HRESULT PackageLoad::complete_Element(const ElementNote& note) {
-    const ZELVBTXMLNode node = _Document->ElementAt(note.node);
-    TraceTag(1, node);
-    if (note.isUnknown) {
-        kTrace.Error(UnknownTagMessage(node));
-        return S_OK;
-    }
-    const HRESULT rc = CompleteClass(*_Reading, note);
-    if (Failed(rc)) kTrace.Error(text::kCompleteClassFailed);
-    return rc;
-}
+PackageLoad::StepResult PackageLoad::complete_PutOff() { return next_After(CompletePutOff(*_Reading)); }
 
 PackageLoad::StepResult PackageLoad::check_Classes() {
     for (const ElementNote& note : _Reading->elements) {
-        if (!goes_On(check_Element(note))) return StepResult::Finished;
+        if (!goes_On(CheckElement(*_Reading, note))) return StepResult::Finished;
     }
     return StepResult::Next;
-}
-
-HRESULT PackageLoad::check_Element(const ElementNote& note) {
-    const ZELVBTXMLNode node = _Document->ElementAt(note.node);
-    TraceTag(2, node);
-    if (note.isUnknown) {
-        kTrace.Error(UnknownTagMessage(node));
-        return S_OK;
-    }
-    if (node.getTag() != tag::kClass) return S_OK;  // instances are not checked
-    const HRESULT rc = CheckClass(*_Reading, note);
-    if (Failed(rc)) kTrace.Error(text::kCheckClassFailed);
-    return rc;
 }
 
 // The end.
 
-void PackageLoad::finish() {
-    if (_IsWaiting) ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
-    _IsWaiting = false;
-    if (Failed(_Result)) {
-        remove_Package();
-    } else if (!_IsPassedOver) {
-        const ZanDicTrace::DocumentScope document;
-        read_Tuning();
-    }
+void PackageLoad::Fail() {
+    _Result = E_FAIL;
+    _Run.faults.Enter(_Place);
+    Resume();
+    remove_Package();
+    Finish();
+}
+
+void PackageLoad::Finish() {
+    Resume();
     _Document.reset();
-    if (_Reading != nullptr && _Reading->package) kTrace.Say(TraceLevel::Information, text::kReleasing);
+    if (IsCreated()) kTrace.Say(TraceLevel::Information, text::kReleasing);
     _Reading.reset();
     leave_Names();
-    ZanDicProfiling::StepOut(text::kPhase, _Request.name.View());
-    if (auto line = kTrace.Line(TraceLevel::Call)) line << text::kMainExit << ZanDicTraceScope::Word(_Result);
+    if (!_IsMet) _Low = _Order;
     _IsOver = true;
+    Pause();
+    if (auto line = kTrace.Line(TraceLevel::Call)) line << text::kMainExit << ZanDicTraceScope::Word(_Result);
 }
 
 void PackageLoad::remove_Package() {
@@ -479,22 +459,31 @@ void PackageLoad::remove_Package() {
             _Run.leftOut.AddUnknown();
         }
     }
-    if (_Reading == nullptr || !_Reading->package) return;
+    if (!IsCreated()) return;
     _Reading->elements.clear();
     _Reading->members.clear();
+    _Reading->objects.clear();
+    _Reading->putOff.clear();
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kRemoving << _Name << text::kFromDictionary;
     }
     _Run.manager.RemovePackage(&_Name);
 }
 
-/// The package stays loaded, whatever is wrong with its tuning.
-void PackageLoad::read_Tuning() {
+void PackageLoad::ReadTuning() {
+    Resume();
+    const ZanDicTrace::DocumentScope document;
     if (auto line = kTrace.Line(TraceLevel::Information)) line << text::kCallingTuning << _Name << ")...";
-    TuningReading tuning(_Run.manager, _Name, _Run.dirNames, *_Reading->package);
-    TuningReading* const one = &tuning;
-    if (tuning.Read() == S_OK) TuningReading::Compute({&one, 1});
-    const HRESULT rc = tuning.Result();
+    _Tuning = std::make_unique<TuningReading>(_Run.manager, _Name, _Run.dirNames, *_Reading->package);
+    _Tuning->Read();
+}
+
+/// The package stays loaded, whatever is wrong with its tuning.
+void PackageLoad::EndTuning() {
+    _Run.faults.Enter(_Place);
+    const ZanDicTrace::DocumentScope document;
+    const std::unique_ptr<TuningReading> tuning = std::move(_Tuning);
+    const HRESULT rc = tuning->Result();
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kTuningResult << _Name << ")]=" << ZanDicTraceScope::Word(rc);
     }
@@ -502,29 +491,44 @@ void PackageLoad::read_Tuning() {
     Fault fault{TuningFailed};
     fault.severity = ZanDicSeverity::Warning;
     fault.element = _Name.View();
-    fault.file = tuning.File();
+    fault.file = tuning->File();
     fault.detail = "the tuning document is at fault; the package is loaded without its attribute blocks";
     fault.lines.push_back({kTrace, Joined({text::kTuningWarning, _Name.View(), ")", text::kFailed})});
     _Run.faults.Report(fault);
 }
 
-bool PackageLoad::is_Loaded(const ZELString& name) {
+/// The package that is loaded under a name, its own or the one asked for; null when there is none.
+ZanDicRef<OXMIDicPackage> PackageLoad::loaded_Package(const ZELString& name) const {
     ZanDicRef<OXMIDicPackage> package;
     ZELString found;
     // The manager cuts a name at its first "." when it finds no other.
-    return Succeeded(_Run.manager.GetPackage(&name, package.Out())) && package &&
-           Succeeded(package->GetName(&found)) && found == name;
+    if (Succeeded(_Run.manager.GetPackage(&name, package.Out())) && package &&
+        Succeeded(package->GetName(&found)) && found == name) {
+        return package;
+    }
+    if (Failed(ZanDicFindLoad(name, package.Out()))) package.Reset();
+    return package;
+}
+
+/// Whether a package of that name is loaded, or in progress: then this load has nothing to do.
+bool PackageLoad::is_ThereAlready(const ZELString& name) {
+    if (const PackageLoad* const open = _Run.Find(name.View()); open != nullptr) {
+        kTrace.Say(TraceLevel::Information, text::kFinallyLoaded);
+        _Low = std::min(_Low, open->_Order);
+        _IsMet = true;
+        return true;
+    }
+    if (!loaded_Package(name)) return false;
+    kTrace.Say(TraceLevel::Information, text::kAlreadyLoaded);
+    return true;
 }
 
 void PackageLoad::enter_Name(const ZELString& name) {
     _ENTERED.emplace_back(name.View());
-    ++_Run.namesInProgress[_ENTERED.back()];
+    _Run.inProgress[_ENTERED.back()] = this;
 }
 
 void PackageLoad::leave_Names() {
-    for (const std::string& name : _ENTERED) {
-        const auto entry = _Run.namesInProgress.find(name);
-        if (entry != _Run.namesInProgress.end() && --entry->second == 0) _Run.namesInProgress.erase(entry);
-    }
+    for (const std::string& name : _ENTERED) _Run.inProgress.erase(name);
     _ENTERED.clear();
 }

@@ -2,7 +2,9 @@
 #ifndef PACKAGE_LOAD_H
 #define PACKAGE_LOAD_H
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,14 +17,35 @@
 #include "Reading.h"
 #include "ZELString.h"
 #include "ZELVBTXMLNode.h"
+#include "ZanDicRef.h"
+
+class PackageLoad;
+class TuningReading;
 
 /// What the loads of one call share: the package asked for and those that it needs.
 struct LoadRun {
     OXMIDicMgr& manager;
     const char* dirNames;
-    FaultReport faults;
-    LeftOut leftOut;
-    std::unordered_map<std::string, int> namesInProgress;  ///< how many open loads bear each name
+    FaultReport faults = {};
+    LeftOut leftOut = {};
+    LeftOut untargeted = {};  ///< attributes whose target was at fault
+    /// The loads that are not over, by the name asked for and by the document's own.
+    std::unordered_map<std::string, PackageLoad*> inProgress = {};
+    /// Those of them that made their package, in order of creation.
+    std::vector<PackageLoad*> created = {};
+
+    /// \returns the load in progress of that name; null when there is none.
+    PackageLoad* Find(std::string_view name) const;
+};
+
+/// How far a load is. All members of a ring end a phase before one begins the next.
+enum class LoadPhase : std::uint8_t {
+    Read,       ///< the package is made and its elements are filled
+    Used,       ///< its used packages are noted
+    Scoped,     ///< its scope packages are loaded and noted
+    Completed,  ///< its references are set
+    Extended,   ///< its scopes that had to wait are set
+    Checked,
 };
 
 /// A package that another needs first, and where it says so.
@@ -39,43 +62,78 @@ struct PackageRequest {
 ///
 /// A package that needs others stands still while these are loaded, so that a chain of packages takes
 /// no depth of calls: whoever drives the load calls Advance, loads what Request asks for, tells the
-/// result by Deliver and advances again.
+/// result by Deliver and advances again. Packages that need each other form a ring: a load that meets one
+/// in progress goes no further than its own reading, and the driver leads all members through the
+/// other phases together (PackageLoadStack).
 class PackageLoad {
 public:
-    PackageLoad(LoadRun& run, PackageRequest request);
+    /// \param order how many loads are in progress before this one.
+    PackageLoad(LoadRun& run, PackageRequest request, std::size_t order);
     ~PackageLoad();
     PackageLoad(const PackageLoad&) = delete;
     PackageLoad& operator=(const PackageLoad&) = delete;
 
-    /// Goes on with the load. \returns whether it is over; otherwise another package is needed.
-    bool Advance();
+    /// Goes on until the end of \p phase. \returns whether it got there, or cannot get there now;
+    /// otherwise another package is needed.
+    bool Advance(LoadPhase phase);
+    bool HasReached(LoadPhase phase) const;
 
     /// The package that is needed.
     const PackageRequest& Request() const { return _Needed; }
 
-    /// Tells how the load of the needed package ended.
-    void Deliver(HRESULT rc);
+    /// Tells that the call for the needed package returned.
+    void Deliver(const PackageLoad& inner);
 
-    /// Ends the load as failed, whatever it is doing, and takes its package out.
-    void Abandon();
+    /// The first load in progress that this one leads to, by order; its own when it leads to none before it.
+    std::size_t Low() const { return _Low; }
+    void Join(const PackageLoad& other) { _Low = std::min(_Low, other._Low); }
 
+    /// Number of loads that were in progress before it.
+    std::size_t Order() const { return _Order; }
+
+    /// Whether Finish or Fail was called.
+    bool IsOver() const { return _IsOver; }
+    /// Whether the package was made.
+    bool IsCreated() const { return _Reading != nullptr; }
+    /// Number of loads that had made their package when this one began: members of its ring come behind.
+    std::size_t FirstMember() const { return _FirstMember; }
+    /// S_OK unless something failed so far.
     HRESULT Result() const { return _Result; }
 
+    /// Closes and opens the phase told to a profiler.
+    void Pause();
+    void Resume();
+
+    /// The end of a load that succeeded: the tuning document, whose blocks somebody else computes before
+    /// EndTuning tells how that went, then the rest.
+    void ReadTuning();
+    TuningReading* Tuning() const { return _Tuning.get(); }
+    void EndTuning();
+    void Finish();
+    /// The end of one that did not: takes the package out.
+    void Fail();
+
 private:
-    enum class StepResult { Next, Again, NeedsPackage, Finished };
+    enum class StepResult { Next, Waits, NeedsPackage, Finished };
     using Step = StepResult (PackageLoad::*)();
-    static const Step kSteps[];
+    struct StepRow {
+        Step step;
+        LoadPhase phase;
+    };
+    static const StepRow kSteps[];
 
     // steps, in order
     StepResult open_Document();
     StepResult read_Identity();
     StepResult load_UsedPackages();
     StepResult create_Package();
-    StepResult add_UsedPackages();
+    StepResult add_UsedPackagesAtOnce();
     StepResult fill_Elements();
+    StepResult add_UsedPackages();
     StepResult load_ScopePackages();
     StepResult add_Commands();
     StepResult complete_Elements();
+    StepResult complete_PutOff();
     StepResult check_Classes();
 
     bool split_Name();
@@ -86,16 +144,12 @@ private:
     void read_Name();
     void read_Domain();
     std::vector<ZELString> read_Names(std::string_view attributeName, bool isPackageNameOnly);
-    bool check_Need(const ZELString& name);
     bool is_Self(std::string_view packageName) const;
     StepResult need_Package(std::string_view attributeName, const ZELString& name);
     bool add_Package(std::string_view attributeName, const ZELString& name, bool isScope);
-    HRESULT complete_Element(const ElementNote& note);
-    HRESULT check_Element(const ElementNote& note);
-    void read_Tuning();
-    void finish();
     void remove_Package();
-    bool is_Loaded(const ZELString& name);
+    ZanDicRef<OXMIDicPackage> loaded_Package(const ZELString& name) const;
+    bool is_ThereAlready(const ZELString& name);
     void enter_Name(const ZELString& name);
     void leave_Names();
 
@@ -117,14 +171,21 @@ private:
     std::unique_ptr<ZELVBTXMLDocument> _Document;
     ZELVBTXMLNode _Node;  ///< of the package
     std::unique_ptr<Reading> _Reading;
+    std::unique_ptr<TuningReading> _Tuning;  ///< between ReadTuning and EndTuning
     std::vector<ZELString> _NAMES;      ///< packages that the current step needs
     std::vector<std::string> _ENTERED;  ///< names of this load that are in progress
     std::vector<ZELString> _FAILED;     ///< needed packages that could not be loaded
     std::size_t _NextName = 0;
+    std::size_t _Order;
+    std::size_t _Low;
+    std::size_t _FirstMember;
     std::size_t _Step = 0;
-    bool _IsWaiting = false;
-    bool _IsPassedOver = false;  ///< the package turned out to be loaded already
+    bool _IsEnded = false;          ///< no further step is run
     bool _IsOver = false;
+    bool _IsMet = false;            ///< the package turned out to be in progress
+    bool _IsRunning = false;        ///< its phase is open
+    bool _HasUsedPackages = false;  ///< they are noted
+    bool _IsScopeOpen = false;      ///< the last scope package that was loaded is not noted yet
     HRESULT _Result = 0;
 };
 

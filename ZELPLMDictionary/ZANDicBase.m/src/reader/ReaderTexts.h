@@ -25,11 +25,24 @@ inline constexpr std::string_view kFillUnique = "OxmDicFromXML:FillUnique";
 inline constexpr std::string_view kFillEnum = "OxmDicFromXML:FillEnum";
 inline constexpr std::string_view kFillEnumerator = "OxmDicFromXML:FillEnumerator";
 inline constexpr std::string_view kFillCategory = "OxmDicFromXML:FillCategory";
+inline constexpr std::string_view kFillInterface = "OxmDicFromXML:FillInterface -";
+inline constexpr std::string_view kFillMethod = "OxmDicFromXML:FillMethod -";
+inline constexpr std::string_view kFillParameter = "OxmDicFromXML:FillParameter -";
+inline constexpr std::string_view kFillRBOClass = "OxmDicFromXML:FillRBOClass - ";
+inline constexpr std::string_view kFillRBOMapping = "OxmDicFromXML:FillRBOMapping - ";
+inline constexpr std::string_view kFillRBORoot = "OxmDicFromXML:FillRBORoot - ";
+inline constexpr std::string_view kFillRBOComponent = "OxmDicFromXML:FillRBOComponent -";
+inline constexpr std::string_view kFillRBOPathExpression = "OxmDicFromXML:FillRBOPathExpression -";
 inline constexpr std::string_view kCompleteClass = "OxmDicFromXML:CompleteClass";
 inline constexpr std::string_view kCompleteSimple = "OxmDicFromXML:CompleteSimple";
 inline constexpr std::string_view kCompleteRelationship = "OxmDicFromXML:CompleteRelationship";
 inline constexpr std::string_view kCompleteInverse = "OxmDicFromXML:CompleteInverse";
 inline constexpr std::string_view kCompleteUnique = "OxmDicFromXML:CompleteUnique";
+inline constexpr std::string_view kCompleteExtension = "OxmDicFromXML:CompleteExtension";
+inline constexpr std::string_view kCompleteInterface = "OxmDicFromXML:CompleteInterface";
+inline constexpr std::string_view kCompleteRBORoot = "OxmDicFromXML:CompleteRBORoot";
+inline constexpr std::string_view kCompleteRBOComponent = "OxmDicFromXML:CompleteRBOComponent";
+inline constexpr std::string_view kCompleteRBOPathExpression = "OxmDicFromXML:CompleteRBOPathExpression";
 inline constexpr std::string_view kCheckSameDomain = "OxmDicFromXML:CheckSameDomain";
 inline constexpr std::string_view kCheckClass = "OxmDicFromXML:CheckClass";
 
@@ -89,6 +102,12 @@ inline constexpr std::string_view kNotSupportedAnyMore = "] is not supported any
 inline constexpr std::string_view kUnknownTag = "-*** ERROR *** Unkown tag:";
 inline constexpr std::string_view kSkippingTag = "]; skipping to next tag...";
 inline constexpr std::string_view kCompleteClassFailed = "- *** ERROR *** OxmDicFromXML:CompleteClass failed";
+inline constexpr std::string_view kCompleteExtensionFailed =
+    "- *** ERROR *** OxmDicFromXML:CompleteExtension failed";
+inline constexpr std::string_view kCompleteInterfaceFailed =
+    "-*** ERROR *** OxmDicFromXML:CompleteInterface failed";
+inline constexpr std::string_view kCompleteRBOMappingFailed =
+    "-*** ERROR *** OxmDicFromXML:CompleteRBOMapping failed";
 inline constexpr std::string_view kCheckClassFailed = "-*** ERROR *** OxmDicFromXML:CheckClass failed";
 inline constexpr std::string_view kTuningWarning = "- *** WARNING *** OxmDicFromXML_Tuning(";
 
@@ -102,6 +121,45 @@ inline constexpr std::string_view kUnknownPackageAttribute = "-*** WARNING *** U
 inline constexpr std::string_view kUnknownAttribute = "*** WARNING *** Unknown attribute:";
 inline constexpr std::string_view kProcessingAttribute = "Processing attribute [";
 inline constexpr std::string_view kEnumeratorValue = "myint=";
+
+// interfaces
+inline constexpr std::string_view kProcessingAttributeOf = "- processing attribute [";
+inline constexpr std::string_view kUnknownInterfaceAttribute = "- *** WARNING *** Unknown attribute:";
+inline constexpr std::string_view kInvalidValue = "- *** ERROR *** Invalid value: ";
+inline constexpr std::string_view kExitOf = "=== exit (";
+inline constexpr std::string_view kNoAttribute = ") === ERROR: could not find attribute ";
+inline constexpr std::string_view kNotCreated = "-*** ERROR *** Could not create attribute ";
+inline constexpr std::string_view kNotCreatedEnd = "]";
+inline constexpr std::string_view kNoSuperInterface =
+    "- *** ERROR *** Could not identify SuperRef object from Uuid.";
+inline constexpr std::string_view kSuperIsNoInterface =
+    "- *** ERROR *** Unable to identify Class object from SuperRef.";
+inline constexpr std::string_view kNoMethod =
+    "-*** ERROR *** Could not get Method object from Interface->GetMethod(";
+inline constexpr std::string_view kResultIs = "), hrc=";
+
+// RBO objects
+inline constexpr std::string_view kNotImplemented = "-*** WARNING *** Not implemented yet...";
+inline constexpr std::string_view kRepeated = "-*** WARNING *** ";
+inline constexpr std::string_view kOverriding = " was previously set; overriding with the new value.";
+inline constexpr std::string_view kReferencedTwice = " is referrenced more than once.";
+inline constexpr std::string_view kMissingReference =
+    "- *** ERROR *** At least one mandatory attribute is missing.";
+inline constexpr std::string_view kMissingAttributeIs = "Missing attribute is ";
+inline constexpr std::string_view kReferenceIsMissing = "- *** ERROR *** Mandatory attribute is  missing:";
+inline constexpr std::string_view kErrorCreating = "OxmDicFromXML ERROR Creating ";
+inline constexpr std::string_view kColon = " : ";
+inline constexpr std::string_view kNoObjectOfUuid =
+    "-*** ERROR *** Could not get EH object from Mgr->Search, hrc=";
+inline constexpr std::string_view kCouldNotGet = "-*** ERROR *** Could not get ";
+inline constexpr std::string_view kNotOfThatKind = " object from EH->QueryInterface, hrc=";
+inline constexpr std::string_view kCompleteOf = "-*** ERROR *** Complete";
+inline constexpr std::string_view kCompleteOfFailed = " failed, hrc=";
+
+// scopes of extensions
+inline constexpr std::string_view kExtension = "*** ERROR *** Extension ";
+inline constexpr std::string_view kCannotExtent = " cannot extent Class/Extension ";
+inline constexpr std::string_view kNotExtensible = " because it is not extensible";
 
 // references
 inline constexpr std::string_view kCouldNotProcess = "-*** ERROR *** Could not process element [";
@@ -149,12 +207,6 @@ inline constexpr std::string_view kColumn = ", column ";
 inline constexpr std::string_view kInvalidName = "-*** ERROR *** Invalid Package name: ";
 inline constexpr std::string_view kNameDiffers = "-*** WARNING *** Package name ";
 inline constexpr std::string_view kNameDiffersFrom = " differs from the name asked for: ";
-inline constexpr std::string_view kUseRing = "-*** ERROR *** Package ";
-inline constexpr std::string_view kUseRingOf =
-    " is used by a Package that it uses, which is not supported yet";
-inline constexpr std::string_view kUnsupportedTag = "-*** ERROR *** Tag ";
-inline constexpr std::string_view kNotSupportedYet = "] is not supported yet";
-inline constexpr std::string_view kUnsupported = "not supported yet";
 inline constexpr std::string_view kRefusedValue = "*** ERROR *** Refused value: ";
 inline constexpr std::string_view kInvalidNumber = "*** WARNING *** Invalid number: ";
 inline constexpr std::string_view kUnknownWord = "*** WARNING *** Unknown value: ";

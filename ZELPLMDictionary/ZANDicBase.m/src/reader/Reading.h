@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "FaultReport.h"
-#include "OXMIDicClass.h"
+#include "OXMIDicExtension.h"
 #include "OXMIDicMgr.h"
 #include "OXMIDicPackage.h"
 #include "OXMIDicPrimitive.h"
@@ -76,9 +76,10 @@ inline constexpr std::size_t kCategories = 1;
 inline constexpr std::size_t kScopes = 2;     ///< Relationship
 inline constexpr std::size_t kInverseOf = 3;  ///< Inverse
 inline constexpr std::size_t kUniques = 0;    ///< Unique
-inline constexpr std::size_t kSuper = 0;      ///< Class, Instance
+inline constexpr std::size_t kSuper = 0;      ///< Class, Instance, Extension
 inline constexpr std::size_t kReference = 1;
 inline constexpr std::size_t kCommands = 2;
+inline constexpr std::size_t kExtended = 3;  ///< Extension
 }  // namespace slot
 
 /// A member of a class that has references.
@@ -89,22 +90,50 @@ struct MemberNote {
     ReferenceNotes references;
 };
 
+/// An object of a mapping: a root, a component or a path expression. An object is followed by what is inside.
+struct RBONote {
+    OXMDicTYPE type;
+    std::uint32_t node;
+    std::size_t end = 0;                     ///< place of the first note that is not inside
+    ZanDicRef<OXMIDicElement> object = {};   ///< as the interface of its type; null when it was not made
+    ZELVBTXMLAttribute reference = {};       ///< the one reference that it may have
+};
+
 /// A child of the package that later passes meet again.
 struct ElementNote {
     std::uint32_t node;
-    ZanDicRef<OXMIDicClass> element = ZanDicRef<OXMIDicClass>();  ///< null unless it is a class
+    OXMDicTYPE type = OXMDicTYPE_UNDEFINED;  ///< of a tag that nothing is made of: undefined
+    ZanDicRef<OXMIDicElement> element = ZanDicRef<OXMIDicElement>();  ///< as the interface of its type
     ReferenceNotes references = {};
-    std::size_t firstMember = 0;  ///< in the notes of members
+    std::size_t firstMember = 0;  ///< in the notes of members, or of objects when it is a mapping
     std::size_t endMember = 0;
-    bool isUnknown = false;         ///< its tag is
-    bool hasRelationships = false;  ///< it is to be checked once its super class is known
+    ZELVBTXMLAttribute reference = {};  ///< of a mapping: the class that it applies to
+    bool hasRelationships = false;      ///< it is to be checked once its super class is known
+
+    /// The element as the interface of its type.
+    template <class Face>
+    Face& As() const {
+        return static_cast<Face&>(*element);
+    }
+};
+
+/// What is left of an extension's scopes once one of them was not extensible yet.
+struct PutOffScopes {
+    std::uint32_t node;
+    OXMIDicExtension* extension;  ///< held by the element's note
+    ZELVBTXMLAttribute attribute;
+    std::size_t firstItem;  ///< number of items before the first that is left
 };
 
 /// The state of the passes over one document.
 struct Reading {
-    Reading(OXMIDicMgr& theManager, FaultReport& theFaults, LeftOut& theLeftOut,
+    Reading(OXMIDicMgr& theManager, FaultReport& theFaults, LeftOut& theLeftOut, LeftOut& theUntargeted,
             const ZELVBTXMLDocument& theDocument)
-        : manager(theManager), faults(theFaults), leftOut(theLeftOut), document(theDocument) {}
+        : manager(theManager),
+          faults(theFaults),
+          leftOut(theLeftOut),
+          untargeted(theUntargeted),
+          document(theDocument) {}
 
     /// \returns the name of a tag's element as diagnostics give it.
     std::string ElementName(const ZELVBTXMLNode& node) const;
@@ -115,15 +144,18 @@ struct Reading {
     OXMIDicMgr& manager;
     FaultReport& faults;
     LeftOut& leftOut;
-    LeftOut untargeted;  ///< attributes whose target was at fault
+    LeftOut& untargeted;  ///< attributes whose target was at fault, of all packages
     const ZELVBTXMLDocument& document;
     ZanDicRef<OXMIDicPackage> package;  ///< the one that this load made; null before
     std::string_view owner;             ///< name of the element whose members are being read
     TextCache texts;
     ReferenceNotes references;      ///< of the tag that is being filled
     ZELVBTXMLAttribute persistent;  ///< of the class that is being filled
+    ZELVBTXMLAttribute storedReference;  ///< of the RBO object that is being filled
     std::vector<ElementNote> elements;
     std::vector<MemberNote> members;
+    std::vector<RBONote> objects;       ///< of all mappings
+    std::vector<PutOffScopes> putOff;  ///< in the order of the document
 
 private:
     std::array<ZanDicRef<OXMIDicPrimitive>, 10> _PRIMITIVES;  ///< by kind
@@ -131,6 +163,14 @@ private:
 
 /// \returns the value of the first `Name`; empty when there is none.
 std::string_view NameOf(const ZELVBTXMLNode& node);
+
+/// Sets the type of an attribute or parameter to a primitive. \returns the setter's result; E_FAIL when there is
+/// no such primitive.
+template <class Element>
+HRESULT SetPrimitiveType(Reading& reading, Element& element, int kind) {
+    OXMIDicPrimitive* const primitive = reading.Primitive(kind);
+    return primitive != nullptr ? element.SetType(primitive) : E_FAIL;
+}
 
 /// A fault of a tag.
 Fault FaultOf(const Reading& reading, ZanDicDiagnosticCode code, const ZELVBTXMLNode& node);

@@ -1,0 +1,23 @@
+#include "ZanDicLoadRecord.h"
+
+#include "OXMIDicPackage.h"
+#include "ZanDicImplementation.h"
+#include "ZanDicPackage.h"
+#include "ZanDicRegistry.h"
+
+void ZanDicNoteLoad(OXMIDicPackage& package, const ZELString& askedName, OXMDicCONTENT content) {
+    auto* const object = LiveImplementationOf<ZanDicPackage>(&package);
+    ZanDicRegistry* const registry = ZanDicFindRegistry();
+    if (object == nullptr || registry == nullptr) return;
+    object->set_Content(content);
+    registry->note_Load(askedName, *object);
+}
+
+HRESULT ZanDicFindLoad(const ZELString& askedName, OXMIDicPackage** package) {
+    ZanDicRegistry* const registry = ZanDicFindRegistry();
+    const ZanDicPackage* const found = registry != nullptr ? registry->find_Load(askedName) : nullptr;
+    void* face = nullptr;
+    if (found == nullptr || Failed(found->bind_Interface(OXMDicTYPE_Package, &face))) return E_FAIL;
+    *package = static_cast<OXMIDicPackage*>(face);
+    return S_OK;
+}

@@ -1,0 +1,19 @@
+/// What the reader tells and asks of packages beside their interfaces: from which document each came.
+#ifndef ZAN_DIC_LOAD_RECORD_H
+#define ZAN_DIC_LOAD_RECORD_H
+
+#include "OXMDicTypes.h"
+#include "ZELResult.h"
+#include "ZELString.h"
+
+class OXMIDicPackage;
+
+/// Notes the name that was asked for, which the document may not bear itself, and the content kind. The record
+/// goes with the package.
+void ZanDicNoteLoad(OXMIDicPackage& package, const ZELString& askedName, OXMDicCONTENT content);
+
+/// Finds a package by the name that was asked for when it was loaded.
+/// \param[out] package written on success only. \returns S_OK; E_FAIL when there is none.
+HRESULT ZanDicFindLoad(const ZELString& askedName, OXMIDicPackage** package);
+
+#endif

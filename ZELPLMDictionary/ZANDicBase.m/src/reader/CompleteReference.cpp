@@ -1,0 +1,68 @@
+#include "CompleteReference.h"
+
+namespace complete {
+
+namespace {
+
+/// Package, name and domain of an element, as far as it has them.
+struct Whereabouts {
+    explicit Whereabouts(OXMIDicElement& element) {
+        element.GetName(&name);
+        if (element.GetPackage(package.Out()) != S_OK || !package) return;
+        package->GetName(&packageName);
+        package->GetDomain(&domain);
+    }
+
+    std::string Text() const {
+        std::string text = Joined({name.View(), text::kInPackage, packageName.View()});
+        if (!domain.IsEmpty()) text += Joined({text::kForDomain, domain.View()});
+        return text;
+    }
+
+    ZELString name;
+    ZELString packageName;
+    ZELString domain;
+    ZanDicRef<OXMIDicPackage> package;
+};
+
+}  // namespace
+
+std::string ReferenceLine(const ReferenceSpot& spot, std::string_view reason) {
+    return Joined({text::kCouldNotProcess, NameOf(spot.node), text::kAttributeOf, spot.attribute.Name(),
+                   text::kBecause, reason});
+}
+
+Fault ReferenceFault(const ReferenceSpot& spot, ZanDicDiagnosticCode code, OXMIDicElementH* target) {
+    Fault fault = FaultOf(spot.reading, code, spot.node);
+    fault.attribute = spot.attribute;
+    if (target != nullptr) fault.otherParty = QualifiedName(*target);
+    return fault;
+}
+
+HRESULT ReportSetterFailed(const ReferenceSpot& spot, OXMIDicElementH& target, std::string_view setter) {
+    Fault fault = ReferenceFault(spot, ZanDicDiagnosticCode::ReferenceRefused, &target);
+    fault.detail = Joined({setter, text::kFailed});
+    fault.lines.push_back({spot.trace, ReferenceLine(spot, fault.detail)});
+    return spot.reading.faults.Report(fault);
+}
+
+std::string DomainConflict(OXMIDicElement& element, OXMIDicElement& other) {
+    ZanDicRef<OXMIDicPackage> package;
+    ZanDicRef<OXMIDicPackage> otherPackage;
+    element.GetPackage(package.Out());
+    other.GetPackage(otherPackage.Out());
+    // An object has one adapter per interface: the same pointer is the same package.
+    if (package && package.Get() == otherPackage.Get()) return {};
+
+    const Whereabouts here(element);
+    const Whereabouts there(other);
+    if (!here.package || !there.package) return std::string(text::kNoPackageOfElement);
+    if (here.domain == there.domain) return {};
+    return Joined({text::kElement, here.Text(), text::kCannotBeRelated, there.Text(), text::kDomainsDiffer});
+}
+
+void AddReferenceLine(Fault& fault, const ReferenceSpot& spot, std::string_view reason) {
+    fault.lines.push_back({spot.trace, ReferenceLine(spot, reason)});
+}
+
+}  // namespace complete
