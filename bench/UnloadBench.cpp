@@ -86,8 +86,8 @@ void BM_Unload(benchmark::State& state) {
         state.ResumeTiming();
         if (Failed(dictionary.Manager().RemovePackage(&name))) state.SkipWithError("the unload fails");
     }
-    state.counters["ns_per_element"] =
-        benchmark::Counter(static_cast<double>(state.range(0)) * 1e-9,
+    state.counters["per_element"] =
+        benchmark::Counter(static_cast<double>(state.range(0)),
                            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
     dictionary.Manager().End();
 }
