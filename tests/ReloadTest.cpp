@@ -27,7 +27,7 @@ class ReloadTest : public DictionaryFixture {
 protected:
     /// Loads every package of the sample that nobody uses, and so all of them.
     void LoadAll() {
-        for (const char* name : {"BomEffectivity", "BomWorkshop"}) {
+        for (const char* name : {"BomEffectivity", "BomServices", "BomStorageMap.rbomap", "BomWorkshop"}) {
             const ZELString packageName(name);
             ASSERT_EQ(Manager().LoadPackageFromDir(ZANDIC_SAMPLES, &packageName, OXMDicPERSISTENT_Xml), S_OK);
         }
