@@ -7,6 +7,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "HexToBinary.h"
 #include "ReaderTexts.h"
 #include "Reading.h"
 #include "WordList.h"
@@ -86,7 +87,7 @@ HRESULT Resolve(const ReferenceSpot& spot, std::string_view uuidText, const Targ
     using enum ZanDicDiagnosticCode;
 
     Reading& reading = spot.reading;
-    const ZELDbBinary uuid = UuidOf(uuidText);
+    const ZELDbBinary uuid = UuidFromText(uuidText);
     if (reading.leftOut.Has(uuid)) return S_OK;
     ZanDicRef<OXMIDicElementH> found;
     if (Failed(reading.manager.Search(&uuid, found.Out())) || !found) {

@@ -1,5 +1,6 @@
 // Second pass: interfaces.
 #include "CompleteReference.h"
+#include "HexToBinary.h"
 #include "OXMIDicInterface.h"
 #include "OXMIDicMethod.h"
 #include "OXMIDicParameter.h"
@@ -54,7 +55,7 @@ HRESULT FindMethod(OXMIDicInterface& element, const ZELVBTXMLNode& node, ZanDicR
     if (const HRESULT rc = element.GetClassMethod(&name, method.Out()); Failed(rc)) return rc;
     ZELDbBinary uuid;
     method->GetUuid(&uuid);
-    return uuid == UuidOf(node.getAttributeValue(word::kUuid).value_or("")) ? S_OK : E_FAIL;
+    return uuid == UuidFromText(node.getAttributeValue(word::kUuid).value_or("")) ? S_OK : E_FAIL;
 }
 
 HRESULT CompleteMethod(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,

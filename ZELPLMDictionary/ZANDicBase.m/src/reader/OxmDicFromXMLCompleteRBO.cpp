@@ -1,5 +1,6 @@
 // Second pass: mappings and what is nested in them.
 #include "CompleteReference.h"
+#include "HexToBinary.h"
 #include "OXMIDicRBOClass.h"
 #include "OXMIDicRBOComponent.h"
 #include "OXMIDicRBOMapping.h"
@@ -112,7 +113,7 @@ private:
     /// The line of an object that the first pass could not make, and told then.
     HRESULT tell_LeftOut(const RBONote& note, const ZanDicTraceScope& trace) const {
         const ZELVBTXMLNode node = _Reading.document.ElementAt(note.node);
-        const ZELDbBinary uuid = UuidOf(node.getAttributeValue(word::kUuid).value_or(""));
+        const ZELDbBinary uuid = UuidFromText(node.getAttributeValue(word::kUuid).value_or(""));
         ZanDicRef<OXMIDicElementH> found;
         const bool isFound = Succeeded(_Reading.manager.Search(&uuid, found.Out()));
         if (auto line = trace.Error()) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "HexToBinary.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
 #include "OXMIDicInterface.h"
@@ -186,7 +187,7 @@ HRESULT ReadElement(Reading& reading, const ZELVBTXMLNode& node) {
         reading.leftOut.AddAll(node);
         return result;
     }
-    if (row != nullptr) return row->read({reading, node, reading.texts.Text(name), UuidOf(*uuid)});
+    if (row != nullptr) return row->read({reading, node, reading.texts.Text(name), UuidFromText(*uuid)});
 
     Fault fault = FaultOf(reading, UnknownTag, node);
     fault.severity = ZanDicSeverity::Warning;

@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "FillWords.h"
+#include "HexToBinary.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
 #include "OXMIDicEnumerator.h"
@@ -304,7 +305,7 @@ HRESULT FillMember(Reading& reading, const ZanDicTraceScope& trace, const ZELVBT
         return S_OK;
     }
     reading.references = {};
-    return row->read({reading, trace, node, owner, reading.texts.Text(name), UuidOf(*uuid)});
+    return row->read({reading, trace, node, owner, reading.texts.Text(name), UuidFromText(*uuid)});
 }
 
 /// The flag cannot be left out, and has two words only.
@@ -335,7 +336,7 @@ HRESULT FillEnumeratorOf(Reading& reading, const ZanDicTraceScope& trace, const 
     const auto uuidText = node.getAttributeValue(word::kUuid);
 
     const ZELString name = reading.texts.Text(nameText);
-    const ZELDbBinary uuid = UuidOf(*uuidText);
+    const ZELDbBinary uuid = UuidFromText(*uuidText);
     ZanDicRef<OXMIDicEnumerator> enumerator;
     if (Failed(owner.CreateEnumerator(&name, &uuid, enumerator.Out())) || !enumerator) {
         ZanDicRef<OXMIDicEnumerator> other;

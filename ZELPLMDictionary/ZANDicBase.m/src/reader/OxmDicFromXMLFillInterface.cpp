@@ -1,5 +1,6 @@
 // First pass: interfaces with their methods and parameters.
 #include "FillWords.h"
+#include "HexToBinary.h"
 #include "OXMIDicInterface.h"
 #include "OXMIDicMethod.h"
 #include "OXMIDicParameter.h"
@@ -67,7 +68,7 @@ HRESULT CreateMember(Reading& reading, const ZanDicTraceScope& trace, const ZELV
                      HRESULT (Owner::*factory)(const ZELString*, const ZELDbBinary*, Face**),
                      HRESULT (Owner::*find)(const ZELString*, Face**), ZanDicRef<Face>& member) {
     const ZELString name = reading.texts.Text(NameOf(node));
-    const ZELDbBinary uuid = UuidOf(*node.getAttributeValue(word::kUuid));
+    const ZELDbBinary uuid = UuidFromText(*node.getAttributeValue(word::kUuid));
     const HRESULT rc = (owner.*factory)(&name, &uuid, member.Out());
     if (Succeeded(rc) && member) return S_OK;
     ZanDicRef<Face> other;

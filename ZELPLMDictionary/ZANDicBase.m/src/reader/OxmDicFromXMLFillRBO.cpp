@@ -1,5 +1,6 @@
 // First pass: RBO classes, and mappings with all that is nested in them.
 #include "FillWords.h"
+#include "HexToBinary.h"
 #include "OXMIDicRBOClass.h"
 #include "OXMIDicRBOComponent.h"
 #include "OXMIDicRBOMapping.h"
@@ -21,7 +22,7 @@ constexpr LoopTexts kRBOClassLoop{text::kProcessingAttributeOf, text::kUnknownPa
 /// A reference: its UUID is stored at once; the last one is resolved in the second pass.
 template <auto Setter, class Element>
 HRESULT StoredReference(Element& element, const Given& given) {
-    const ZELDbBinary uuid = UuidOf(given.Value());
+    const ZELDbBinary uuid = UuidFromText(given.Value());
     given.reading.storedReference = given.attribute;
     return (element.*Setter)(&uuid);
 }
@@ -246,7 +247,7 @@ private:
         }
         if (const HRESULT rc = CheckIdentity(_Reading, level.trace, node); Failed(rc)) return rc;
         const ObjectTag tag{node, *level.object, _Reading.texts.Text(NameOf(node)),
-                            UuidOf(*node.getAttributeValue(word::kUuid))};
+                            UuidFromText(*node.getAttributeValue(word::kUuid))};
         ZanDicRef<OXMIDicElement> object = row->make(tag);
         _Reading.objects.push_back({row->type, node.Index(), _Reading.objects.size() + 1});
         if (!object) {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "HexToBinary.h"
 #include "OxmBuildFileName.h"
 #include "OxmDicFromXMLComplete.h"
 #include "OxmDicFromXMLElements.h"
@@ -282,7 +283,7 @@ void PackageLoad::read_Name() {
 
 void PackageLoad::read_Uuid() {
     if (const auto uuid = _Node.getAttributeValue(word::kUuid)) {
-        _Uuid = UuidOf(*uuid);
+        _Uuid = UuidFromText(*uuid);
         return;
     }
     Fault fault = package_Fault(MissingAttribute);
