@@ -2,8 +2,7 @@
 // was freed, nothing stays behind, and what is gone is gone for everybody.
 #include <rapidcheck.h>
 
-#include "ModelFixture.h"
-#include "OXMIDicApp.h"
+#include "KindsFixture.h"
 
 namespace {
 
@@ -15,7 +14,7 @@ public:
     explicit RandomModel(OXMIDicMgr& manager) : _Manager(manager) {}
 
     void Step() {
-        switch (*rc::gen::inRange(0, 30)) {
+        switch (*rc::gen::inRange(0, 36)) {
             case 0:
             case 1:
                 return CreatePackage();
@@ -59,6 +58,16 @@ public:
             case 26:
             case 27:
                 return LetGo();
+            case 28:
+                return LinkRBO();
+            case 29:
+                return AddScopes();
+            case 30:
+                return TypeParameter();
+            case 31:
+            case 32:
+            case 33:
+                return CreateInner();
             default:
                 return AskEverything();
         }
@@ -72,7 +81,10 @@ public:
             RC_ASSERT(held->GetName(&name) == S_OK);
             RC_ASSERT(held->GetUuid(&uuid) == S_OK);
             HeldList list;
+            int lost = -1;
             held->GetCategories(&list);
+            RC_ASSERT(held->GetLostLinks(&lost) == S_OK);
+            RC_ASSERT(lost >= 0);
             if (const auto face = QueryFor<OXMIDicElement>(*held)) AskElement(*face);
             if (const auto face = QueryFor<OXMIDicPackage>(*held)) AskPackage(*face);
             if (const auto face = QueryFor<OXMIDicClass>(*held)) AskClass(*face);
@@ -80,6 +92,13 @@ public:
             if (const auto face = QueryFor<OXMIDicUnique>(*held)) AskList(*face, &OXMIDicUnique::GetElements);
             if (const auto face = QueryFor<OXMIDicRelationship>(*held)) AskRelationship(*face);
             if (const auto face = QueryFor<OXMIDicInverse>(*held)) AskInverse(*face);
+            if (const auto face = QueryFor<OXMIDicInterface>(*held)) AskInterface(*face);
+            if (const auto face = QueryFor<OXMIDicExtension>(*held))
+                AskList(*face, &OXMIDicExtension::GetScopes);
+            if (const auto face = QueryFor<OXMIDicMethod>(*held))
+                AskList(*face, &OXMIDicMethod::GetParameters);
+            if (const auto face = QueryFor<OXMIDicParameter>(*held)) AskParameter(*face);
+            AskRBO(*held);
         }
     }
 
@@ -133,7 +152,15 @@ private:
     void CreateElement() {
         const auto package = Pick<OXMIDicPackage>();
         if (!package) return;
-        switch (*rc::gen::inRange(0, 5)) {
+        switch (*rc::gen::inRange(0, 9)) {
+            case 5:
+                return Make<OXMIDicExtension>(*package, &OXMIDicPackage::CreateExtension);
+            case 6:
+                return Make<OXMIDicInterface>(*package, &OXMIDicPackage::CreateInterface);
+            case 7:
+                return Make<OXMIDicRBOClass>(*package, &OXMIDicPackage::CreateRBOClass);
+            case 8:
+                return Make<OXMIDicRBOMapping>(*package, &OXMIDicPackage::CreateRBOMapping);
             case 0:
                 return Make<OXMIDicEnum>(*package, &OXMIDicPackage::CreateEnum);
             case 1:
@@ -149,7 +176,9 @@ private:
         }
         const auto owner = Pick<OXMIDicClass>();
         if (!owner) return;
-        switch (*rc::gen::inRange(0, 4)) {
+        switch (*rc::gen::inRange(0, 5)) {
+            case 4:
+                return Make<OXMIDicMethod>(*owner, &OXMIDicClass::CreateMethod);
             case 0:
                 return Make<OXMIDicSimple>(*owner, &OXMIDicClass::CreateSimple);
             case 1:
@@ -159,6 +188,51 @@ private:
             default:
                 return Make<OXMIDicUnique>(*owner, &OXMIDicClass::CreateUnique);
         }
+    }
+
+    /// Members of members, and what mappings are made of.
+    void CreateInner() {
+        switch (*rc::gen::inRange(0, 5)) {
+            case 0:
+                return MakeIn<OXMIDicMethod>(&OXMIDicMethod::CreateParameter);
+            case 1:
+                return MakeIn<OXMIDicRBOMapping>(&OXMIDicRBOMapping::CreateRBORoot);
+            case 2:
+                return MakeIn<OXMIDicRBORoot>(&OXMIDicRBORoot::CreateRBOComponent);
+            case 3:
+                return MakeIn<OXMIDicRBOComponent>(&OXMIDicRBOComponent::CreateRBOComponent);
+            default:
+                return MakeIn<OXMIDicRBOComponent>(&OXMIDicRBOComponent::CreateRBOPathExpression);
+        }
+    }
+
+    template <class Owner, class Interface>
+    void MakeIn(HRESULT (Owner::*create)(const ZELString*, const ZELDbBinary*, Interface**)) {
+        if (const auto owner = Pick<Owner>()) Make<Interface>(*owner, create);
+    }
+
+    void LinkRBO() {
+        if (const auto mapping = Pick<OXMIDicRBOMapping>()) {
+            mapping->SetApplyToRBOClass(Pick<OXMIDicRBOClass>().Get());
+        }
+        if (const auto root = Pick<OXMIDicRBORoot>()) root->SetBaseClass(Pick<OXMIDicClass>().Get());
+        if (const auto component = Pick<OXMIDicRBOComponent>()) {
+            component->SetBaseClass(Pick<OXMIDicClass>().Get());
+        }
+        if (const auto path = Pick<OXMIDicRBOPathExpression>()) path->SetTarget(Pick<OXMIDicElement>().Get());
+    }
+
+    void AddScopes() {
+        const auto scope = Pick<OXMIDicClass>();
+        const auto extension = Pick<OXMIDicExtension>();
+        const auto attribute = Pick<OXMIDicRelationship>();
+        const bool removes = *rc::gen::inRange(0, 4) == 0;
+        if (extension) removes ? extension->RemoveScope(scope.Get()) : extension->AddScope(scope.Get());
+        if (attribute) removes ? attribute->RemoveScope(scope.Get()) : attribute->AddScope(scope.Get());
+    }
+
+    void TypeParameter() {
+        if (const auto parameter = Pick<OXMIDicParameter>()) parameter->SetType(Pick<OXMIDicElement>().Get());
     }
 
     void Derive() {
@@ -202,7 +276,9 @@ private:
         if (const auto owner = Pick<OXMIDicClass>()) {
             owner->RemoveElement(&name);
             owner->RemoveUnique(&name);
+            owner->RemoveMethod(&name);
         }
+        if (const auto owner = Pick<OXMIDicMethod>()) owner->RemoveParameter(&name);
         if (const auto owner = Pick<OXMIDicEnum>()) owner->RemoveEnumerator(&name);
     }
 
@@ -247,7 +323,16 @@ private:
     static void AskList(Owner& owner, HRESULT (Owner::*get)(ZELListPtrIUnknown*)) {
         HeldList list;
         RC_ASSERT(Succeeded((owner.*get)(&list)));
-        NamesOf(list);
+        for (IUnknown* const entry : list) AssertIsThere(entry);
+    }
+
+    /// What is handed out is in the dictionary: what is gone has no package any more. Primitives and
+    /// parameters never have one.
+    static void AssertIsThere(IUnknown* face) {
+        const auto element = face != nullptr ? QueryFor<OXMIDicElement>(*face) : Held<OXMIDicElement>();
+        if (!element || QueryFor<OXMIDicPrimitive>(*element) || QueryFor<OXMIDicParameter>(*element)) return;
+        ZELString package;
+        RC_ASSERT(element->GetPackageName(&package) == S_OK);
     }
 
     static void AskElement(OXMIDicElement& element) {
@@ -279,9 +364,12 @@ private:
         RC_ASSERT(owner.GetSuperClasses(&supers) == S_FALSE);
         RC_ASSERT((owner.GetSuperClass(superClass.Out()) == S_OK) == (supers.Size() != 0));
         RC_ASSERT(owner.GetInjectivesPointingOnMe(injectives) == S_OK);
+        for (IUnknown* const entry : injectives) AssertIsThere(entry);
+        for (IUnknown* const entry : supers) AssertIsThere(entry);
         RC_ASSERT(owner.GetExtensible(&extensible) == S_FALSE);
         RC_ASSERT(owner.GetKVADerivable(&derivable) == S_FALSE);
         owner.GetReference(reference.Out());
+        AssertIsThere(reference.Get());
     }
 
     static void AskEnum(OXMIDicEnum& owner) {
@@ -298,6 +386,59 @@ private:
         relationship.GetTarget(target.Out());
         relationship.GetOrigin(origin.Out());
         relationship.GetSpecializedAttribute(specialized.Out());
+        for (IUnknown* const linked :
+             {static_cast<IUnknown*>(target.Get()), static_cast<IUnknown*>(origin.Get()),
+              static_cast<IUnknown*>(specialized.Get())}) {
+            AssertIsThere(linked);
+        }
+        HeldList scopes;
+        unsigned char inScope = 2;
+        ZELDbBinary uuid;
+        if (origin) origin->GetUuid(&uuid);
+        RC_ASSERT(Succeeded(relationship.GetScopes(&scopes)));
+        const HRESULT answer = relationship.IsClassInScope(&uuid, &inScope);
+        RC_ASSERT(answer == (inScope == 1 ? S_OK : S_FALSE));
+    }
+
+    static void AskInterface(OXMIDicInterface& interface) {
+        AskList(interface, &OXMIDicInterface::GetMethods);
+        AskList(interface, &OXMIDicInterface::GetAllMethods);
+        AskList(interface, &OXMIDicInterface::GetSuperInterfaces);
+    }
+
+    static void AskParameter(OXMIDicParameter& parameter) {
+        Held<OXMIDicElement> type;
+        const HRESULT answer = parameter.GetType(type.Out());
+        RC_ASSERT(answer == (type ? S_OK : S_FALSE));
+        AssertIsThere(type.Get());
+    }
+
+    static void AskRBO(OXMIDicElementH& object) {
+        Held<OXMIDicRBOClass> applied;
+        Held<OXMIDicClass> base;
+        Held<OXMIDicElement> target;
+        Held<OXMIDicRBOPathExpression> path;
+        if (const auto face = QueryFor<OXMIDicRBOMapping>(object)) {
+            AskList(*face, &OXMIDicRBOMapping::GetElements);
+            const HRESULT answer = face->GetApplyToRBOClass(applied.Out());
+            RC_ASSERT(answer == (applied ? S_OK : E_FAIL));
+        }
+        if (const auto face = QueryFor<OXMIDicRBORoot>(object)) {
+            AskList(*face, &OXMIDicRBORoot::GetElements);
+            const HRESULT answer = face->GetBaseClass(base.Out());
+            RC_ASSERT(answer == (base ? S_OK : E_FAIL));
+        }
+        if (const auto face = QueryFor<OXMIDicRBOComponent>(object)) {
+            AskList(*face, &OXMIDicRBOComponent::GetElements);
+            face->GetBaseClass(base.Out());
+            face->GetRBOPathExpression(path.Out());
+        }
+        if (const auto face = QueryFor<OXMIDicRBOPathExpression>(object)) face->GetTarget(target.Out());
+        for (IUnknown* const linked :
+             {static_cast<IUnknown*>(applied.Get()), static_cast<IUnknown*>(base.Get()),
+              static_cast<IUnknown*>(target.Get()), static_cast<IUnknown*>(path.Get())}) {
+            AssertIsThere(linked);
+        }
     }
 
     static void AskInverse(OXMIDicInverse& inverse) {
@@ -305,6 +446,8 @@ private:
         Held<OXMIDicElement> type;
         inverse.GetInverse(relationship.Out());
         inverse.GetType(type.Out());
+        AssertIsThere(relationship.Get());
+        AssertIsThere(type.Get());
     }
 
     OXMIDicMgr& _Manager;
@@ -312,7 +455,7 @@ private:
     unsigned _LastUuid = 1;
 };
 
-class ModelLifetimeTest : public ModelFixture {};
+class ModelLifetimeTest : public KindsFixture {};
 
 TEST_F(ModelLifetimeTest, NothingIsReadAfterItsEndAndNothingStaysBehind) {
     const int before = ZanDicObj::live_Objects();

@@ -499,20 +499,6 @@ TEST_F(ZanDicAttributeTest, LosesInversesThatAreGone) {
     EXPECT_EQ(madeBy->GetInverse(&relationship), S_FALSE);
 }
 
-TEST_F(ZanDicAttributeTest, HasNoScopes) {
-    HeldList scopes;
-    ZELDbBinary uuid = TestUuid(1);
-    unsigned char inScope = 7;
-    ClearWritten();
-
-    EXPECT_EQ(maker->AddScope(part.Get()), E_FAIL);
-    EXPECT_EQ(maker->RemoveScope(part.Get()), E_FAIL);
-    EXPECT_EQ(maker->GetScopes(&scopes), E_FAIL);
-    EXPECT_EQ(maker->IsClassInScope(&uuid, &inScope), E_FAIL);
-
-    EXPECT_EQ(Written(), "");
-}
-
 TEST_F(ZanDicAttributeTest, OnceGoneItAnswersForItselfAndLinksNothing) {
     const auto other = Class(*items, "Other");
     const auto old = Relationship(*other, "Old");

@@ -126,11 +126,12 @@ TEST_F(ZanDicObjTest, NullArgumentsOfIdentityFail) {
     EXPECT_EQ(object.Name(), "UNDEFINED");
 }
 
-TEST_F(ZanDicObjTest, GetLostLinksIsNotAvailable) {
+TEST_F(ZanDicObjTest, HasLostNoLinksAtFirst) {
     int count = 5;
 
-    EXPECT_EQ(ZanDicObj().GetLostLinks(&count), E_FAIL);
-    EXPECT_EQ(count, 5);
+    EXPECT_EQ(ZanDicObj().GetLostLinks(&count), S_OK);
+    EXPECT_EQ(ZanDicObj().GetLostLinks(nullptr), E_FAIL);
+    EXPECT_EQ(count, 0);
 }
 
 // Free attributes.

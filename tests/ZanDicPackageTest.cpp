@@ -192,20 +192,12 @@ TEST_F(ZanDicPackageTest, TheFormsWithoutUuidWarnAndDrawOne) {
 TEST_F(ZanDicPackageTest, DoesNotMakeTheKindsThatAreNotAvailable) {
     const ZELDbBinary uuid = NextUuid();
     const ZELString name("New");
-    OXMIDicExtension* extension = nullptr;
-    OXMIDicInterface* interface = nullptr;
-    OXMIDicRBOClass* rboClass = nullptr;
     OXMIDicRBOMapping* mapping = nullptr;
     OXMIDicAttributeBlock* block = nullptr;
     ClearWritten();
 
-    EXPECT_EQ(items->CreateExtension(&name, &uuid, &extension), E_FAIL);
-    EXPECT_EQ(items->CreateInterface(&name, &uuid, &interface), E_FAIL);
-    EXPECT_EQ(items->CreateRBOClass(&name, &uuid, &rboClass), E_FAIL);
-    EXPECT_EQ(items->CreateRBOMapping(&name, &uuid, &mapping), E_FAIL);
     EXPECT_EQ(items->CreateRBOMapping(&name, &mapping), E_FAIL);
     EXPECT_EQ(items->CreateAttributeBlock(&uuid, &block), E_FAIL);
-    EXPECT_EQ(items->GetRBOClass(&name, &rboClass), E_FAIL);
     EXPECT_EQ(items->ComputeAttributeBlocks(nullptr), E_FAIL);
 
     EXPECT_EQ(Written(), "");

@@ -118,6 +118,81 @@ TEST_F(ZanDicTeardownTest, KeepsNoObjectWhoseNameAnotherHasTaken) {
     DropTaken({&stubborn});
 }
 
+/// Owns one list, which may hold owners in turn.
+class Nest final : public ZanDicElement {
+public:
+    using ZanDicElement::ZanDicElement;
+    HRESULT FlushAll() override { return FlushOwner(*this); }
+    ZanDicOwnedList owned_List() override { return {&members, "_NEST", "Nest::FlushAll"}; }
+    HRESULT flush_Rest(const ZanDicTraceScope& scope) override {
+        scope.Say(TraceLevel::Detail, "rest");
+        return S_OK;
+    }
+    void take_Owned(std::vector<ZanDicObj*>& taken) override { TakeList(members, taken); }
+
+    ZanHashList members{29, ZanHashListKind::Owner};
+};
+
+TEST_F(ZanDicTeardownTest, AFailureInsideANestStopsEveryOwnerAbove) {
+    const int before = ZanDicObj::live_Objects();
+    Nest outer("Outer", NextUuid());
+    auto* const inner = new Nest("Inner", NextUuid());
+    auto* const stubborn = new StubbornElement("Stubborn", NextUuid());
+    EXPECT_EQ(outer.members.Append(inner), S_OK);
+    EXPECT_EQ(inner->members.Append(stubborn), S_OK);
+    TraceOnly("Nest::FlushAll\n");
+
+    EXPECT_EQ(outer.FlushAll(), E_FAIL);
+
+    EXPECT_EQ(outer.members.Size(), 1);
+    EXPECT_EQ(inner->members.Size(), 1);
+    EXPECT_EQ(Written(),
+              "Nest::FlushAll- === start === .\n"
+              "Nest::FlushAll- _Type=-1 (?), _Name=Outer.\n"
+              "Nest::FlushAll- processing _NEST....\n"
+              "Nest::FlushAll- processing _NEST[1]: Inner, Type: -1 (?).\n"
+              "Nest::FlushAll- === start === .\n"
+              "Nest::FlushAll- _Type=-1 (?), _Name=Inner.\n"
+              "Nest::FlushAll- processing _NEST....\n"
+              "Nest::FlushAll- processing _NEST[1]: Stubborn, Type: -1 (?).\n"
+              "Nest::FlushAll- rc[_NEST[1]->FlushAll]=KO.\n"
+              "Nest::FlushAll- *** ERROR *** could not process Element: Stubborn, Type: -1 (?).\n"
+              "Nest::FlushAll- === exit === RC=KO.\n"
+              "Nest::FlushAll- rc[_NEST[1]->FlushAll]=KO.\n"
+              "Nest::FlushAll- *** ERROR *** could not process Element: Inner, Type: -1 (?).\n"
+              "Nest::FlushAll- === exit === RC=KO.\n");
+    std::vector<ZanDicObj*> taken;
+    outer.take_Owned(taken);
+    DropTaken(taken);
+    EXPECT_EQ(ZanDicObj::live_Objects(), before + 1) << "the outermost stands on the stack";
+}
+
+TEST_F(ZanDicTeardownTest, WhatIsLeftComesAfterTheList) {
+    Nest outer("Outer", NextUuid());
+    TraceOnly("Nest::FlushAll\n");
+
+    EXPECT_EQ(FlushOwner(outer), S_OK);
+
+    EXPECT_NE(Written().find("ZanHashList::RemoveAll _HASH.Size()=0, _LISTP.Size()=0\n"
+                             "Nest::FlushAll- rest.\n"
+                             "Nest::FlushAll- === exit === RC=OK.\n"),
+              std::string::npos);
+}
+
+TEST_F(ZanDicTeardownTest, AMemberOutsideOfListsGoesWithItsOwnWords) {
+    const int before = ZanDicObj::live_Objects();
+    TraceOnly("Owner::FlushAll\n");
+
+    EXPECT_EQ(DropMember(*new StubbornElement("Stubborn", NextUuid()), "_Member", trace), E_FAIL);
+
+    EXPECT_EQ(ZanDicObj::live_Objects(), before);
+    EXPECT_EQ(Written(),
+              "Owner::FlushAll- processing _Member: Stubborn, Type: -1 (?).\n"
+              "Owner::FlushAll- rc[_Member->FlushAll]=KO.\n"
+              "Owner::FlushAll- rc[ZanDictionary->Delete]=KO.\n"
+              "Owner::FlushAll- after _Member->Release, RefCount=0.\n");
+}
+
 TEST_F(ZanDicTeardownTest, DropsWhatWasTakenWithoutAWord) {
     const int before = ZanDicObj::live_Objects();
     ZanDicElement& element = Own<ZanDicElement>("Held");

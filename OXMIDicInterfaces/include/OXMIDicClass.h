@@ -159,7 +159,8 @@ public:
     virtual HRESULT GetUnique(const ZELString* name, OXMIDicUnique** unique) = 0;
     virtual HRESULT GetUniques(ZELListPtrIUnknown* uniques) = 0;
 
-    /// Methods. Not available yet. \returns E_FAIL.
+    /// Methods, as in `OXMIDicInterface`: GetMethod looks up the super classes as well, GetMethods and
+    /// GetClassMethod at the own ones only.
     virtual HRESULT GetMethod(const ZELString* name, OXMIDicMethod** method) = 0;
     virtual HRESULT GetMethods(ZELListPtrIUnknown* methods) = 0;
     virtual HRESULT GetClassMethod(const ZELString* name, OXMIDicMethod** method) = 0;

@@ -69,8 +69,11 @@ public:
     /// \returns S_OK; E_INVALIDARG for a null list; E_FAIL when the object never had a category.
     virtual HRESULT GetCategories(ZELListPtrIUnknown* categories) = 0;
 
-    /// \param[out] count how many links of this object were set and have lost their object since.
-    /// \returns E_FAIL: not available yet.
+    /// For callers who unload packages that others use.
+    /// \param[out] count how many links of this object were set and have lost their object since: it was
+    /// taken out of the dictionary, or is no more. Such a link reads as never set. An object that is gone
+    /// itself has no links.
+    /// \returns S_OK; E_FAIL for null.
     virtual HRESULT GetLostLinks(int* count) = 0;
 
 protected:

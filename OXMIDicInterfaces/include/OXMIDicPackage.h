@@ -47,9 +47,17 @@ public:
     /// As GetElement, then in each used package, in order, one level deep.
     virtual HRESULT GetElementR(const ZELString* name, OXMIDicElement** element) = 0;
 
-    /// RBO kinds and commands. Not available yet. \returns E_FAIL.
+    /// Finds an RBO class by name. \returns S_OK; E_FAIL when there is none.
     virtual HRESULT GetRBOClass(const ZELString* name, OXMIDicRBOClass** rboClass) = 0;
+
+    /// Finds the first mapping that applies to \p rboClass: by the UUID that it stores or, where it stores
+    /// none, by its link. \returns S_OK; E_FAIL when there is none, or, after an error line, for null or an
+    /// object of another library.
     virtual HRESULT GetRBOMapping(const OXMIDicRBOClass* rboClass, OXMIDicRBOMapping** mapping) = 0;
+
+    /// Commands that the caller made: the package holds no reference to them, and a command that goes counts
+    /// as absent. \returns S_OK; E_FAIL for null, an object of another library, or, respectively, a name that
+    /// is there already or is not there.
     virtual HRESULT AddCommand(const OXMIDicCommand* command) = 0;
     virtual HRESULT RemoveCommand(const OXMIDicCommand* command) = 0;
     virtual HRESULT GetCommands(ZELListPtrIUnknown* commands) = 0;
@@ -83,8 +91,6 @@ public:
     virtual HRESULT CreateCategory(const ZELString* name, const ZELDbBinary* uuid,
                                    OXMIDicCategory** element) = 0;
     virtual HRESULT CreateCategory(const ZELString* name, OXMIDicCategory** element) = 0;
-
-    /// Factories of kinds that are not available yet. \returns E_FAIL.
     virtual HRESULT CreateExtension(const ZELString* name, const ZELDbBinary* uuid,
                                     OXMIDicExtension** element) = 0;
     virtual HRESULT CreateExtension(const ZELString* name, OXMIDicExtension** element) = 0;
@@ -96,7 +102,10 @@ public:
     virtual HRESULT CreateRBOClass(const ZELString* name, OXMIDicRBOClass** element) = 0;
     virtual HRESULT CreateRBOMapping(const ZELString* name, const ZELDbBinary* uuid,
                                      OXMIDicRBOMapping** element) = 0;
+    /// Never available. \returns E_FAIL.
     virtual HRESULT CreateRBOMapping(const ZELString* name, OXMIDicRBOMapping** element) = 0;
+
+    /// Attribute blocks. Not available yet. \returns E_FAIL.
     virtual HRESULT CreateAttributeBlock(const ZELDbBinary* uuid, OXMIDicAttributeBlock** block) = 0;
 
     /// Deprecated: each writes a notice. \returns E_FAIL.

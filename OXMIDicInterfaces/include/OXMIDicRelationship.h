@@ -39,10 +39,22 @@ public:
     /// Obsolete: writes a notice. \returns E_FAIL.
     virtual HRESULT GetInvertedAttribute(OXMIDicInverse** inverse) = 0;
 
-    /// The classes to which the attribute applies. \returns E_FAIL: not available yet.
+    /// The classes to which the attribute applies, with all below them: told apart by identity, not by name.
+    /// \returns S_OK; S_FALSE when the class is among them already; E_FAIL for null, an object of another
+    /// library or, after an error line, one that is no class.
     virtual HRESULT AddScope(const OXMIDicElement* scope) = 0;
+
+    /// \returns S_OK, also where none was ever added; E_FAIL for null or a class that is not among them.
     virtual HRESULT RemoveScope(const OXMIDicElement* scope) = 0;
+
+    /// Appends the classes that were added, in order. \returns S_OK; S_FALSE when none ever was; E_FAIL for a
+    /// null list.
     virtual HRESULT GetScopes(ZELListPtrIUnknown* scopes) = 0;
+
+    /// Without a scope, or with one that was emptied by hand, every class is in it; with one whose classes are
+    /// all gone none is. The first question after a change walks all subclasses and writes two lines for each
+    /// to standard error.
+    /// \param[out] inScope 1 or 0. \returns S_OK for 1, S_FALSE for 0; E_FAIL for null.
     virtual HRESULT IsClassInScope(const ZELDbBinary* classUuid, unsigned char* inScope) = 0;
 
 protected:

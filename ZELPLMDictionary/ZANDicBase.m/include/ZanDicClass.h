@@ -29,6 +29,8 @@ public:
     static const char* ClassName() { return ClassMeta().Name(); }
     ZELMetaClass& MetaObject() const override { return ClassMeta(); }
     _type get_type() const override { return _type_Class; }
+    HRESULT SetUuid(const ZELDbBinary* uuid) override;
+    HRESULT GenUuid() override;
 
     /// Attribute factory; any \p type is taken. The form without UUID warns and draws one.
     /// \param[out] attribute also written when only the registration failed, and the attribute is in the
@@ -208,6 +210,9 @@ private:
     HRESULT set_SuperClass(const IUnknown* superClass, const ZanDicTraceScope& trace,
                            std::string_view foreign);
     void drop_Hierarchy();
+    void forget_Relations() noexcept;
+    template <class Change>
+    HRESULT change_Uuid(const Change& change);
     bool is_AbleToBeUnder(const ZanDicClass& superClass) const;
     void forget_AllAttributes();
     template <class Visit>

@@ -21,6 +21,11 @@ public:
     /// Adds \p attribute at the end unless it is noted already or gone. Null is ignored.
     void AddRelationship(ZanDicAttribute* attribute);
 
+    /// Takes \p attribute out; one that is not noted is ignored.
+    void remove_Relationship(const ZanDicAttribute& attribute);
+    /// Adds all attributes of \p other, in their order.
+    void add_All(const ZanDicClassToRelationElem& other);
+
     /// Appends each attribute as the interface of its kind, in the order of their first addition, one
     /// reference an entry. \returns S_OK; the first failure, and what was appended before it stays.
     HRESULT GetRelationships(ZELListPtrIUnknown& relationships) const;

@@ -35,6 +35,19 @@ public:
     /// Notes an injective attribute among those that point at the class of that UUID. \returns S_OK.
     virtual HRESULT AddClassToRelation(const ZELDbBinary* classUuid, ZanDicAttribute* attribute) = 0;
 
+    /// Takes an attribute out of those noted for a class.
+    virtual void remove_Relation(const ZELDbBinary& classUuid, const ZanDicAttribute& attribute) = 0;
+
+    /// What was noted for a class under one UUID is its own under another from now on.
+    virtual void move_Relations(const ZELDbBinary& before, const ZELDbBinary& after) = 0;
+
+    /// Forgets what was noted for a class.
+    virtual void forget_Relations(const ZELDbBinary& classUuid) noexcept = 0;
+
+    /// Whether no other object is registered under the object's UUID: only then is what is noted under that
+    /// UUID meant for this object.
+    virtual bool owns_Uuid(const ZanDicObj& object) const = 0;
+
     /// Appends the interfaces of the attributes noted for a class. \returns S_OK; the first failure.
     virtual HRESULT get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) = 0;
 

@@ -82,6 +82,10 @@ public:
 
     void forget_Obj(ZanDicObj& object) noexcept override;
     bool keeps_Obj(const ZanDicObj& object) const override;
+    void remove_Relation(const ZELDbBinary& classUuid, const ZanDicAttribute& attribute) override;
+    void move_Relations(const ZELDbBinary& before, const ZELDbBinary& after) override;
+    void forget_Relations(const ZELDbBinary& classUuid) noexcept override;
+    bool owns_Uuid(const ZanDicObj& object) const override;
     HRESULT get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) override;
     void note_Load(const ZELString& askedName, ZanDicPackage& package) override;
     ZanDicPackage* find_Load(const ZELString& askedName) override;

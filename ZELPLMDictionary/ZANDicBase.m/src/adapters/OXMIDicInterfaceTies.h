@@ -63,6 +63,8 @@ public:
 template <class Impl, class Base>
 class OXMIDicParameterLayer : public Base {
 public:
+    using Base::GetType;  // that of all objects
+
     HRESULT GetType(OXMIDicElement** type) override { return this->impl().GetType(type); }
     HRESULT SetType(const OXMIDicElement* type) override { return this->impl().SetType(type); }
     HRESULT GetKind(OXMDicKIND* kind) override { return this->impl().GetKind(kind); }

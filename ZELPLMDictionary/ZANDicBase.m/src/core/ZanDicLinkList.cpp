@@ -45,6 +45,11 @@ struct ZanDicLinkListBase::Store {
     }
 
     void Append(ZanDicObj& object) {
+        // What is gone makes room before the list grows; a list that is mostly alive grows all the same.
+        if (links.size() == links.capacity() && seenLostCount != ZanDicLinkBase::LostCount()) {
+            Pack();
+            if (links.size() > links.capacity() / 2) links.reserve(2 * links.capacity());
+        }
         links.emplace_back(&object);
         if (links.size() == kSmall + 1) {
             Pack();

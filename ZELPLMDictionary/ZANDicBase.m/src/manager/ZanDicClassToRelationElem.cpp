@@ -8,6 +8,16 @@ void ZanDicClassToRelationElem::AddRelationship(ZanDicAttribute* attribute) {
     if (attribute != nullptr) _RELATIONSHIPS.Append(*attribute);
 }
 
+void ZanDicClassToRelationElem::remove_Relationship(const ZanDicAttribute& attribute) {
+    _RELATIONSHIPS.Remove(attribute);
+}
+
+void ZanDicClassToRelationElem::add_All(const ZanDicClassToRelationElem& other) {
+    const int size = other._RELATIONSHIPS.Size();
+    for (int position = 1; position <= size; ++position)
+        _RELATIONSHIPS.Append(*other._RELATIONSHIPS[position]);
+}
+
 HRESULT ZanDicClassToRelationElem::GetRelationships(ZELListPtrIUnknown& relationships) const {
     for (int position = 1; position <= _RELATIONSHIPS.Size(); ++position) {
         void* relationship = nullptr;

@@ -295,6 +295,35 @@ HRESULT ZanDictionary::AddClassToRelation(const ZELDbBinary* classUuid, ZanDicAt
     return S_OK;
 }
 
+void ZanDictionary::remove_Relation(const ZELDbBinary& classUuid, const ZanDicAttribute& attribute) {
+    if (auto* const entry = find_Relations(classUuid)) entry->remove_Relationship(attribute);
+}
+
+void ZanDictionary::move_Relations(const ZELDbBinary& before, const ZELDbBinary& after) {
+    ZanDicClassToRelationElem* const entry = find_Relations(before);
+    if (entry == nullptr || before == after) return;
+    _CLASSTORELATION.RemoveKey(before.ComputeHashKey(), entry);
+    if (auto* const present = find_Relations(after)) {
+        present->add_All(*entry);
+        delete entry;
+        return;
+    }
+    entry->SetClassUUID(after);
+    _CLASSTORELATION.InsertNew(after.ComputeHashKey(), entry);
+}
+
+void ZanDictionary::forget_Relations(const ZELDbBinary& classUuid) noexcept {
+    ZanDicClassToRelationElem* const entry = find_Relations(classUuid);
+    if (entry == nullptr) return;
+    _CLASSTORELATION.RemoveKey(classUuid.ComputeHashKey(), entry);
+    delete entry;
+}
+
+bool ZanDictionary::owns_Uuid(const ZanDicObj& object) const {
+    const ZanDicObj* const registered = find_Obj(object.Uuid());
+    return registered == nullptr || registered == &object;
+}
+
 HRESULT ZanDictionary::get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) {
     const ZanDicClassToRelationElem* const entry = find_Relations(classUuid);
     return entry != nullptr ? entry->GetRelationships(relationships) : S_OK;

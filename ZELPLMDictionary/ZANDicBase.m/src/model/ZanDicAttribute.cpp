@@ -224,6 +224,11 @@ HRESULT ZanDicAttribute::GetOrigin(OXMIDicClass** origin) const {
 
 HRESULT ZanDicAttribute::set_Type(ZanDicElement* type) {
     if (type == nullptr || is_Gone()) return E_FAIL;
+    if (_Noted && _TypeElement.Get() != type) {
+        _Noted = false;
+        ZanDicRegistry* const registry = ZanDicFindRegistry();
+        if (_TypeElement && registry != nullptr) registry->remove_Relation(_TypeElement->Uuid(), *this);
+    }
     _TypeElement = type;
     return S_OK;
 }
@@ -250,7 +255,10 @@ HRESULT ZanDicAttribute::SetTarget(const OXMIDicClass* target) {
     auto* const targetClass = LiveImplementationOf<ZanDicClass>(target);
     if (const HRESULT rc = set_Type(targetClass); Failed(rc)) return rc;
     ZanDicRegistry* const registry = ZanDicGetRegistry();
-    if (_Injective != 0 && registry != nullptr) registry->AddClassToRelation(&targetClass->Uuid(), this);
+    if (_Injective != 0 && registry != nullptr && registry->owns_Uuid(*targetClass)) {
+        registry->AddClassToRelation(&targetClass->Uuid(), this);
+        _Noted = true;
+    }
     return S_OK;
 }
 

@@ -34,6 +34,7 @@ ZanDicClass::ZanDicClass(const ZELString& name, const ZELDbBinary& uuid)
 }
 
 ZanDicClass::~ZanDicClass() {
+    if (!is_Gone()) forget_Relations();
     std::vector<ZanDicObj*> owned;
     ZanDicClass::take_Owned(owned);
     DropTaken(owned);
@@ -79,6 +80,7 @@ void ZanDicClass::drop_Links() {
     _Reference.Reset();
     _invSuperClass.RemoveAll();
     _ALLATTRIBUTES.reset();
+    forget_Relations();
 }
 
 int ZanDicClass::count_LostLinks() const {

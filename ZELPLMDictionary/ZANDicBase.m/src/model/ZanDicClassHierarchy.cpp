@@ -193,10 +193,42 @@ HRESULT ZanDicClass::GetAllElements(ZELListPtrIUnknown* attributes) {
 HRESULT ZanDicClass::GetInjectivesPointingOnMe(ZELListPtrIUnknown& relationships) const {
     ZanDicRegistry* const registry = ZanDicGetRegistry();
     if (registry == nullptr) return E_FAIL;
+    const auto append = [&](const ZanDicClass& target) {
+        return registry->owns_Uuid(target) ? registry->get_Relations(target.Uuid(), relationships) : S_OK;
+    };
     for (const ZanDicClass* above = _SuperClass.Get(); above != nullptr; above = above->_SuperClass.Get()) {
-        if (const HRESULT rc = registry->get_Relations(above->Uuid(), relationships); Failed(rc)) return rc;
+        if (const HRESULT rc = append(*above); Failed(rc)) return rc;
     }
-    return registry->get_Relations(Uuid(), relationships);
+    return is_Gone() ? S_OK : append(*this);
+}
+
+/// The relationships that point here follow the class to its new UUID, unless either is another object's.
+template <class Change>
+HRESULT ZanDicClass::change_Uuid(const Change& change) {
+    ZanDicRegistry* const registry = is_Gone() ? nullptr : ZanDicGetRegistry();
+    const ZELDbBinary before = Uuid();
+    const bool owned = registry != nullptr && registry->owns_Uuid(*this);
+    const HRESULT rc = change();
+    if (!owned) return rc;
+    if (registry->owns_Uuid(*this)) {
+        registry->move_Relations(before, Uuid());
+    } else {
+        registry->forget_Relations(before);
+    }
+    return rc;
+}
+
+HRESULT ZanDicClass::SetUuid(const ZELDbBinary* uuid) {
+    return change_Uuid([&] { return ZanDicElement::SetUuid(uuid); });
+}
+
+HRESULT ZanDicClass::GenUuid() {
+    return change_Uuid([&] { return ZanDicElement::GenUuid(); });
+}
+
+void ZanDicClass::forget_Relations() noexcept {
+    ZanDicRegistry* const registry = ZanDicFindRegistry();
+    if (registry != nullptr && registry->owns_Uuid(*this)) registry->forget_Relations(Uuid());
 }
 
 HRESULT ZanDicClass::SetExtensible(unsigned char extensible) {

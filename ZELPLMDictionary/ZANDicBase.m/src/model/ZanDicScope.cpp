@@ -55,7 +55,8 @@ void ZanDicScope::Expand(ZanDicClass& root) {
         }
     }
     for (std::size_t next = 1; next < found.size(); ++next) {
-        ZanDicWriteError("name" + std::string(found[next]->Name().View()), ZELLineSeverity::None);
-        ZanDicWriteError("Uuid du sous-type:" + UuidText(found[next]->Uuid()), ZELLineSeverity::None);
+        ZanDicWriteError(std::string("name").append(found[next]->Name().View()), ZELLineSeverity::None);
+        ZanDicWriteError(std::string("Uuid du sous-type:").append(UuidText(found[next]->Uuid())),
+                         ZELLineSeverity::None);
     }
 }
