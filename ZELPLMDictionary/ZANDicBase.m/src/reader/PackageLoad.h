@@ -180,7 +180,7 @@ private:
     std::size_t _Low;
     std::size_t _FirstMember;
     std::size_t _Step = 0;
-    bool _IsEnded = false;          ///< no further step is run
+    bool _IsEnded = false;  ///< no further step is run
     bool _IsOver = false;
     bool _IsMet = false;            ///< the package turned out to be in progress
     bool _IsRunning = false;        ///< its phase is open
