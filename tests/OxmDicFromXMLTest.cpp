@@ -353,24 +353,41 @@ TEST_F(OxmDicFromXMLTest, TheFirstPrerequisiteThatFailsEndsTheLoad) {
     EXPECT_FALSE(IsLoaded("C"));
 }
 
-TEST_F(OxmDicFromXMLTest, APrerequisiteOfAnotherNameIsNotRecovered) {
+TEST_F(OxmDicFromXMLTest, APrerequisiteIsFoundByTheNameAskedForToo) {
     Directory().MakeFile("A.metadata", "<Package" + Id("Other", 9) + "/>");
 
-    EXPECT_EQ(LoadBody("", "UseNames=\"A\""), E_FAIL);
+    EXPECT_EQ(LoadBody("", "UseNames=\"A\" UseScopes=\"A\""), S_OK);
 
-    EXPECT_THAT(Written(),
-                HasSubstr("OxmDicFromXML:OxmDicFromXML-*** ERROR *** Could not recover A Package to "
-                          "complete UseNames attribute process.\n"));
+    HeldList used;
+    HeldList scopes;
+    Package()->GetUsedPackages(&used);
+    Package()->GetScopePackages(&scopes);
+    EXPECT_EQ(used.Size(), 1);
+    EXPECT_EQ(scopes.Size(), 1);
+    EXPECT_FALSE(IsLoaded("A"));
 }
 
-TEST_F(OxmDicFromXMLTest, AScopePackageOfAnotherNameIsNotRecovered) {
+TEST_F(OxmDicFromXMLTest, APackageIsNotReadAgainUnderTheNameAskedFor) {
     Directory().MakeFile("A.metadata", "<Package" + Id("Other", 9) + "/>");
+    ASSERT_EQ(Read("A"), S_OK);
+    ClearWritten();
 
-    EXPECT_EQ(LoadBody("", "UseScopes=\"A\""), E_FAIL);
+    EXPECT_EQ(Read("A"), S_OK);
 
-    EXPECT_THAT(Written(),
-                HasSubstr("-*** ERROR *** Could not recover A Package to complete UseScopes attribute "
-                          "process.\n"));
+    EXPECT_EQ(Written(), "");
+}
+
+TEST_F(OxmDicFromXMLTest, TheNameAskedForIsForgottenWithThePackage) {
+    Directory().MakeFile("A.metadata", "<Package" + Id("Other", 9) + "/>");
+    ASSERT_EQ(Read("A"), S_OK);
+    const ZELString name("Other");
+    ASSERT_EQ(Manager().RemovePackage(&name), S_OK);
+    Directory().MakeFile("A.metadata", "<Package" + Id("A", 8) + "/>");
+
+    EXPECT_EQ(Read("A"), S_OK);
+
+    EXPECT_TRUE(IsLoaded("A"));
+    EXPECT_FALSE(IsLoaded("Other"));
 }
 
 TEST_F(OxmDicFromXMLTest, ScopePackagesAreLoadedBetweenTheFirstPassAndTheSecond) {
@@ -408,15 +425,6 @@ TEST_F(OxmDicFromXMLTest, AChainOf5000PackagesFailsWithItsLast) {
 
     EXPECT_FALSE(IsLoaded("P4999"));
     EXPECT_EQ(Lines().size(), 1U);
-}
-
-TEST_F(OxmDicFromXMLTest, ADocumentThatIsItsOwnPrerequisiteUnderAnotherNameEnds) {
-    Directory().MakeFile("Asked.metadata", "<Package" + Id("Own", 9) + " UseNames=\"Other\"/>");
-    Directory().MakeFile("Other.metadata", "<Package" + Id("Third", 8) + " UseNames=\"Asked\"/>");
-
-    EXPECT_EQ(Load("Asked"), E_FAIL);
-
-    EXPECT_THAT(Written(), HasSubstr("-*** ERROR *** Package Asked is used by a Package that it uses"));
 }
 
 // Children of the package.

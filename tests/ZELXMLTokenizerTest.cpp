@@ -45,7 +45,8 @@ public:
         const std::string_view text = document_.text;
         std::copy(text.begin(), text.end(), memory_.get());
         const bool isUtf8 = document_.source.encoding == ZELXMLEncoding::Utf8;
-        ZELXMLPositions positions({memory_.get(), text.size()}, isUtf8 ? ZELXMLTokenizer::MarkLength(text) : 0);
+        ZELXMLPositions positions({memory_.get(), text.size()},
+                                  isUtf8 ? ZELXMLTokenizer::MarkLength(text) : 0);
         if (!document_.isValid) {
             fault = ZELXMLFault::BrokenUtf16;
             reason = kZELXMLReasons[static_cast<std::size_t>(fault)];

@@ -1,5 +1,6 @@
 // What an object says of the links that were set and are gone, and what its getters answer then.
 #include "KindsFixture.h"
+#include "OXMIDicAttributeBlock.h"
 #include "ZanDicObj.h"
 
 namespace {
@@ -51,6 +52,24 @@ TEST_F(ZanDicLostLinksTest, AFlushOfTheSuperClassAloneCountsAsLoss) {
     Held<OXMIDicClass> found;
     EXPECT_EQ(part->GetSuperClass(found.Out()), S_FALSE);
     EXPECT_EQ(LostLinks(*part), 1);
+}
+
+TEST_F(ZanDicLostLinksTest, ABlockLosesClassFatherRootAndAttributes) {
+    const ZELDbBinary uuid = NextUuid();
+    const ZELDbBinary fatherUuid = NextUuid();
+    Held<OXMIDicAttributeBlock> block;
+    Held<OXMIDicAttributeBlock> father;
+    ASSERT_EQ(items->CreateAttributeBlock(&uuid, block.Out()), S_OK);
+    ASSERT_EQ(people->CreateAttributeBlock(&fatherUuid, father.Out()), S_OK);
+    ASSERT_EQ(block->SetClass(person.Get()), S_OK);
+    ASSERT_EQ(block->SetFather(father.Get()), S_OK);
+    ASSERT_EQ(block->SetRoot(father.Get()), S_OK);
+    ASSERT_EQ(block->AddAttribute(Relationship(*person, "Employer").Get()), S_OK);
+    EXPECT_EQ(LostLinks(*block), 0);
+
+    RemovePackage("People");
+
+    EXPECT_EQ(LostLinks(*block), 4);
 }
 
 TEST_F(ZanDicLostLinksTest, ASubClassThatGoesIsNoLossOfItsSuperClass) {

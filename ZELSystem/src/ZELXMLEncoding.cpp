@@ -29,9 +29,9 @@ struct EncodingName {
     ZELXMLEncoding encoding;
 };
 constexpr EncodingName kNames[] = {
-    {"utf-8", Utf8},        {"us-ascii", Utf8},      {"utf-16", Utf16Little}, {"utf-16", Utf16Big},
-    {"utf-16le", Utf16Little}, {"utf-16be", Utf16Big}, {"iso-8859-1", Latin1}, {"iso_8859-1", Latin1},
-    {"latin1", Latin1},     {"l1", Latin1},
+    {"utf-8", Utf8},           {"us-ascii", Utf8},     {"utf-16", Utf16Little}, {"utf-16", Utf16Big},
+    {"utf-16le", Utf16Little}, {"utf-16be", Utf16Big}, {"iso-8859-1", Latin1},  {"iso_8859-1", Latin1},
+    {"latin1", Latin1},        {"l1", Latin1},
 };
 
 bool EqualsIgnoringCase(std::string_view text, std::string_view lower) {
@@ -48,7 +48,9 @@ std::string_view DeclaredEncoding(std::string_view text) {
     const std::size_t word = text.find("encoding"sv);
     if (word == std::string_view::npos) return {};
     text.remove_prefix(word + "encoding"sv.size());
-    const auto skipBlanks = [&] { text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size())); };
+    const auto skipBlanks = [&] {
+        text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    };
     skipBlanks();
     if (!text.starts_with('=')) return {};
     text.remove_prefix(1);

@@ -22,7 +22,7 @@ struct EncodingMark {
 };
 constexpr EncodingMark kOtherEncodingMarks[] = {
     {"\xFF\xFE\0\0"sv, "UTF-32"}, {"\0\0\xFE\xFF"sv, "UTF-32"}, {"<\0\0\0"sv, "UTF-32"},
-    {"\0\0\0<"sv, "UTF-32"},      {"<\0"sv, kUnmarked},      {"\0<"sv, kUnmarked},
+    {"\0\0\0<"sv, "UTF-32"},      {"<\0"sv, kUnmarked},         {"\0<"sv, kUnmarked},
 };
 
 constexpr ZELXMLEncoding kReadEncodings[] = {ZELXMLEncoding::Utf8, ZELXMLEncoding::Utf16Little,
@@ -88,8 +88,7 @@ const char* ZELXMLTokenizer::ReadDeclaration(const char* p) {
         {"encoding", false, ZELXMLFault::DeclarationMalformed, IsEncodingName},
         {"standalone", false, ZELXMLFault::DeclarationMalformed, IsYesOrNo},
     };
-    const bool isThere =
-        ZELXMLStartsWith(p, "<?xml") && !ZELXMLIs(p[5], kZELXMLName) && ZELXMLIsAscii(p[5]);
+    const bool isThere = ZELXMLStartsWith(p, "<?xml") && !ZELXMLIs(p[5], kZELXMLName) && ZELXMLIsAscii(p[5]);
     if (!isThere) return source_.mustBeDeclared ? Fail(ZELXMLFault::OtherEncodingMark, p, kUnmarked) : p;
     bool isDeclared = false;
     p += 5;
@@ -128,8 +127,9 @@ const char* ZELXMLTokenizer::ReadDeclarationValue(const char* p, std::string_vie
 const char* ZELXMLTokenizer::TakeEncoding(const char* p, std::string_view name) {
     asciiOnly_ = EqualsIgnoringCase(name, "us-ascii");
     if (ZELXMLMayDeclare(source_.encoding, name)) return p;
-    const bool isRead = std::any_of(std::begin(kReadEncodings), std::end(kReadEncodings),
-                                    [name](ZELXMLEncoding encoding) { return ZELXMLMayDeclare(encoding, name); });
+    const bool isRead =
+        std::any_of(std::begin(kReadEncodings), std::end(kReadEncodings),
+                    [name](ZELXMLEncoding encoding) { return ZELXMLMayDeclare(encoding, name); });
     return Fail(isRead ? ZELXMLFault::EncodingNotAsDeclared : ZELXMLFault::OtherEncodingDeclared, p, name);
 }
 

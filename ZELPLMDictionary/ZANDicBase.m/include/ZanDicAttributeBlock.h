@@ -80,6 +80,8 @@ public:
     /// Marks the block as described. \returns false when it is already, or has a name or attributes.
     bool begin_Description();
 
+    int count_LostLinks() const override;
+
 protected:
     void drop_Links() override;
 

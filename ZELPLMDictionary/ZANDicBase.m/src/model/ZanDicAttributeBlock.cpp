@@ -240,6 +240,13 @@ bool ZanDicAttributeBlock::begin_Description() {
     return isFirst;
 }
 
+int ZanDicAttributeBlock::count_LostLinks() const {
+    // Inherited attributes are the links of the block that they come from.
+    return ZanDicObj::count_LostLinks() + static_cast<int>(_Class.IsLost()) +
+           static_cast<int>(_Father.IsLost()) + static_cast<int>(_Root.IsLost()) +
+           (_ATTRIBUTES != nullptr ? _ATTRIBUTES->own.LostCount() : 0);
+}
+
 void ZanDicAttributeBlock::drop_Links() {
     ZanDicObj::drop_Links();
     _Class.Reset();

@@ -35,7 +35,8 @@ inline constexpr OXMDicTYPE kClassTypes[] = {OXMDicTYPE_Class, OXMDicTYPE_Extens
 inline constexpr OXMDicTYPE kEnumTypes[] = {OXMDicTYPE_Enum};
 inline constexpr OXMDicTYPE kCategoryTypes[] = {OXMDicTYPE_Category};
 inline constexpr OXMDicTYPE kCommandTypes[] = {OXMDicTYPE_Command};
-inline constexpr OXMDicTYPE kAttributeTypes[] = {OXMDicTYPE_Simple, OXMDicTYPE_Relationship, OXMDicTYPE_Inverse};
+inline constexpr OXMDicTYPE kAttributeTypes[] = {OXMDicTYPE_Simple, OXMDicTYPE_Relationship,
+                                                 OXMDicTYPE_Inverse};
 inline constexpr OXMDicTYPE kRelationshipTypes[] = {OXMDicTYPE_Relationship};
 inline constexpr OXMDicTYPE kInterfaceTypes[] = {OXMDicTYPE_Interface};
 inline constexpr OXMDicTYPE kRBOClassTypes[] = {OXMDicTYPE_RBOClass};

@@ -22,9 +22,8 @@ void WarnOfRepeat(const Given& given, bool isReference) {
     Fault fault = FaultOf(given.reading, ZanDicDiagnosticCode::RepeatedAttribute, given.node);
     fault.severity = ZanDicSeverity::Warning;
     fault.attribute = given.attribute;
-    fault.lines.push_back(
-        {given.trace, isReference ? Joined({name, text::kReferencedTwice})
-                                  : Joined({text::kRepeated, name, text::kOverriding})});
+    fault.lines.push_back({given.trace, isReference ? Joined({name, text::kReferencedTwice})
+                                                    : Joined({text::kRepeated, name, text::kOverriding})});
     given.reading.faults.Report(fault);
 }
 

@@ -181,8 +181,8 @@ HRESULT FillAttributes(Reading& reading, const ZanDicTraceScope& trace, const ZE
             FillUnknown(element, given, texts.unknown);
             continue;
         }
-        const bool isIdentity = attribute.Name() == ZANDicFormat::word::kName ||
-                                attribute.Name() == ZANDicFormat::word::kUuid;
+        const bool isIdentity =
+            attribute.Name() == ZANDicFormat::word::kName || attribute.Name() == ZANDicFormat::word::kUuid;
         if (texts.tellsRepeats && !isIdentity && std::exchange(isGiven[kIndex<Words>.IndexOf(*row)], true)) {
             WarnOfRepeat(given, row->isReference);
         }

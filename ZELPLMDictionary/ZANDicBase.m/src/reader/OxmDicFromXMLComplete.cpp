@@ -79,10 +79,10 @@ HRESULT CompleteRelationship(const MemberSpot& spot) {
     FaultReport& faults = spot.reading.faults;
     HRESULT result = S_OK;
     if (faults.GoesOn(CompleteTarget(spot.At(trace, slot::kTarget), member), result) &&
-        faults.GoesOn(CompleteEach<OXMIDicElement>(
-                          spot.At(trace, slot::kScopes), kAnyKind, "AddScope",
-                          [&](OXMIDicElement* target) { return member.AddScope(target); }),
-                      result)) {
+        faults.GoesOn(
+            CompleteEach<OXMIDicElement>(spot.At(trace, slot::kScopes), kAnyKind, "AddScope",
+                                         [&](OXMIDicElement* target) { return member.AddScope(target); }),
+            result)) {
         faults.GoesOn(CompleteCategories(spot.At(trace, slot::kCategories)), result);
     }
     return result;
@@ -253,8 +253,8 @@ HRESULT CompleteExtension(Reading& reading, const ElementNote& note) {
     HRESULT result = S_OK;
     if (reading.faults.GoesOn(CompleteClassPart(reading, trace, node, note), result)) {
         const ZELVBTXMLAttribute scopes = note.references.At(slot::kExtended, reading.document);
-        reading.faults.GoesOn(
-            CompleteScopes({{reading, trace, node, &element, scopes}, element, 0, false}), result);
+        reading.faults.GoesOn(CompleteScopes({{reading, trace, node, &element, scopes}, element, 0, false}),
+                              result);
     }
     return trace.Exit(result);
 }
@@ -270,7 +270,6 @@ HRESULT CompletePutOffScopes(Reading& reading, const PutOffScopes& scopes) {
 
 HRESULT CompletePackage(Reading& reading, const ZELVBTXMLNode& node) {
     const ZanDicTraceScope trace(text::kDriver, "RC=");
-    return CompleteCommands(
-        {reading, trace, node, nullptr, node.getAttribute(word::kCommandRefs)},
-        [&](OXMIDicCommand* command) { return reading.package->AddCommand(command); });
+    return CompleteCommands({reading, trace, node, nullptr, node.getAttribute(word::kCommandRefs)},
+                            [&](OXMIDicCommand* command) { return reading.package->AddCommand(command); });
 }

@@ -89,8 +89,7 @@ HRESULT CompleteInterface(Reading& reading, const ElementNote& note) {
     for (const ZELVBTXMLNode child : node.Children()) {
         if (NameOf(child).empty() || !child.getAttribute(word::kUuid)) continue;
         if (child.getTag() != tag::kMethod) {
-            trace.Error(Joined(
-                {text::kUnknownTag, child.getTag(), "[", NameOf(child), text::kSkippingTag}));
+            trace.Error(Joined({text::kUnknownTag, child.getTag(), "[", NameOf(child), text::kSkippingTag}));
             continue;
         }
         if (!reading.faults.GoesOn(CompleteMethod(reading, trace, child, element), result)) break;

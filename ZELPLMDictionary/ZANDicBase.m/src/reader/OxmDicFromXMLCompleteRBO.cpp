@@ -118,7 +118,8 @@ private:
         const bool isFound = Succeeded(_Reading.manager.Search(&uuid, found.Out()));
         if (auto line = trace.Error()) {
             if (isFound) {
-                line << text::kCouldNotGet << RowOf(note.type).tagName << text::kNotOfThatKind << E_NOINTERFACE;
+                line << text::kCouldNotGet << RowOf(note.type).tagName << text::kNotOfThatKind
+                     << E_NOINTERFACE;
             } else {
                 line << text::kNoObjectOfUuid << E_FAIL;
             }

@@ -120,8 +120,7 @@ struct ElementRow {
 constexpr ElementRow kElementRows[] = {
     {tag::kClass, ReadClass<OXMIDicClass, &OXMIDicPackage::CreateClass, OXMDicTYPE_Class, 0>},
     {tag::kInstance, ReadClass<OXMIDicClass, &OXMIDicPackage::CreateClass, OXMDicTYPE_Class, 1>},
-    {tag::kExtension,
-     ReadClass<OXMIDicExtension, &OXMIDicPackage::CreateExtension, OXMDicTYPE_Extension, 0>},
+    {tag::kExtension, ReadClass<OXMIDicExtension, &OXMIDicPackage::CreateExtension, OXMDicTYPE_Extension, 0>},
     {tag::kInterface,
      ReadNoted<OXMIDicInterface, &OXMIDicPackage::CreateInterface, OXMDicTYPE_Interface, FillInterface>},
     {tag::kEnum, ReadPlain<OXMIDicEnum, &OXMIDicPackage::CreateEnum, FillEnum>},

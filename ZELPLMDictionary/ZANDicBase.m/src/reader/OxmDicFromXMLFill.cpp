@@ -28,7 +28,8 @@ HRESULT SimpleType(OXMIDicSimple& element, const Given& given) {
 }
 
 HRESULT RelationType(OXMIDicRelationship& element, const Given& given) {
-    return SetPrimitiveType(given.reading, element, CodeOf(kRelationTypeWords, given.Value(), kOtherRelationType));
+    return SetPrimitiveType(given.reading, element,
+                            CodeOf(kRelationTypeWords, given.Value(), kOtherRelationType));
 }
 
 HRESULT RelationTarget(OXMIDicRelationship& element, const Given& given) {

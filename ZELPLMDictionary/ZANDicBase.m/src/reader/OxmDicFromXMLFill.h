@@ -17,7 +17,8 @@ class ZELVBTXMLNode;
 struct ElementNote;
 struct Reading;
 
-/// Attributes, uniques and flags of a class, instance class or extension; notes its references and its members'.
+/// Attributes, uniques and flags of a class, instance class or extension; notes its references and its
+/// members'.
 HRESULT FillClass(Reading& reading, const ZELVBTXMLNode& node, OXMIDicClass& element, ElementNote& note);
 
 HRESULT FillEnum(Reading& reading, const ZELVBTXMLNode& node, OXMIDicEnum& element);

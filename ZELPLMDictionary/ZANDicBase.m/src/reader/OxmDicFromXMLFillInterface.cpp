@@ -50,7 +50,8 @@ constexpr AttributeWord<OXMIDicParameter> kParameterWords[] = {
 HRESULT CheckMemberIdentity(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node) {
     HRESULT result = S_OK;
     for (const std::string_view attribute : {word::kName, word::kUuid}) {
-        if (attribute == word::kName ? !NameOf(node).empty() : static_cast<bool>(node.getAttribute(attribute)))
+        if (attribute == word::kName ? !NameOf(node).empty()
+                                     : static_cast<bool>(node.getAttribute(attribute)))
             continue;
         Fault fault = FaultOf(reading, ZanDicDiagnosticCode::MissingAttribute, node);
         fault.attributeName = attribute;
@@ -128,16 +129,15 @@ HRESULT FillInterface(Reading& reading, const ZELVBTXMLNode& node, OXMIDicInterf
     if (!reading.faults.GoesOn(rc, result)) return trace.Exit(result);
 
     reading.owner = NameOf(node);
-    reading.faults.GoesOn(
-        FillMembers(reading, trace, node, tag::kMethod,
-                    [&](const ZELVBTXMLNode& child) {
-                        ZanDicRef<OXMIDicMethod> method;
-                        const HRESULT made =
-                            CreateMember(reading, trace, child, element, &OXMIDicInterface::CreateMethod,
-                                         &OXMIDicInterface::GetClassMethod, method);
-                        return Failed(made) ? made : FillMethod(reading, child, *method);
-                    }),
-        result);
+    reading.faults.GoesOn(FillMembers(reading, trace, node, tag::kMethod,
+                                      [&](const ZELVBTXMLNode& child) {
+                                          ZanDicRef<OXMIDicMethod> method;
+                                          const HRESULT made = CreateMember(
+                                              reading, trace, child, element, &OXMIDicInterface::CreateMethod,
+                                              &OXMIDicInterface::GetClassMethod, method);
+                                          return Failed(made) ? made : FillMethod(reading, child, *method);
+                                      }),
+                          result);
     reading.owner = {};
     return trace.Exit(result);
 }

@@ -13,8 +13,8 @@ using namespace fill;
 
 namespace {
 
-constexpr LoopTexts kRBOLoop{text::kProcessingAttributeOf, text::kUnknownPackageAttribute, text::kRefusedValue,
-                             true};
+constexpr LoopTexts kRBOLoop{text::kProcessingAttributeOf, text::kUnknownPackageAttribute,
+                             text::kRefusedValue, true};
 constexpr LoopTexts kRBOClassLoop{text::kProcessingAttributeOf, text::kUnknownPackageAttribute};
 
 // The words of each kind.

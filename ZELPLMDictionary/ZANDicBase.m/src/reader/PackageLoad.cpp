@@ -441,7 +441,6 @@ void PackageLoad::Fail() {
 
 void PackageLoad::Finish() {
     Resume();
-    end_Tuning();
     _Document.reset();
     if (IsCreated()) kTrace.Say(TraceLevel::Information, text::kReleasing);
     _Reading.reset();
@@ -472,7 +471,6 @@ void PackageLoad::remove_Package() {
 }
 
 void PackageLoad::ReadTuning() {
-    _Run.faults.Enter(_Place);
     Resume();
     const ZanDicTrace::DocumentScope document;
     if (auto line = kTrace.Line(TraceLevel::Information)) line << text::kCallingTuning << _Name << ")...";
@@ -480,20 +478,12 @@ void PackageLoad::ReadTuning() {
     _Tuning->Read();
 }
 
-void PackageLoad::ComputeTunings(std::span<PackageLoad* const> loads) {
-    const ZanDicTrace::DocumentScope document;
-    std::vector<TuningReading*> tunings;
-    for (const PackageLoad* const load : loads) tunings.push_back(load->_Tuning.get());
-    TuningReading::Compute(tunings);
-}
-
 /// The package stays loaded, whatever is wrong with its tuning.
-void PackageLoad::end_Tuning() {
-    if (_Tuning == nullptr) return;
+void PackageLoad::EndTuning() {
+    _Run.faults.Enter(_Place);
     const ZanDicTrace::DocumentScope document;
-    const HRESULT rc = _Tuning->Result();
-    const std::string file = _Tuning->File();
-    _Tuning.reset();
+    const std::unique_ptr<TuningReading> tuning = std::move(_Tuning);
+    const HRESULT rc = tuning->Result();
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kTuningResult << _Name << ")]=" << ZanDicTraceScope::Word(rc);
     }
@@ -501,10 +491,9 @@ void PackageLoad::end_Tuning() {
     Fault fault{TuningFailed};
     fault.severity = ZanDicSeverity::Warning;
     fault.element = _Name.View();
-    fault.file = file;
+    fault.file = tuning->File();
     fault.detail = "the tuning document is at fault; the package is loaded without its attribute blocks";
     fault.lines.push_back({kTrace, Joined({text::kTuningWarning, _Name.View(), ")", text::kFailed})});
-    _Run.faults.Enter(_Place);
     _Run.faults.Report(fault);
 }
 

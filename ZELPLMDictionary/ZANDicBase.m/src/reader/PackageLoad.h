@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -105,10 +104,11 @@ public:
     void Pause();
     void Resume();
 
-    /// The end of a load that succeeded: its tuning document is read, the blocks of all members of a ring
-    /// are computed together, then comes the rest.
+    /// The end of a load that succeeded: the tuning document, whose blocks somebody else computes before
+    /// EndTuning tells how that went, then the rest.
     void ReadTuning();
-    static void ComputeTunings(std::span<PackageLoad* const> loads);
+    TuningReading* Tuning() const { return _Tuning.get(); }
+    void EndTuning();
     void Finish();
     /// The end of one that did not: takes the package out.
     void Fail();
@@ -148,7 +148,6 @@ private:
     StepResult need_Package(std::string_view attributeName, const ZELString& name);
     bool add_Package(std::string_view attributeName, const ZELString& name, bool isScope);
     void remove_Package();
-    void end_Tuning();
     ZanDicRef<OXMIDicPackage> loaded_Package(const ZELString& name) const;
     bool is_ThereAlready(const ZELString& name);
     void enter_Name(const ZELString& name);
@@ -172,7 +171,7 @@ private:
     std::unique_ptr<ZELVBTXMLDocument> _Document;
     ZELVBTXMLNode _Node;  ///< of the package
     std::unique_ptr<Reading> _Reading;
-    std::unique_ptr<TuningReading> _Tuning;  ///< null once its result is told
+    std::unique_ptr<TuningReading> _Tuning;  ///< between ReadTuning and EndTuning
     std::vector<ZELString> _NAMES;      ///< packages that the current step needs
     std::vector<std::string> _ENTERED;  ///< names of this load that are in progress
     std::vector<ZELString> _FAILED;     ///< needed packages that could not be loaded
@@ -181,7 +180,7 @@ private:
     std::size_t _Low;
     std::size_t _FirstMember;
     std::size_t _Step = 0;
-    bool _IsEnded = false;          ///< no further step is run
+    bool _IsEnded = false;  ///< no further step is run
     bool _IsOver = false;
     bool _IsMet = false;            ///< the package turned out to be in progress
     bool _IsRunning = false;        ///< its phase is open

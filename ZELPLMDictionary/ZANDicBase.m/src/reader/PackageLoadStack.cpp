@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "TuningReading.h"
+
 HRESULT PackageLoadStack::Load(PackageRequest request) {
     push_Call(std::move(request));
     while (true) {
@@ -11,8 +13,11 @@ HRESULT PackageLoadStack::Load(PackageRequest request) {
         }
         const Call call = _CALLS.back();
         const bool isPutOff = is_PutOff(call);
-        if (!isPutOff) end_Call(call);
-        call.current->Pause();
+        if (isPutOff) {
+            call.current->Pause();
+        } else {
+            end_Call(call);
+        }
         _CALLS.pop_back();
         const HRESULT rc = call.load->Result();
         if (!_CALLS.empty()) _CALLS.back().current->Deliver(*call.load);
@@ -53,7 +58,7 @@ bool PackageLoadStack::choose_Member(Call& call) {
         std::size_t& next = call.next[static_cast<std::size_t>(phase)];
         while (next < _Run.created.size() && _Run.created[next]->HasReached(phase)) ++next;
         if (next == _Run.created.size()) continue;
-        call.current->Pause();
+        if (call.current != _Run.created[next]) call.current->Pause();
         call.current = _Run.created[next];
         call.phase = phase;
         return true;
@@ -68,8 +73,9 @@ bool PackageLoadStack::is_PutOff(const Call& call) const {
 }
 
 void PackageLoadStack::end_Call(const Call& call) {
-    call.current->Pause();
     const std::size_t firstMember = call.load->FirstMember();
+    const bool isAlone = _Run.created.size() == firstMember + (call.load->IsCreated() ? 1 : 0);
+    if (!isAlone) call.current->Pause();
     bool isFailed = Failed(call.load->Result());
     for (std::size_t index = firstMember; index < _Run.created.size(); ++index) {
         isFailed = isFailed || Failed(_Run.created[index]->Result());
@@ -81,15 +87,22 @@ void PackageLoadStack::end_Call(const Call& call) {
     }
 }
 
-/// The tuning documents of all members are read before the blocks are computed, for all at once.
+/// The tuning documents of all members are read, and their blocks computed together, before the first of
+/// them is done.
 void PackageLoadStack::finish_Ring(const PackageLoad& load, std::size_t firstMember) {
     const std::vector<PackageLoad*> members(_Run.created.begin() + static_cast<std::ptrdiff_t>(firstMember),
                                             _Run.created.end());
+    std::vector<TuningReading*> tunings;
     for (PackageLoad* const member : members) {
         member->ReadTuning();
+        if (member->Tuning()->Result() == S_OK) tunings.push_back(member->Tuning());
         if (members.size() > 1) member->Pause();
     }
-    PackageLoad::ComputeTunings(members);
+    if (!tunings.empty()) {
+        const ZanDicTrace::DocumentScope document;
+        TuningReading::Compute(tunings);
+    }
+    for (PackageLoad* const member : members) member->EndTuning();
     _Run.created.resize(firstMember);
     for (PackageLoad* const member : members) member->Finish();
     if (!load.IsOver()) _LOADS[load.Order()]->Finish();

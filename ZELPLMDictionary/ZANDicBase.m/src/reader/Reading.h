@@ -94,9 +94,9 @@ struct MemberNote {
 struct RBONote {
     OXMDicTYPE type;
     std::uint32_t node;
-    std::size_t end = 0;                     ///< place of the first note that is not inside
-    ZanDicRef<OXMIDicElement> object = {};   ///< as the interface of its type; null when it was not made
-    ZELVBTXMLAttribute reference = {};       ///< the one reference that it may have
+    std::size_t end = 0;                    ///< place of the first note that is not inside
+    ZanDicRef<OXMIDicElement> object = {};  ///< as the interface of its type; null when it was not made
+    ZELVBTXMLAttribute reference = {};      ///< the one reference that it may have
 };
 
 /// A child of the package that later passes meet again.
@@ -149,12 +149,12 @@ struct Reading {
     ZanDicRef<OXMIDicPackage> package;  ///< the one that this load made; null before
     std::string_view owner;             ///< name of the element whose members are being read
     TextCache texts;
-    ReferenceNotes references;      ///< of the tag that is being filled
-    ZELVBTXMLAttribute persistent;  ///< of the class that is being filled
+    ReferenceNotes references;           ///< of the tag that is being filled
+    ZELVBTXMLAttribute persistent;       ///< of the class that is being filled
     ZELVBTXMLAttribute storedReference;  ///< of the RBO object that is being filled
     std::vector<ElementNote> elements;
     std::vector<MemberNote> members;
-    std::vector<RBONote> objects;       ///< of all mappings
+    std::vector<RBONote> objects;      ///< of all mappings
     std::vector<PutOffScopes> putOff;  ///< in the order of the document
 
 private:
@@ -164,8 +164,8 @@ private:
 /// \returns the value of the first `Name`; empty when there is none.
 std::string_view NameOf(const ZELVBTXMLNode& node);
 
-/// Sets the type of an attribute or parameter to a primitive. \returns the setter's result; E_FAIL when there is
-/// no such primitive.
+/// Sets the type of an attribute or parameter to a primitive. \returns the setter's result; E_FAIL when there
+/// is no such primitive.
 template <class Element>
 HRESULT SetPrimitiveType(Reading& reading, Element& element, int kind) {
     OXMIDicPrimitive* const primitive = reading.Primitive(kind);
