@@ -38,11 +38,9 @@ protected:
     }
 };
 
-constexpr const char* kTwoOfOneRoot =
+constexpr const char* kLook =
     R"(<AttributeBlock Name="Look" Uuid="00000000-0000-0000-00000000000000B1"
-          AttributeUuids="00000000-0000-0000-0000000000000004"/>
-       <AttributeBlockExtension Name="More" Uuid="00000000-0000-0000-00000000000000B2"
-          AttributeUuids="00000000-0000-0000-0000000000000003" Extents="00000000-0000-0000-00000000000000B1"/>)";
+          AttributeUuids="00000000-0000-0000-0000000000000004"/>)";
 
 TEST_F(ToolBlocksTest, AClass) { ExpectSheet("BomItems::BomPart", "blocks-class.txt"); }
 
@@ -71,30 +69,46 @@ TEST_F(ToolBlocksTest, AClassWithoutBlocksHasItsDefaultBlock) {
               "  Attributes          Parts::Part::Color, Parts::Part::Mass\n");
 }
 
-TEST_F(ToolBlocksTest, AnOwnBlockThatAnotherHidesSaysSo) {
-    MakeParts(kTwoOfOneRoot);
+TEST_F(ToolBlocksTest, AnOwnBlockThatAnotherOfItsRootHidesSaysSo) {
+    MakeParts(kLook);
+    Own().MakeFile("Bolts.tuning",
+                   R"(<Package Name="Bolts" Uuid="00000000-0000-0000-0000000000000011">
+                        <Class Name="Bolt" Uuid="00000000-0000-0000-0000000000000012">
+                          <AttributeBlockExtension Name="First" Uuid="00000000-0000-0000-00000000000000B2" AttributeUuids=""
+                             Extents="00000000-0000-0000-00000000000000B1"/>
+                          <AttributeBlockExtension Name="Second" Uuid="00000000-0000-0000-00000000000000B3" AttributeUuids=""
+                             Extents="00000000-0000-0000-00000000000000B1"/>
+                        </Class></Package>)");
 
-    const ToolRun run = OnOwn({"blocks", "Parts::Part"});
+    const ToolRun run = OnOwn({"blocks", "Bolts::Bolt"});
 
-    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err,
+              "Tuning Error on Class Bolts::Bolt : duplicated attributes :\n"
+              "  [1]=Color\n"
+              "OxmDicFromXML:OxmDicFromXML- *** WARNING *** OxmDicFromXML_Tuning(Bolts) failed.\n");
     EXPECT_EQ(run.out,
-              "Class Parts::Part\n"
+              "Class Bolts::Bolt\n"
               "\n"
               "  Attribute blocks    2 own blocks, 1 visible\n"
               "\n"
-              "Own block Look\n"
-              "  UUID                00000000-0000-0000-00000000000000B1\n"
-              "  Hidden by           Part::More\n"
-              "  Attributes          Part::Color\n"
-              "\n"
-              "Own block More\n"
+              "Own block First\n"
               "  UUID                00000000-0000-0000-00000000000000B2\n"
-              "  Father              Part::Look\n"
-              "  Root                Part::Look\n"
-              "  Attributes          Part::Mass, Part::Color\n"
+              "  Hidden by           Bolt::Second\n"
+              "  Father              Parts::Part::Look\n"
+              "  Root                Parts::Part::Look\n"
+              "  Attributes          Parts::Part::Color\n"
+              "\n"
+              "Own block Second\n"
+              "  UUID                00000000-0000-0000-00000000000000B3\n"
+              "  Father              Parts::Part::Look\n"
+              "  Root                Parts::Part::Look\n"
+              "  Attributes          Parts::Part::Color\n"
               "\n"
               "Default block\n"
-              "  Attributes          none\n");
+              "  Father              default block of Parts::Part\n"
+              "  Root                default block of Parts::Part\n"
+              "  Attributes          Parts::Part::Mass\n");
 }
 
 TEST_F(ToolBlocksTest, APackageWithoutBlocksNamesItsClasses) {

@@ -106,6 +106,32 @@ TEST_F(ZanDicClassBlocksTest, OfEachRootOnlyTheMostDerivedIsVisible) {
     EXPECT_EQ(BlocksOf(*part), "Other Geometry ");
 }
 
+TEST_F(ZanDicClassBlocksTest, GetClassAttBlocksGivesTheOwnInOrderHiddenOnesToo) {
+    const auto root = BlockOf(*items, *part, "Geometry");
+    const auto first = BlockOf(*items, *screw, "First", {}, root.Get());
+    const auto second = BlockOf(*items, *screw, "Second", {}, root.Get());
+    EXPECT_EQ(Compute(*items, {root.Get(), first.Get(), second.Get()}), S_OK);
+    DefaultOf(*screw);
+    HeldList own;
+
+    EXPECT_EQ(screw->GetClassAttBlocks(&own), S_OK);
+
+    EXPECT_EQ(NamesOf(own), "First Second ");
+    EXPECT_EQ(BlocksOf(*screw), "Second ");
+}
+
+TEST_F(ZanDicClassBlocksTest, GetClassAttBlocksLeavesOutWhatIsGone) {
+    const auto tools = Package("Tools");
+    const auto block = BlockOf(*tools, *part, "Geometry");
+    EXPECT_EQ(Compute(*tools, {block.Get()}), S_OK);
+    RemovePackage("Tools");
+    HeldList own;
+
+    EXPECT_EQ(part->GetClassAttBlocks(&own), S_OK);
+
+    EXPECT_EQ(own.Size(), 0);
+}
+
 TEST_F(ZanDicClassBlocksTest, ABlockThatIsRegisteredLaterIsSeenBelowAsWell) {
     const auto first = BlockOf(*items, *part, "First");
     EXPECT_EQ(Compute(*items, {first.Get()}), S_OK);
@@ -180,6 +206,9 @@ TEST_F(ZanDicClassBlocksTest, AClassThatIsGoneHasNoBlocks) {
 
     RemovePackage("Tools");
 
+    HeldList own;
+    EXPECT_EQ(hammer->GetClassAttBlocks(&own), S_OK);
+    EXPECT_EQ(own.Size(), 0);
     EXPECT_EQ(BlocksOf(*hammer), "");
     EXPECT_EQ(Register(*hammer, *block), E_FAIL);
 }

@@ -511,6 +511,23 @@ TEST_F(ZanDictionaryTest, NotesInjectiveAttributesByTheUuidOfTheClass) {
     EXPECT_EQ(relationships.Size(), 0);
 }
 
+TEST_F(ZanDictionaryTest, HasRelationsWhileOneIsNoted) {
+    const auto package = MakePackage("Items", 1);
+    const auto part = MakeClass(*package, "Part", 2);
+    const ZELString name = "contains";
+    const ZELDbBinary uuid = TestUuid(3);
+    Held<OXMIDicRelationship> relationship;
+    ASSERT_EQ(part->CreateRelationship(&name, &uuid, relationship.Out()), S_OK);
+    relationship->SetInjective(1);
+    EXPECT_FALSE(dictionary->has_Relations());
+
+    relationship->SetTarget(part.Get());
+    EXPECT_TRUE(dictionary->has_Relations());
+
+    dictionary->forget_Relations(TestUuid(2));
+    EXPECT_FALSE(dictionary->has_Relations());
+}
+
 TEST_F(ZanDictionaryTest, AddClassToRelationRefusesNull) {
     const ZELDbBinary uuid = TestUuid(1);
 
