@@ -183,6 +183,15 @@ public:
     /// The class's own derivability, 1 when it inherits. \returns S_OK; S_FALSE when it inherits.
     virtual HRESULT GetClassKVADerivable(int* derivable) = 0;
 
+    /// Whether the class itself is extensible, 0 when that was not set here. \returns S_OK; S_FALSE when it
+    /// was not set here.
+    virtual HRESULT GetClassExtensible(unsigned char* extensible) = 0;
+
+    /// Appends the class's own blocks (`OXMIDicAttributeBlock`), in the order of registration; those that
+    /// another of the same root hides are among them, the default block is not.
+    /// \returns S_OK; E_FAIL for a null list.
+    virtual HRESULT GetClassAttBlocks(ZELListPtrIUnknown* blocks) = 0;
+
 protected:
     ~OXMIDicClass() = default;
 };

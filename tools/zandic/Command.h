@@ -27,6 +27,7 @@ std::span<const Command> Commands();
 // One source each: LoadCommand.cpp and so on. Each tries every NAME; what fails is told to the session.
 void RunLoad(Session& session, const Options& options, Output& output);
 void RunShow(Session& session, const Options& options, Output& output);
+void RunBlocks(Session& session, const Options& options, Output& output);
 void RunDump(Session& session, const Options& options, Output& output);
 
 }  // namespace tool

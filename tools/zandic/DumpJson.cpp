@@ -1,9 +1,9 @@
 #include "DumpJson.h"
 
-#include "JsonWriter.h"
-#include "Model.h"
+#include "DumpFields.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnumerator.h"
+#include "OXMIDicExtension.h"
 #include "OXMIDicInverse.h"
 #include "OXMIDicPrimitive.h"
 #include "OXMIDicRelationship.h"
@@ -12,91 +12,8 @@
 namespace tool {
 namespace {
 
+using namespace dump;
 namespace format = ZANDicFormat;
-
-/// One key of an object, and what writes its value.
-template <class Element>
-struct Field {
-    std::string_view key;
-    void (*write)(JsonWriter& json, Element& element);
-};
-
-template <class Element, std::size_t N>
-void WriteFields(JsonWriter& json, Element& element, const Field<Element> (&fields)[N]) {
-    for (const Field<Element>& field : fields) {
-        json.Key(field.key);
-        field.write(json, element);
-    }
-}
-
-/// A text, null where it is empty or unset.
-void WriteText(JsonWriter& json, std::string_view text) {
-    if (text.empty()) {
-        json.Null();
-    } else {
-        json.Text(text);
-    }
-}
-
-void WriteReference(JsonWriter& json, OXMIDicElementH& target) {
-    static std::string name;  // one text for all references of a dump, so that none allocates
-    name.clear();
-    AppendQualifiedName(target, name);
-    json.Text(name);
-}
-
-template <class Target>
-void WriteReferenceOrNull(JsonWriter& json, const zandic::Handle<Target>& target) {
-    if (target) {
-        WriteReference(json, *target);
-    } else {
-        json.Null();
-    }
-}
-
-template <class Target>
-void WriteReferences(JsonWriter& json, const zandic::List<Target>& targets) {
-    json.BeginArray();
-    for (Target& target : targets) WriteReference(json, target);
-    json.EndArray();
-}
-
-// What writes the value that a getter gives, to stand in the rows below.
-
-template <auto kGetter, class Element>
-void Text(JsonWriter& json, Element& element) {
-    const auto text = zandic::Get(element, kGetter);
-    WriteText(json, text ? text->View() : std::string_view());
-}
-
-template <auto kGetter, class Element>
-void Flag(JsonWriter& json, Element& element) {
-    json.Flag(zandic::Flag(element, kGetter));
-}
-
-template <auto kGetter, class Element>
-void Number(JsonWriter& json, Element& element) {
-    if (const auto number = zandic::Get(element, kGetter)) {
-        json.Number(*number);
-    } else {
-        json.Null();
-    }
-}
-
-template <auto kGetter, auto& kWords, class Element>
-void Word(JsonWriter& json, Element& element) {
-    WriteText(json, WordOf(element, kGetter, kWords));
-}
-
-template <auto kGetter, class Element>
-void Link(JsonWriter& json, Element& element) {
-    WriteReferenceOrNull(json, zandic::Link(element, kGetter));
-}
-
-template <auto kGetter, class Element>
-void Links(JsonWriter& json, Element& element) {
-    WriteReferences(json, zandic::All<OXMIDicElementH>(element, kGetter));
-}
 
 /// As \p kWrite where the attribute is multi-valued, else null.
 template <void (*kWrite)(JsonWriter&, OXMIDicAttribute&)>
@@ -106,23 +23,6 @@ void OfCollection(JsonWriter& json, OXMIDicAttribute& attribute) {
     } else {
         json.Null();
     }
-}
-
-void WriteKind(JsonWriter& json, OXMIDicElement& element) { WriteText(json, TagOf(element)); }
-
-void WriteName(JsonWriter& json, OXMIDicElementH& object) { WriteText(json, zandic::Name(object).View()); }
-
-void WriteUuid(JsonWriter& json, OXMIDicElementH& object) {
-    json.Text(zandic::UuidText(zandic::Uuid(object)).View());
-}
-
-void WriteFreeAttributes(JsonWriter& json, OXMIDicElementH& object) {
-    json.BeginObject();
-    for (const auto [name, value] : zandic::FreeAttributes(object)) {
-        json.AnyKey(name);
-        json.Text(value);
-    }
-    json.EndObject();
 }
 
 // members of a class
@@ -168,8 +68,8 @@ void WriteRelationPrimitive(JsonWriter& json, OXMIDicRelationship& relation) {
 
 constexpr Field<OXMIDicAttribute> kAttributeFields[] = {
     {"kind", [](JsonWriter& json, OXMIDicAttribute& attribute) { WriteKind(json, attribute); }},
-    {"name", [](JsonWriter& json, OXMIDicAttribute& attribute) { WriteName(json, attribute); }},
-    {"uuid", [](JsonWriter& json, OXMIDicAttribute& attribute) { WriteUuid(json, attribute); }},
+    {"name", Of<WriteName>},
+    {"uuid", Of<WriteUuid>},
     {"alias", Text<&OXMIDicAttribute::GetAlias>},
     {"expositionLevel", Text<&OXMIDicAttribute::GetExpositionLevel>},
     {"visibility", Word<&OXMIDicAttribute::GetVisibility, format::kVisibilityWords>},
@@ -184,7 +84,7 @@ constexpr Field<OXMIDicAttribute> kAttributeFields[] = {
     {"updateFacet", Word<&OXMIDicAttribute::GetUpdateFacet, format::kUpdateFacetWords>},
     {"default", Text<&OXMIDicAttribute::GetDefault>},
     {"categories", Links<&OXMIDicAttribute::GetCategories>},
-    {"other", [](JsonWriter& json, OXMIDicAttribute& attribute) { WriteFreeAttributes(json, attribute); }},
+    {"other", Of<WriteFreeAttributes>},
     {"specializes", Link<&OXMIDicAttribute::GetSpecializedAttribute>},
 };
 
@@ -233,37 +133,25 @@ void WriteAttribute(JsonWriter& json, OXMIDicAttribute& attribute) {
 }
 
 constexpr Field<OXMIDicUnique> kUniqueFields[] = {
-    {"name", [](JsonWriter& json, OXMIDicUnique& unique) { WriteName(json, unique); }},
-    {"uuid", [](JsonWriter& json, OXMIDicUnique& unique) { WriteUuid(json, unique); }},
+    {"name", Of<WriteName>},
+    {"uuid", Of<WriteUuid>},
     {"alias", Text<&OXMIDicUnique::GetAlias>},
     {"attributes", Links<&OXMIDicUnique::GetElements>},
-    {"other", [](JsonWriter& json, OXMIDicUnique& unique) { WriteFreeAttributes(json, unique); }},
+    {"other", Of<WriteFreeAttributes>},
 };
 
 constexpr Field<OXMIDicEnumerator> kEnumeratorFields[] = {
-    {"name", [](JsonWriter& json, OXMIDicEnumerator& enumerator) { WriteName(json, enumerator); }},
-    {"uuid", [](JsonWriter& json, OXMIDicEnumerator& enumerator) { WriteUuid(json, enumerator); }},
+    {"name", Of<WriteName>},
+    {"uuid", Of<WriteUuid>},
     {"alias", Text<&OXMIDicEnumerator::GetAlias>},
     {"value", Number<&OXMIDicEnumerator::GetValue>},
-    {"other", [](JsonWriter& json, OXMIDicEnumerator& enumerator) { WriteFreeAttributes(json, enumerator); }},
+    {"other", Of<WriteFreeAttributes>},
 };
-
-/// A list of members, each written as an object of \p kFields.
-template <auto kGetter, auto& kFields, class Member, class Element>
-void Members(JsonWriter& json, Element& element) {
-    json.BeginArray();
-    for (Member& member : zandic::All<Member>(element, kGetter)) {
-        json.BeginObject();
-        WriteFields(json, member, kFields);
-        json.EndObject();
-    }
-    json.EndArray();
-}
 
 // elements
 
 void WriteOwnExtensible(JsonWriter& json, OXMIDicClass& classElement) {
-    if (const auto own = zandic::Get(classElement, &OXMIDicClass::GetExtensible)) {
+    if (const auto own = zandic::Get(classElement, &OXMIDicClass::GetClassExtensible)) {
         json.Flag(*own == 1);
     } else {
         json.Null();
@@ -281,13 +169,13 @@ void WriteAttributes(JsonWriter& json, OXMIDicClass& classElement) {
 
 constexpr Field<OXMIDicElement> kElementFields[] = {
     {"kind", WriteKind},
-    {"name", [](JsonWriter& json, OXMIDicElement& element) { WriteName(json, element); }},
-    {"uuid", [](JsonWriter& json, OXMIDicElement& element) { WriteUuid(json, element); }},
+    {"name", Of<WriteName>},
+    {"uuid", Of<WriteUuid>},
     {"alias", Text<&OXMIDicElement::GetAlias>},
     {"expositionLevel", Text<&OXMIDicElement::GetExpositionLevel>},
     {"visibility", Word<&OXMIDicElement::GetVisibility, format::kVisibilityWords>},
     {"categories", Links<&OXMIDicElement::GetCategories>},
-    {"other", [](JsonWriter& json, OXMIDicElement& element) { WriteFreeAttributes(json, element); }},
+    {"other", Of<WriteFreeAttributes>},
 };
 
 constexpr Field<OXMIDicClass> kClassFields[] = {
@@ -306,6 +194,15 @@ constexpr Field<OXMIDicClass> kClassFields[] = {
     {"injectivesPointingOnMe", Links<&OXMIDicClass::GetInjectivesPointingOnMe>},
 };
 
+constexpr Field<OXMIDicExtension> kExtensionFields[] = {
+    {"scopes", Links<&OXMIDicExtension::GetScopes>},
+};
+
+constexpr Field<OXMIDicClass> kBlockFields[] = {
+    {"blocks", WriteOwnBlocks},
+    {"allBlocks", WriteAllBlocks},
+};
+
 constexpr Field<OXMIDicEnum> kEnumFields[] = {
     {"enumerators", Members<&OXMIDicEnum::GetEnumerators, kEnumeratorFields, OXMIDicEnumerator>},
 };
@@ -314,15 +211,41 @@ constexpr Field<OXMIDicCategory> kCategoryFields[] = {
     {"group", Text<&OXMIDicCategory::GetGroup>},
 };
 
+void WriteClass(JsonWriter& json, OXMIDicElement& element) {
+    const auto classElement = zandic::As<OXMIDicClass>(element);
+    WriteFields(json, *classElement, kClassFields);
+    if (zandic::Kind(element) == OXMDicTYPE_Extension) {
+        WriteFields(json, *zandic::As<OXMIDicExtension>(element), kExtensionFields);
+    }
+    WriteFields(json, *classElement, kBlockFields);
+}
+
+/// What an element has beside the common keys; several kinds answer the same interfaces, so the kind decides.
+struct KindRow {
+    OXMDicTYPE kind;
+    void (*write)(JsonWriter& json, OXMIDicElement& element);
+};
+constexpr KindRow kKindRows[] = {
+    {OXMDicTYPE_Class, WriteClass},
+    {OXMDicTYPE_Extension, WriteClass},
+    {OXMDicTYPE_Interface, WriteInterface},
+    {OXMDicTYPE_RBOMapping, WriteMapping},
+    {OXMDicTYPE_Enum,
+     [](JsonWriter& json, OXMIDicElement& element) {
+         WriteFields(json, *zandic::As<OXMIDicEnum>(element), kEnumFields);
+     }},
+    {OXMDicTYPE_Category,
+     [](JsonWriter& json, OXMIDicElement& element) {
+         WriteFields(json, *zandic::As<OXMIDicCategory>(element), kCategoryFields);
+     }},
+};
+
 void WriteElement(JsonWriter& json, OXMIDicElement& element) {
     json.BeginObject();
     WriteFields(json, element, kElementFields);
-    if (const auto classElement = zandic::As<OXMIDicClass>(element)) {
-        WriteFields(json, *classElement, kClassFields);
-    } else if (const auto enumeration = zandic::As<OXMIDicEnum>(element)) {
-        WriteFields(json, *enumeration, kEnumFields);
-    } else if (const auto category = zandic::As<OXMIDicCategory>(element)) {
-        WriteFields(json, *category, kCategoryFields);
+    const OXMDicTYPE kind = zandic::Kind(element);
+    for (const KindRow& row : kKindRows) {
+        if (row.kind == kind) row.write(json, element);
     }
     json.EndObject();
 }
@@ -336,14 +259,14 @@ void WriteElements(JsonWriter& json, OXMIDicPackage& package) {
 }
 
 constexpr Field<OXMIDicPackage> kPackageFields[] = {
-    {"name", [](JsonWriter& json, OXMIDicPackage& package) { WriteName(json, package); }},
-    {"uuid", [](JsonWriter& json, OXMIDicPackage& package) { WriteUuid(json, package); }},
+    {"name", Of<WriteName>},
+    {"uuid", Of<WriteUuid>},
     {"domain", Text<&OXMIDicPackage::GetDomain>},
     {"alias", Text<&OXMIDicPackage::GetAlias>},
     {"expositionLevel", Text<&OXMIDicPackage::GetExpositionLevel>},
     {"uses", Links<&OXMIDicPackage::GetUsedPackages>},
     {"scopes", Links<&OXMIDicPackage::GetScopePackages>},
-    {"other", [](JsonWriter& json, OXMIDicPackage& package) { WriteFreeAttributes(json, package); }},
+    {"other", Of<WriteFreeAttributes>},
     {"elements", WriteElements},
 };
 

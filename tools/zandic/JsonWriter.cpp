@@ -9,6 +9,9 @@ namespace {
 
 constexpr std::string_view kBlanks = "                                ";
 
+/// Brackets inside this many others are indented no further: the size of a deep nest stays linear.
+constexpr std::size_t kDeepestIndent = 128;
+
 /// The letter behind the backslash of a character's short escape; 'u' for those that have none, 0 for
 /// those that need no escape.
 constexpr std::array<char, 256> MakeEscapes() {
@@ -90,7 +93,7 @@ void JsonWriter::BeginValue() {
 
 void JsonWriter::NewLine() {
     _Output.Write("\n");
-    for (std::size_t blanks = 2 * _FILLED.size(); blanks > 0;) {
+    for (std::size_t blanks = 2 * std::min(_FILLED.size(), kDeepestIndent); blanks > 0;) {
         const std::size_t some = std::min(blanks, kBlanks.size());
         _Output.Write(kBlanks.substr(0, some));
         blanks -= some;

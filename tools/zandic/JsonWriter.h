@@ -10,7 +10,8 @@
 namespace tool {
 
 /// Writes one JSON document piece by piece, so that a large model never stands in memory a second time:
-/// every member and entry on a line of its own, two blanks of indentation, UTF-8 as it is.
+/// every member and entry on a line of its own, two blanks of indentation, which 128 open brackets bring to
+/// its end, UTF-8 as it is.
 ///
 /// The caller opens and closes in pairs and gives a key before each value of an object.
 class JsonWriter {

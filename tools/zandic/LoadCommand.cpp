@@ -9,6 +9,9 @@
 #include "Command.h"
 #include "Model.h"
 #include "Names.h"
+#include "OXMIDicInterface.h"
+#include "OXMIDicMethod.h"
+#include "RboWalk.h"
 
 namespace tool {
 namespace {
@@ -17,9 +20,25 @@ namespace tag = ZANDicFormat::tag;
 
 /// The kinds that are counted, in the order of the columns. A kind that no package has gets no column.
 constexpr std::string_view kCountedTags[] = {
-    tag::kClass,        tag::kInstance, tag::kExtension,  tag::kInterface, tag::kSimple,
-    tag::kRelationship, tag::kInverse,  tag::kUnique,     tag::kEnum,      tag::kEnumerator,
-    tag::kCategory,     tag::kRBOClass, tag::kRBOMapping,
+    tag::kClass,
+    tag::kInstance,
+    tag::kExtension,
+    tag::kSimple,
+    tag::kRelationship,
+    tag::kInverse,
+    tag::kUnique,
+    tag::kAttributeBlock,
+    tag::kInterface,
+    tag::kMethod,
+    tag::kParameter,
+    tag::kEnum,
+    tag::kEnumerator,
+    tag::kCategory,
+    tag::kRBOClass,
+    tag::kRBOMapping,
+    tag::kRBORoot,
+    tag::kRBOComponent,
+    tag::kRBOPathExpression,
 };
 
 /// One line of the answer.
@@ -32,7 +51,29 @@ struct Line {
 
 template <class Object, class Getter>
 void CountMembers(Object& object, Getter getter, Line& line) {
-    for (OXMIDicElement& member : zandic::All<OXMIDicElement>(object, getter)) ++line.counts[TagOf(member)];
+    for (OXMIDicElementH& member : zandic::All<OXMIDicElementH>(object, getter)) ++line.counts[TagOf(member)];
+}
+
+void CountMethods(OXMIDicInterface& interface, Line& line) {
+    for (OXMIDicMethod& method : zandic::All<OXMIDicMethod>(interface, &OXMIDicInterface::GetMethods)) {
+        ++line.counts[TagOf(method)];
+        CountMembers(method, &OXMIDicMethod::GetParameters, line);
+    }
+}
+
+void CountBelow(OXMIDicElement& element, Line& line) {
+    if (const auto mapping = zandic::As<OXMIDicRBOMapping>(element)) {
+        ForEachBelow(*mapping,
+                     [&line](OXMIDicElement& each, OXMIDicElement&) { ++line.counts[TagOf(each)]; });
+    } else if (const auto enumeration = zandic::As<OXMIDicEnum>(element)) {
+        CountMembers(*enumeration, &OXMIDicEnum::GetEnumerators, line);
+    } else if (zandic::Kind(element) == OXMDicTYPE_Interface) {
+        CountMethods(*zandic::As<OXMIDicInterface>(element), line);
+    } else if (const auto classElement = zandic::As<OXMIDicClass>(element)) {
+        CountMembers(*classElement, &OXMIDicClass::GetClassElements, line);
+        CountMembers(*classElement, &OXMIDicClass::GetUniques, line);
+        CountMembers(*classElement, &OXMIDicClass::GetClassAttBlocks, line);
+    }
 }
 
 Line LineOf(OXMIDicPackage& package) {
@@ -42,12 +83,7 @@ Line LineOf(OXMIDicPackage& package) {
               {}};
     for (OXMIDicElement& element : zandic::All<OXMIDicElement>(package, &OXMIDicPackage::GetElements)) {
         ++line.counts[TagOf(element)];
-        if (const auto classElement = zandic::As<OXMIDicClass>(element)) {
-            CountMembers(*classElement, &OXMIDicClass::GetClassElements, line);
-            CountMembers(*classElement, &OXMIDicClass::GetUniques, line);
-        } else if (const auto enumeration = zandic::As<OXMIDicEnum>(element)) {
-            CountMembers(*enumeration, &OXMIDicEnum::GetEnumerators, line);
-        }
+        CountBelow(element, line);
     }
     return line;
 }

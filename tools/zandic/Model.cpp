@@ -1,5 +1,11 @@
 #include "Model.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "MemberNames.h"
+#include "OXMIDicAttributeBlock.h"
+
 namespace tool {
 namespace {
 
@@ -8,18 +14,18 @@ void Append(std::string& name, const ZELString& part) {
     name += part.View();
 }
 
-bool Owns(OXMIDicElement& element, OXMIDicElementH& member) {
-    if (auto enumeration = zandic::As<OXMIDicEnum>(element)) {
-        for (OXMIDicElement& each : zandic::All<OXMIDicElement>(*enumeration, &OXMIDicEnum::GetEnumerators)) {
-            if (IsSame(each, member)) return true;
-        }
-    }
-    if (auto classElement = zandic::As<OXMIDicClass>(element)) {
-        for (OXMIDicElement& each : zandic::All<OXMIDicElement>(*classElement, &OXMIDicClass::GetUniques)) {
-            if (IsSame(each, member)) return true;
-        }
-    }
-    return false;
+/// Whether an object of the kind has an owner that it does not know.
+bool IsMember(OXMDicTYPE kind) {
+    constexpr OXMDicTYPE kKinds[] = {
+        OXMDicTYPE_Unique,
+        OXMDicTYPE_Enumerator,
+        OXMDicTYPE_Method,
+        OXMDicTYPE_Parameter,
+        OXMDicTYPE_RBORoot,
+        OXMDicTYPE_RBOComponent,
+        OXMDicTYPE_RBOPathExpression,
+    };
+    return std::find(std::begin(kKinds), std::end(kKinds), kind) != std::end(kKinds);
 }
 
 }  // namespace
@@ -41,7 +47,15 @@ bool IsAttribute(OXMIDicElementH& object) {
 }
 
 void AppendQualifiedName(OXMIDicElementH& object, std::string& name) {
+    const OXMDicTYPE kind = zandic::Kind(object);
+    if (IsMember(kind) && Members().AppendName(zandic::Uuid(object), name)) return;
     std::string qualified;
+    if (kind == OXMDicTYPE_AttributeBlock) {
+        const auto block = zandic::As<OXMIDicAttributeBlock>(object);
+        if (const auto owner = zandic::Link(*block, &OXMIDicAttributeBlock::GetClass)) {
+            AppendQualifiedName(*owner, qualified);
+        }
+    }
     if (const auto element = zandic::As<OXMIDicElement>(object)) {
         if (const auto package = zandic::Get(*element, &OXMIDicElement::GetPackageName)) {
             Append(qualified, *package);
@@ -79,11 +93,9 @@ void AskForAllAttributes(const zandic::Dictionary& dictionary) {
 }
 
 zandic::Handle<OXMIDicElement> OwnerOf(const zandic::Dictionary& dictionary, OXMIDicElementH& member) {
-    zandic::Handle<OXMIDicElement> owner;
-    ForEachElement(dictionary, [&](OXMIDicElement& element) {
-        if (!owner && Owns(element, member)) owner = zandic::Handle<OXMIDicElement>::Share(&element);
-    });
-    return owner;
+    const ZELDbBinary owner = Members().OwnerOf(zandic::Uuid(member));
+    return owner.IsEmpty() ? zandic::Handle<OXMIDicElement>()
+                           : zandic::As<OXMIDicElement>(dictionary.Search(owner));
 }
 
 }  // namespace tool

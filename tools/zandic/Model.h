@@ -23,8 +23,8 @@ std::string_view TagOf(OXMIDicElementH& object);
 /// \returns whether the object is a simple attribute, a relationship or an inverse.
 bool IsAttribute(OXMIDicElementH& object);
 
-/// Appends "Package", "Package::Element" or "Package::Class::attribute". An enumerator or a unique does not
-/// know its owner: its name has the package only.
+/// Appends "Package", "Package::Element" or "Package::Class::attribute": the name runs through all owners.
+/// To be asked of unique keys, enumerators, methods, parameters and RBO objects once all is loaded.
 void AppendQualifiedName(OXMIDicElementH& object, std::string& name);
 std::string QualifiedName(OXMIDicElementH& object);
 
@@ -78,8 +78,7 @@ void ForEachClass(const zandic::Dictionary& dictionary, Visit&& visit) {
 /// Asks every class for all its attributes. Which attribute redefines which is known only after that.
 void AskForAllAttributes(const zandic::Dictionary& dictionary);
 
-/// \returns the class or enumeration that owns a unique or an enumerator; null when none of the loaded
-/// packages does.
+/// \returns the owner of a member that does not know it itself (MemberNames.h); null for anything else.
 zandic::Handle<OXMIDicElement> OwnerOf(const zandic::Dictionary& dictionary, OXMIDicElementH& member);
 
 }  // namespace tool

@@ -18,6 +18,9 @@ public:
 
     explicit Sheet(Output& output) : _Output(output) {}
 
+    /// A blank line between two sheets.
+    void Separate() { _Output.Write("\n"); }
+
     /// What the sheet is about, in the first line.
     void Title(std::string_view tag, std::string_view name);
 

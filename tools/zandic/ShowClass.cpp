@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Model.h"
+#include "OXMIDicExtension.h"
 #include "OXMIDicInverse.h"
 #include "OXMIDicPrimitive.h"
 #include "OXMIDicRelationship.h"
@@ -20,10 +21,17 @@ std::string FlagsText(OXMIDicClass& classElement) {
     flags.emplace_back(persistent ? "persistent" : "not persistent");
     if (zandic::Flag(classElement, &OXMIDicClass::GetAbstract)) flags.emplace_back("abstract");
     if (zandic::Flag(classElement, &OXMIDicClass::GetExtensible)) {
-        const bool own = zandic::Get(classElement, &OXMIDicClass::GetExtensible).has_value();
+        const bool own = zandic::Get(classElement, &OXMIDicClass::GetClassExtensible).has_value();
         flags.emplace_back(own ? "extensible" : "extensible (inherited)");
     }
     return Joined(flags);
+}
+
+/// \returns the classes that an extension extends; of a class, none.
+std::vector<std::string> ScopesOf(const View& view, OXMIDicClass& classElement) {
+    if (zandic::Kind(classElement) != OXMDicTYPE_Extension) return {};
+    const auto extension = zandic::As<OXMIDicExtension>(classElement);
+    return NamesIn(view, zandic::All<OXMIDicClass>(*extension, &OXMIDicExtension::GetScopes));
 }
 
 std::string DerivableText(OXMIDicClass& classElement) {
@@ -173,6 +181,7 @@ void ShowClass(const View& view, OXMIDicClass& classElement) {
     if (const auto reference = zandic::Link(classElement, &OXMIDicClass::GetReference)) {
         sheet.Field("Reference", NameIn(view, *reference));
     }
+    sheet.Field("Extends", ScopesOf(view, classElement));
     sheet.Field("Flags", FlagsText(classElement));
     sheet.Field("KVA derivable", DerivableText(classElement));
     sheet.Field("Late type", TextOf(classElement, &OXMIDicClass::GetLateType));
@@ -182,6 +191,7 @@ void ShowClass(const View& view, OXMIDicClass& classElement) {
     ShowOwn(view, classElement);
     ShowInherited(view, classElement);
     ShowKeys(view, classElement);
+    ShowVisibleBlocks(view, classElement);
     ShowUsers(view, classElement);
     ShowInjectives(view, classElement);
 }

@@ -3,6 +3,7 @@
 #include <map>
 
 #include "Model.h"
+#include "OXMIDicExtension.h"
 #include "Views.h"
 
 namespace tool {
@@ -41,6 +42,39 @@ std::vector<std::string> CategoryRow(const View&, OXMIDicElement& element) {
             Note({group.empty() ? "" : "group " + group, QuotedAlias(element)})};
 }
 
+std::vector<std::string> ExtensionRow(const View& view, OXMIDicElement& element) {
+    std::vector<std::string> row = ClassRow(view, element);
+    const auto extension = zandic::As<OXMIDicExtension>(element);
+    const auto scopes = NamesIn(view, zandic::All<OXMIDicClass>(*extension, &OXMIDicExtension::GetScopes));
+    if (!scopes.empty()) row.back() = Note({"extends " + Joined(scopes), row.back()});
+    return row;
+}
+
+std::vector<std::string> InterfaceRow(const View& view, OXMIDicElement& element) {
+    const auto interface = zandic::As<OXMIDicInterface>(element);
+    const auto super = zandic::Link(*interface, &OXMIDicInterface::GetSuperInterface);
+    std::vector<std::string> methods;
+    for (OXMIDicMethod& each : zandic::All<OXMIDicMethod>(*interface, &OXMIDicInterface::GetMethods)) {
+        methods.emplace_back(zandic::Name(each).View());
+    }
+    return {std::string(zandic::Name(element).View()), super ? "is a " + NameIn(view, *super) : "",
+            Joined(methods)};
+}
+
+std::vector<std::string> RBOClassRow(const View&, OXMIDicElement& element) {
+    return {std::string(zandic::Name(element).View()), QuotedAlias(element)};
+}
+
+std::vector<std::string> MappingRow(const View& view, OXMIDicElement& element) {
+    const auto mapping = zandic::As<OXMIDicRBOMapping>(element);
+    const std::string target = AppliesTo(view, *mapping);
+    std::vector<std::string> roots;
+    for (OXMIDicRBORoot& root : zandic::All<OXMIDicRBORoot>(*mapping, &OXMIDicRBOMapping::GetElements)) {
+        roots.emplace_back(zandic::Name(root).View());
+    }
+    return {std::string(zandic::Name(element).View()), target.empty() ? "" : "of " + target, Joined(roots)};
+}
+
 /// The sections of the sheet, in their order.
 struct SectionOfTag {
     std::string_view tag;
@@ -48,9 +82,14 @@ struct SectionOfTag {
     std::vector<std::string> (*row)(const View& view, OXMIDicElement& element);
 };
 constexpr SectionOfTag kSections[] = {
-    {tag::kClass, "Classes", ClassRow},          {tag::kInstance, "Instances", ClassRow},
-    {tag::kExtension, "Extensions", ClassRow},   {tag::kEnum, "Enumerations", EnumRow},
+    {tag::kClass, "Classes", ClassRow},
+    {tag::kInstance, "Instances", ClassRow},
+    {tag::kExtension, "Extensions", ExtensionRow},
+    {tag::kInterface, "Interfaces", InterfaceRow},
+    {tag::kEnum, "Enumerations", EnumRow},
     {tag::kCategory, "Categories", CategoryRow},
+    {tag::kRBOClass, "RBO classes", RBOClassRow},
+    {tag::kRBOMapping, "RBO mappings", MappingRow},
 };
 
 using Getter = HRESULT (OXMIDicPackage::*)(ZELListPtrIUnknown*);

@@ -7,19 +7,13 @@
 #include "Views.h"
 
 namespace tool {
-namespace {
 
-/// Title and owner of a member that does not know its owner itself.
 void ShowOwned(const View& view, OXMIDicElement& member) {
-    const auto owner = OwnerOf(view.dictionary, member);
-    const std::string above = owner ? QualifiedName(*owner) : view.package;
-    view.sheet.Title(TagOf(member),
-                     fmt::format("{}{}{}", above, kNameSeparator, zandic::Name(member).View()));
+    view.sheet.Title(TagOf(member), QualifiedName(member));
     ShowIdentity(view, member);
+    const auto owner = OwnerOf(view.dictionary, member);
     if (owner) view.sheet.Field("Declared in", NameIn(view, *owner));
 }
-
-}  // namespace
 
 void ShowUnique(const View& view, OXMIDicUnique& unique) {
     ShowOwned(view, unique);

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "Model.h"
+#include "OXMIDicExtension.h"
 
 namespace tool {
 namespace {
@@ -31,13 +32,25 @@ constexpr KindView kKindViews[] = {
     {OXMDicTYPE_Enum, ShowAs<OXMIDicEnum, ShowEnum>},
     {OXMDicTYPE_Enumerator, ShowAs<OXMIDicEnumerator, ShowEnumerator>},
     {OXMDicTYPE_Category, ShowAs<OXMIDicCategory, ShowCategory>},
+    {OXMDicTYPE_Interface, ShowAs<OXMIDicInterface, ShowInterface>},
+    {OXMDicTYPE_Method, ShowAs<OXMIDicMethod, ShowMethod>},
+    {OXMDicTYPE_Parameter, ShowAs<OXMIDicParameter, ShowParameter>},
+    {OXMDicTYPE_AttributeBlock, ShowAs<OXMIDicAttributeBlock, ShowBlock>},
+    {OXMDicTYPE_RBOClass, ShowAs<OXMIDicRBOClass, ShowRBOClass>},
+    {OXMDicTYPE_RBOMapping, ShowAs<OXMIDicRBOMapping, ShowMapping>},
+    {OXMDicTYPE_RBORoot, ShowAs<OXMIDicRBORoot, ShowRoot>},
+    {OXMDicTYPE_RBOComponent, ShowAs<OXMIDicRBOComponent, ShowComponent>},
+    {OXMDicTYPE_RBOPathExpression, ShowAs<OXMIDicRBOPathExpression, ShowPath>},
 };
 
-/// \returns the package of the object, or its own name when it is one.
+/// \returns the package of the object, or its own name when it is one: the first part of its name.
 std::string PackageNameOf(OXMIDicElementH& object) {
-    const auto element = zandic::As<OXMIDicElement>(object);
-    if (!element) return std::string(zandic::Name(object).View());
-    return TextOf(*element, &OXMIDicElement::GetPackageName);
+    if (const auto element = zandic::As<OXMIDicElement>(object)) {
+        const std::string package = TextOf(*element, &OXMIDicElement::GetPackageName);
+        if (!package.empty()) return package;
+    }
+    const std::string name = QualifiedName(object);
+    return name.substr(0, name.find(kNameSeparator));
 }
 
 bool HasCategory(OXMIDicElementH& object, OXMIDicElementH& category) {
@@ -61,6 +74,56 @@ void AddAttributeUsers(const View& view, OXMIDicClass& classElement, OXMIDicElem
         }
         if (HasCategory(attribute, target)) AddUser(view, attribute, "", rows);
     }
+}
+
+/// Those that refer to \p target from a kind of element that has no attributes.
+void AddScopeUsers(const View& view, OXMIDicElement& element, OXMIDicElementH& target, Rows& rows) {
+    if (zandic::Kind(element) != OXMDicTYPE_Extension) return;
+    const auto extension = zandic::As<OXMIDicExtension>(element);
+    for (OXMIDicElementH& scope : zandic::All<OXMIDicElementH>(*extension, &OXMIDicExtension::GetScopes)) {
+        if (IsSame(scope, target)) AddUser(view, element, "extends it", rows);
+    }
+}
+
+void AddParameterUsers(const View& view, OXMIDicElement& element, OXMIDicElementH& target, Rows& rows) {
+    if (zandic::Kind(element) != OXMDicTYPE_Interface) return;
+    const auto interface = zandic::As<OXMIDicInterface>(element);
+    for (OXMIDicMethod& method : zandic::All<OXMIDicMethod>(*interface, &OXMIDicInterface::GetMethods)) {
+        for (OXMIDicParameter& parameter :
+             zandic::All<OXMIDicParameter>(method, &OXMIDicMethod::GetParameters)) {
+            const auto type = zandic::TypeOf(parameter);
+            if (type && IsSame(*type, target)) {
+                AddUser(view, parameter,
+                        std::string(WordOf(parameter, &OXMIDicParameter::GetKind, ZANDicFormat::kKindWords)),
+                        rows);
+            }
+        }
+    }
+}
+
+template <class Object, class Getter>
+bool IsLinked(Object& object, Getter getter, OXMIDicElementH& target) {
+    const auto linked = zandic::Link(object, getter);
+    return linked && IsSame(*linked, target);
+}
+
+void AddMappingUsers(const View& view, OXMIDicElement& element, OXMIDicElementH& target, Rows& rows) {
+    const auto mapping = zandic::As<OXMIDicRBOMapping>(element);
+    if (!mapping) return;
+    if (IsLinked(*mapping, &OXMIDicRBOMapping::GetApplyToRBOClass, target)) {
+        AddUser(view, element, "applies to it", rows);
+    }
+    ForEachBelow(*mapping, [&](OXMIDicElement& each, OXMIDicElement&) {
+        const auto root = zandic::As<OXMIDicRBORoot>(each);
+        const auto component = zandic::As<OXMIDicRBOComponent>(each);
+        const auto path = zandic::As<OXMIDicRBOPathExpression>(each);
+        if ((root && IsLinked(*root, &OXMIDicRBORoot::GetBaseClass, target)) ||
+            (component && IsLinked(*component, &OXMIDicRBOComponent::GetBaseClass, target))) {
+            AddUser(view, each, "is based on it", rows);
+        } else if (path && IsLinked(*path, &OXMIDicRBOPathExpression::GetTarget, target)) {
+            AddUser(view, each, "leads to it", rows);
+        }
+    });
 }
 
 }  // namespace
@@ -125,6 +188,9 @@ void ShowUsers(const View& view, OXMIDicElementH& target) {
             if (reference && IsSame(*reference, target)) AddUser(view, element, "as its reference", rows);
             AddAttributeUsers(view, *classElement, target, rows);
         }
+        AddScopeUsers(view, element, target, rows);
+        AddParameterUsers(view, element, target, rows);
+        AddMappingUsers(view, element, target, rows);
     });
     if (rows.empty()) return;
     view.sheet.Section(fmt::format("Referred to by ({})", rows.size()));

@@ -6,11 +6,17 @@
 #include <string_view>
 #include <vector>
 
+#include "OXMIDicAttributeBlock.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicClass.h"
 #include "OXMIDicEnum.h"
 #include "OXMIDicEnumerator.h"
+#include "OXMIDicInterface.h"
+#include "OXMIDicMethod.h"
+#include "OXMIDicParameter.h"
+#include "OXMIDicRBOClass.h"
 #include "OXMIDicUnique.h"
+#include "RboWalk.h"
 #include "Sheet.h"
 #include "zandic.hpp"
 
@@ -26,7 +32,7 @@ struct View {
 /// Shows any object, by its kind. The classes must have been asked for all attributes.
 void ShowObject(const zandic::Dictionary& dictionary, OXMIDicElementH& object, Output& output);
 
-// One for each kind; an enumerator and a unique are shown as members of their owner.
+// One for each kind; what does not know its owner is shown as a member of it.
 void ShowPackage(const View& view, OXMIDicPackage& package);
 void ShowClass(const View& view, OXMIDicClass& classElement);
 void ShowAttribute(const View& view, OXMIDicAttribute& attribute);
@@ -34,6 +40,25 @@ void ShowUnique(const View& view, OXMIDicUnique& unique);
 void ShowEnum(const View& view, OXMIDicEnum& enumeration);
 void ShowEnumerator(const View& view, OXMIDicEnumerator& enumerator);
 void ShowCategory(const View& view, OXMIDicCategory& category);
+void ShowInterface(const View& view, OXMIDicInterface& interface);
+void ShowMethod(const View& view, OXMIDicMethod& method);
+void ShowParameter(const View& view, OXMIDicParameter& parameter);
+void ShowBlock(const View& view, OXMIDicAttributeBlock& block);
+void ShowRBOClass(const View& view, OXMIDicRBOClass& rboClass);
+void ShowMapping(const View& view, OXMIDicRBOMapping& mapping);
+void ShowRoot(const View& view, OXMIDicRBORoot& root);
+void ShowComponent(const View& view, OXMIDicRBOComponent& component);
+void ShowPath(const View& view, OXMIDicRBOPathExpression& path);
+
+/// \returns what a mapping applies to: the class's name, else the text that is stored beside it.
+std::string AppliesTo(const View& view, OXMIDicRBOMapping& mapping);
+
+/// The blocks of a class, each with father and attributes: the sheet of `blocks`. Makes the default block
+/// where there is none yet.
+void ShowBlocksOf(const View& view, OXMIDicClass& classElement);
+
+/// A section of the blocks that are visible in a class, one line each.
+void ShowVisibleBlocks(const View& view, OXMIDicClass& classElement);
 
 // What several sheets share.
 
@@ -46,6 +71,9 @@ std::vector<std::string> NamesIn(const View& view, const zandic::List<Object>& o
     for (Object& object : objects) names.push_back(NameIn(view, object));
     return names;
 }
+
+/// Title, identity and owner of a member that does not know its owner itself.
+void ShowOwned(const View& view, OXMIDicElement& member);
 
 /// UUID, alias, exposition level and visibility.
 void ShowIdentity(const View& view, OXMIDicElement& element);

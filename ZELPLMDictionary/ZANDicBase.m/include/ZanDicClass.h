@@ -148,6 +148,8 @@ public:
     /// \returns S_OK; the getter S_FALSE with 1 when neither this class nor one above has another value.
     HRESULT SetKVADerivable(int derivable);
     HRESULT GetKVADerivable(int* derivable) const;
+    /// The own value. \returns S_OK; S_FALSE, with 0, when none was set here.
+    HRESULT GetClassExtensible(unsigned char* extensible) const;
     /// The own value. \returns S_OK; S_FALSE when it is 1.
     HRESULT GetClassKVADerivable(int* derivable) const;
 
@@ -181,6 +183,8 @@ public:
     /// \returns S_OK; E_FAIL for null.
     HRESULT GetAttBlocks(ZELListPtrIUnknown* blocks);
     HRESULT GetAllAttributeBlockList(ZELListPtrIUnknown* blocks);
+    /// The own ones only, in the order of registration, hidden ones included.
+    HRESULT GetClassAttBlocks(ZELListPtrIUnknown* blocks) const;
     /// \param[out] hasBlocks 1 when one is visible, else 0.
     HRESULT HasAttBlocks(unsigned char* hasBlocks);
     /// Looks among the own blocks, then among the visible ones. \returns S_OK; E_FAIL when there is none.

@@ -48,6 +48,9 @@ public:
     /// UUID meant for this object.
     virtual bool owns_Uuid(const ZanDicObj& object) const = 0;
 
+    /// Whether an attribute is noted for any class.
+    virtual bool has_Relations() const = 0;
+
     /// Appends the interfaces of the attributes noted for a class. \returns S_OK; the first failure.
     virtual HRESULT get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) = 0;
 

@@ -86,6 +86,7 @@ public:
     void move_Relations(const ZELDbBinary& before, const ZELDbBinary& after) override;
     void forget_Relations(const ZELDbBinary& classUuid) noexcept override;
     bool owns_Uuid(const ZanDicObj& object) const override;
+    bool has_Relations() const override { return _CLASSTORELATION.Size() > 0; }
     HRESULT get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) override;
     void note_Load(const ZELString& askedName, ZanDicPackage& package) override;
     ZanDicPackage* find_Load(const ZELString& askedName) override;
@@ -107,8 +108,9 @@ private:
                          OXMIDicPackage** package);
 
     OXMDicPERSISTENT _LoadingMode = OXMDicPERSISTENT_Xml;
-    ZanHashList _PACKAGES;         ///< one reference to each, in the order of creation
-    std::unordered_map<std::string, ZanDicLink<ZanDicPackage>> _LOADS;  ///< by a name asked for that is not theirs
+    ZanHashList _PACKAGES;  ///< one reference to each, in the order of creation
+    std::unordered_map<std::string, ZanDicLink<ZanDicPackage>>
+        _LOADS;                    ///< by a name asked for that is not theirs
     ZELHashTabZanDicObj _OBJECTS;  ///< not owning, by UUID
     ZanDicPrimitive* _PRIMITIVES[kPrimitiveCount] =
         {};  ///< one reference to each, by kind less 1; null before Create

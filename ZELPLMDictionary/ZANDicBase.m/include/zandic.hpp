@@ -19,6 +19,7 @@
 #include "OXMIDicAttribute.h"
 #include "OXMIDicElement.h"
 #include "OXMIDicPackage.h"
+#include "OXMIDicParameter.h"
 
 namespace zandic {
 
@@ -270,6 +271,13 @@ inline OXMDicTYPE Kind(OXMIDicElementH& object) {
 inline Handle<OXMIDicElement> TypeOf(OXMIDicAttribute& attribute) {
     Handle<OXMIDicElement> type;
     attribute.GetType(type.Out());
+    return type;
+}
+
+/// \returns what types the parameter: an element of any kind; null without a type.
+inline Handle<OXMIDicElement> TypeOf(OXMIDicParameter& parameter) {
+    Handle<OXMIDicElement> type;
+    parameter.GetType(type.Out());
     return type;
 }
 

@@ -190,6 +190,12 @@ public:
     HRESULT GetClassKVADerivable(int* derivable) override {
         return this->impl().GetClassKVADerivable(derivable);
     }
+    HRESULT GetClassExtensible(unsigned char* extensible) override {
+        return this->impl().GetClassExtensible(extensible);
+    }
+    HRESULT GetClassAttBlocks(ZELListPtrIUnknown* blocks) override {
+        return this->impl().GetClassAttBlocks(blocks);
+    }
 };
 
 /// Forwards OXMIDicExtension.

@@ -114,6 +114,15 @@ HRESULT ZanDicClass::RegisterBlockByName(OXMIDicAttributeBlock* block, const ZEL
     return own.Append(object);
 }
 
+HRESULT ZanDicClass::GetClassAttBlocks(ZELListPtrIUnknown* list) const {
+    if (list == nullptr) return E_FAIL;
+    const ZanHashList& own = own_Blocks();
+    for (int position = 1; position <= own.Size(); ++position) {
+        if (own[position] != nullptr) AppendInterface(*own[position], list);
+    }
+    return S_OK;
+}
+
 HRESULT ZanDicClass::GetAttBlocks(ZELListPtrIUnknown* list) {
     if (list == nullptr) return E_FAIL;
     for (const ZanDicAttributeBlock* block : visible_Blocks().List()) AppendInterface(*block, list);

@@ -193,6 +193,7 @@ HRESULT ZanDicClass::GetAllElements(ZELListPtrIUnknown* attributes) {
 HRESULT ZanDicClass::GetInjectivesPointingOnMe(ZELListPtrIUnknown& relationships) const {
     ZanDicRegistry* const registry = ZanDicGetRegistry();
     if (registry == nullptr) return E_FAIL;
+    if (!registry->has_Relations()) return S_OK;
     const auto append = [&](const ZanDicClass& target) {
         return registry->owns_Uuid(target) ? registry->get_Relations(target.Uuid(), relationships) : S_OK;
     };
@@ -246,6 +247,12 @@ HRESULT ZanDicClass::GetExtensible(unsigned char* extensible) const {
         return owner == this ? S_OK : S_FALSE;
     }
     return S_FALSE;
+}
+
+HRESULT ZanDicClass::GetClassExtensible(unsigned char* extensible) const {
+    if (extensible == nullptr) return E_FAIL;
+    *extensible = _ExtensibleSet ? _Extensible : 0;
+    return _ExtensibleSet ? S_OK : S_FALSE;
 }
 
 HRESULT ZanDicClass::SetKVADerivable(int derivable) {
