@@ -1,4 +1,7 @@
 // `zandic dump --json`: the whole model as JSON, byte for byte.
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
 #include <nlohmann/json.hpp>
 
 #include "ToolRunner.h"
@@ -7,6 +10,13 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 using Names = std::vector<std::string>;
+
+/// \returns a UUID of the documents made here, from its number.
+std::string TestUuidText(int number) {
+    char text[36];
+    std::snprintf(text, sizeof text, "00000000-0000-0000-%016X", static_cast<unsigned>(number));
+    return text;
+}
 
 class ToolDumpTest : public ToolTest {
 protected:
@@ -36,6 +46,116 @@ TEST_F(ToolDumpTest, TheWholeSample) {
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, ExpectedOutput("dump-sample.json"));
     EXPECT_EQ(run.err, "");
+}
+
+TEST_F(ToolDumpTest, ExtensionsInterfacesAndMappings) {
+    const ToolRun run = OnSample({"--quiet", "dump", "--json", "BomServices", "BomStorageMap.rbomap"});
+
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, ExpectedOutput("dump-services.json"));
+    EXPECT_EQ(Json::parse(run.out).dump(2) + "\n", run.out);
+    EXPECT_EQ(run.err, "");
+}
+
+TEST_F(ToolDumpTest, EachOfTheOtherKindsHasItsKeysInOrder) {
+    const Names element{"kind",       "name",       "uuid", "alias", "expositionLevel",
+                        "visibility", "categories", "other"};
+    const auto with = [&element](const Names& own) {
+        Names keys = element;
+        keys.insert(keys.end(), own.begin(), own.end());
+        return keys;
+    };
+    const Json packages = Json::parse(
+        OnSample({"--quiet", "dump", "--json", "BomServices", "BomStorageMap.rbomap"}).out)["packages"];
+    const Json& services = Named(packages, "BomServices")["elements"];
+    const Json& method = Named(services, "BomQuery")["methods"][0];
+    const Json& mapping = Named(Named(packages, "BomStorageMap")["elements"], "ItemMapping");
+    const Json& component = mapping["roots"][0]["components"][0];
+
+    EXPECT_EQ(KeysOf(Named(services, "BomExportData")),
+              with({"super", "reference", "subclasses", "abstract", "persistent", "extensible",
+                    "kvaDerivable", "lateType", "applicationName", "attributes", "allAttributes", "uniques",
+                    "injectivesPointingOnMe", "scopes", "blocks", "allBlocks"}));
+    EXPECT_EQ(KeysOf(Named(services, "BomQuery")), with({"super", "subclasses", "methods"}));
+    EXPECT_EQ(KeysOf(method), (Names{"name", "uuid", "alias", "other", "parameters"}));
+    EXPECT_EQ(KeysOf(method["parameters"][0]),
+              (Names{"name", "uuid", "alias", "primitive", "type", "kind", "default", "other"}));
+    EXPECT_EQ(KeysOf(Named(Named(packages, "BomStorage")["elements"], "ItemTable")), element);
+    EXPECT_EQ(KeysOf(mapping), with({"appliesTo", "appliesToName", "roots"}));
+    EXPECT_EQ(KeysOf(mapping["roots"][0]),
+              (Names{"name", "uuid", "alias", "baseClass", "baseClassName", "other", "components"}));
+    EXPECT_EQ(KeysOf(component), (Names{"name", "uuid", "alias", "baseClass", "baseClassName", "other",
+                                        "components", "validityRule", "path"}));
+    EXPECT_EQ(KeysOf(component["path"]),
+              (Names{"name", "uuid", "alias", "type", "subType", "targetName", "target", "other"}));
+}
+
+TEST_F(ToolDumpTest, NamesRunThroughAllOwners) {
+    MakePackage("Map", R"(Uuid="00000000-0000-0000-0000000000000001")",
+                R"(<RBOClass Name="Table" Uuid="00000000-0000-0000-0000000000000002"/>
+                   <RBOMapping Name="M" Uuid="00000000-0000-0000-0000000000000003"
+                               ApplyToRBOClassRef="00000000-0000-0000-0000000000000002">
+                     <RBORoot Name="R" Uuid="00000000-0000-0000-0000000000000004">
+                       <RBOComponent Name="A" Uuid="00000000-0000-0000-0000000000000005">
+                         <RBOComponent Name="B" Uuid="00000000-0000-0000-0000000000000006">
+                           <RBOPathExpression Name="P" Uuid="00000000-0000-0000-0000000000000007"
+                                              TargetRef="00000000-0000-0000-0000000000000006"/>
+                         </RBOComponent>
+                       </RBOComponent>
+                     </RBORoot>
+                   </RBOMapping>)");
+
+    const Json component = DumpOwn("Map")["packages"][0]["elements"][1]["roots"][0]["components"][0];
+
+    EXPECT_EQ(component["path"], nullptr);
+    EXPECT_EQ(component["components"][0]["path"]["target"], "Map::M::R::A::B");
+}
+
+TEST_F(ToolDumpTest, ChangesNothing) {
+    const Json packages = Json::parse(OnSample({"--quiet", "dump", "--json", "BomItems"}).out)["packages"];
+    const Json& part = Named(Named(packages, "BomItems")["elements"], "BomPart");
+
+    EXPECT_EQ(part["blocks"].size(), 2U) << "no default block";
+    EXPECT_EQ(part["allBlocks"].size(), 3U);
+}
+
+TEST_F(ToolDumpTest, AChainOfSuperClassesCostsNoMoreThanItsLength) {
+    constexpr int kLength = 100'000;
+    std::string classes = "<Class Name=\"C0\" Uuid=\"" + TestUuidText(1) + "\" Persistent=\"Yes\"/>";
+    for (int index = 1; index < kLength; ++index) {
+        classes += "<Class Name=\"C" + std::to_string(index) + "\" Uuid=\"" + TestUuidText(index + 1) +
+                   "\" SuperRef=\"" + TestUuidText(index) + "\" Persistent=\"Yes\"/>";
+    }
+    MakePackage("Chain", "Uuid=\"" + TestUuidText(kLength + 1) + "\"", classes);
+
+    const auto begin = std::chrono::steady_clock::now();
+    const ToolRun run = OnOwn({"--quiet", "dump", "--json", "Chain"});
+    const auto time = std::chrono::steady_clock::now() - begin;
+
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.out.find("\"super\": \"Chain::C99998\""), run.out.npos);
+    EXPECT_LT(time, std::chrono::seconds(30))
+        << "half a second; more than a minute where each class walks up";
+}
+
+TEST_F(ToolDumpTest, ADeepNestOfComponentsIsWrittenToItsEnd) {
+    constexpr int kDepth = 100'000;
+    std::string nest = "<RBOClass Name=\"T\" Uuid=\"" + TestUuidText(1) +
+                       "\"/><RBOMapping Name=\"M\" Uuid=\"" + TestUuidText(2) + "\" ApplyToRBOClassRef=\"" +
+                       TestUuidText(1) + "\"><RBORoot Name=\"R\" Uuid=\"" + TestUuidText(3) + "\">";
+    for (int level = 0; level < kDepth; ++level) {
+        nest += "<RBOComponent Name=\"L" + std::to_string(level) + "\" Uuid=\"" + TestUuidText(level + 10) +
+                "\">";
+    }
+    for (int level = 0; level < kDepth; ++level) nest += "</RBOComponent>";
+    MakePackage("Nest", "Uuid=\"" + TestUuidText(4) + "\"", nest + "</RBORoot></RBOMapping>");
+
+    const ToolRun run = OnOwn({"--quiet", "dump", "--json", "Nest"});
+
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.out.find("\"name\": \"L99999\""), run.out.npos);
+    EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '{'),
+              std::count(run.out.begin(), run.out.end(), '}'));
 }
 
 TEST_F(ToolDumpTest, IsWrittenAsALibraryWouldWriteIt) {
@@ -91,7 +211,10 @@ TEST_F(ToolDumpTest, EachKindHasItsKeysInOrder) {
                                    "attributes",
                                    "allAttributes",
                                    "uniques",
-                                   "injectivesPointingOnMe"}));
+                                   "injectivesPointingOnMe",
+                                   "blocks",
+                                   "allBlocks"}));
+    EXPECT_EQ(KeysOf(item["blocks"][0]), (Names{"name", "uuid", "father", "root", "attributes"}));
     EXPECT_EQ(
         KeysOf(Named(item["attributes"], "ItemNumber")),
         (Names{"kind",        "name",      "uuid",          "alias",    "expositionLevel", "visibility",

@@ -14,6 +14,13 @@ TEST_F(ToolLoadTest, WritesOneLineAPackageAndATotal) {
     EXPECT_EQ(WithoutTimes(run.out), ExpectedOutput("load-BomEffectivity.txt"));
 }
 
+TEST_F(ToolLoadTest, CountsEveryKind) {
+    const ToolRun run = OnSample({"load", "BomServices", "BomStorageMap.rbomap"});
+
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(WithoutTimes(run.out), ExpectedOutput("load-new-kinds.txt"));
+}
+
 TEST_F(ToolLoadTest, APackageStandsBehindWhatItUses) {
     const std::string out = OnSample({"load", "BomWorkshop", "BomDocuments"}).out;
 

@@ -50,6 +50,57 @@ TEST_F(ToolShowTest, Enumerator) {
 TEST_F(ToolShowTest, Category) { ExpectSheet("BomPeople::BomIdentification", "show-category.txt"); }
 TEST_F(ToolShowTest, PackageOfTheOtherDomain) { ExpectSheet("BomWorkshop", "show-other-domain.txt"); }
 
+TEST_F(ToolShowTest, PackageOfExtensionsAndInterfaces) {
+    ExpectSheet("BomServices", "show-package-services.txt");
+}
+TEST_F(ToolShowTest, PackageOfMappings) { ExpectSheet("BomStorageMap.rbomap", "show-package-mapping.txt"); }
+TEST_F(ToolShowTest, Extension) { ExpectSheet("BomServices::BomExportData", "show-extension.txt"); }
+TEST_F(ToolShowTest, RelationshipWithAScope) {
+    ExpectSheet("BomServices::BomLogisticsData::PreferredSupplier", "show-scope.txt");
+}
+TEST_F(ToolShowTest, Interface) { ExpectSheet("BomServices::BomCosting", "show-interface.txt"); }
+TEST_F(ToolShowTest, Method) { ExpectSheet("BomServices::BomCosting::RollUp", "show-method.txt"); }
+TEST_F(ToolShowTest, Parameter) {
+    ExpectSheet("BomServices::BomCosting::RollUp::Currency", "show-parameter.txt");
+}
+TEST_F(ToolShowTest, Block) { ExpectSheet("BomItems::BomPart::Identity", "show-block.txt"); }
+TEST_F(ToolShowTest, Mapping) { ExpectSheet("BomStorageMap.rbomap::ItemMapping", "show-mapping.txt"); }
+TEST_F(ToolShowTest, Root) { ExpectSheet("BomStorageMap.rbomap::ItemMapping::Part", "show-root.txt"); }
+TEST_F(ToolShowTest, Component) {
+    ExpectSheet("BomStorageMap.rbomap::ItemMapping::Part::Physics", "show-component.txt");
+}
+TEST_F(ToolShowTest, PathExpression) {
+    ExpectSheet("BomStorageMap.rbomap::ItemMapping::Part::Physics::Mass::ToMass", "show-path.txt");
+}
+
+TEST_F(ToolShowTest, AnRBOClassKnowsItsMappings) {
+    const ToolRun run =
+        OnSample({"--quiet", "show", "BomStorage.rbodef::ItemTable", "--in", "BomStorageMap.rbomap"});
+
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, ExpectedOutput("show-rbo-class.txt"));
+}
+
+TEST_F(ToolShowTest, NewKindsAreFoundByTheirUuid) {
+    ExpectSheet("EEFE6A11-FF83-4E80-84F5F0239E4C0F6C", "show-method.txt");
+    ExpectSheet("9DD40E80-03DB-4E10-A945547C13B710EF", "show-parameter.txt");
+    ExpectSheet("0D9C2CB7-35F9-40E9-8F00260B541B9AB6", "show-block.txt");
+    const ToolRun path =
+        OnSample({"--quiet", "show", "D81D83B9-57B9-4063-AE94FC47119C4C02", "--in", "BomStorageMap.rbomap"});
+    EXPECT_EQ(path.out, ExpectedOutput("show-path.txt"));
+}
+
+TEST_F(ToolShowTest, AClassKnowsWhoExtendsMapsAndPassesIt) {
+    const std::string item =
+        OnSample({"--quiet", "show", "BomItems::BomItem", "--in", "BomServices", "BomStorageMap.rbomap"}).out;
+    const std::string assembly =
+        OnSample({"--quiet", "show", "BomItems::BomAssembly", "--in", "BomServices"}).out;
+
+    EXPECT_NE(item.find("BomServices::BomLogisticsData"), item.npos);
+    EXPECT_NE(item.find("BomStorageMap::ItemMapping::Part::Number"), item.npos);
+    EXPECT_NE(assembly.find("BomServices::BomCosting::RollUp::Assembly"), assembly.npos);
+}
+
 TEST_F(ToolShowTest, AnInheritedMemberIsShownWhereItIsDeclared) {
     ExpectSheet("BomItems::BomAssembly::Mass", "show-simple.txt");
 }
@@ -109,6 +160,12 @@ TEST_F(ToolShowTest, WhatIsNotFoundIsNamed) {
                   "member Nothing");
     ExpectRefused("BomPeople::BomAudit::Nothing",
                   "BomPeople::BomAudit::Nothing: error: Category BomPeople::BomAudit has no member Nothing");
+    ExpectRefused("BomServices::BomCosting::Nothing",
+                  "BomServices::BomCosting::Nothing: error: Interface BomServices::BomCosting has no member "
+                  "Nothing");
+    ExpectRefused("BomStorageMap.rbomap::ItemMapping::Part::Nothing",
+                  "BomStorageMap.rbomap::ItemMapping::Part::Nothing: error: RBOMapping "
+                  "BomStorageMap::ItemMapping has no member Part::Nothing");
     ExpectRefused("BomItems::bompart", "BomItems::bompart: error: package BomItems has no element bompart");
     ExpectRefused(
         "00000000-0000-0000-0000000000000001",

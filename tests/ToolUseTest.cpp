@@ -39,6 +39,7 @@ TEST_F(ToolUseTest, HelpListsTheCommandsOnOneScreen) {
 TEST_F(ToolUseTest, EachCommandHasItsHelp) {
     EXPECT_EQ(Run({"load", "--help"}).out, ExpectedOutput("help-load.txt"));
     EXPECT_EQ(Run({"show", "--help"}).out, ExpectedOutput("help-show.txt"));
+    EXPECT_EQ(Run({"blocks", "--help"}).out, ExpectedOutput("help-blocks.txt"));
     EXPECT_EQ(Run({"dump", "-h"}).out, ExpectedOutput("help-dump.txt"));
     EXPECT_EQ(Run({"dump", "-h"}).status, kDone);
 }
@@ -91,12 +92,15 @@ TEST_F(ToolUseTest, AnUnknownCommandIsNamed) {
 TEST_F(ToolUseTest, AnUnknownOptionIsNamed) {
     ExpectWrongUse({"load", "--fast", "BomItems"}, "there is no option '--fast' (see 'zandic load --help')");
     ExpectWrongUse({"load", "--json", "BomItems"}, "load does not know --json (see 'zandic load --help')");
+    ExpectWrongUse({"blocks", "--json", "BomItems"},
+                   "blocks does not know --json (see 'zandic blocks --help')");
     ExpectWrongUse({"--fast"}, "there is no option '--fast' (see 'zandic --help')");
 }
 
 TEST_F(ToolUseTest, AMissingNameIsSaid) {
     ExpectWrongUse({"load"}, "NAME is missing (see 'zandic load --help')");
     ExpectWrongUse({"show"}, "NAME is missing (see 'zandic show --help')");
+    ExpectWrongUse({"blocks"}, "NAME is missing (see 'zandic blocks --help')");
     ExpectWrongUse({"dump", "--json"}, "NAME is missing (see 'zandic dump --help')");
     ExpectWrongUse({"show", "--in", "BomItems"}, "NAME is missing (see 'zandic show --help')");
 }

@@ -91,6 +91,8 @@ TEST_F(ZanDicClassTest, RefusesNullArguments) {
     EXPECT_EQ(part->GetExtensible(nullptr), E_FAIL);
     EXPECT_EQ(part->GetKVADerivable(nullptr), E_FAIL);
     EXPECT_EQ(part->GetClassKVADerivable(nullptr), E_FAIL);
+    EXPECT_EQ(part->GetClassExtensible(nullptr), E_FAIL);
+    EXPECT_EQ(part->GetClassAttBlocks(nullptr), E_FAIL);
     EXPECT_EQ(part->SetLateType(nullptr), E_FAIL);
     EXPECT_EQ(part->GetLateType(nullptr), E_FAIL);
     EXPECT_EQ(part->SetApplicationName(nullptr), E_FAIL);
@@ -775,6 +777,20 @@ TEST_F(ZanDicClassTest, GetClassKVADerivableTellsTheOwnValue) {
     EXPECT_EQ(derivable, 1);
     EXPECT_EQ(part->GetClassKVADerivable(&derivable), S_OK);
     EXPECT_EQ(derivable, OXMDicKVADERIVABLE_Multiple);
+}
+
+TEST_F(ZanDicClassTest, GetClassExtensibleTellsTheOwnValue) {
+    const auto screw = SubClass(*items, "Screw", *part);
+    unsigned char extensible = 7;
+    EXPECT_EQ(part->SetExtensible(1), S_OK);
+
+    EXPECT_EQ(screw->GetClassExtensible(&extensible), S_FALSE);
+    EXPECT_EQ(extensible, 0);
+    EXPECT_EQ(part->GetClassExtensible(&extensible), S_OK);
+    EXPECT_EQ(extensible, 1);
+    EXPECT_EQ(screw->SetExtensible(0), S_OK);
+    EXPECT_EQ(screw->GetClassExtensible(&extensible), S_OK);
+    EXPECT_EQ(extensible, 0);
 }
 
 TEST_F(ZanDicClassTest, RefersToAnotherClassUntilThatIsGone) {

@@ -11,16 +11,16 @@ constexpr Command kCommands[] = {
      false, false, RunLoad},
     {"show", "show a package, an element, a member, or what has a UUID",
      "PACKAGE, PACKAGE::ELEMENT,\nPACKAGE::ELEMENT::MEMBER, or a UUID",
-     "A MEMBER is an attribute, a unique key, a block, an enumerator, a method or a root; the\n"
-     "name may go on below methods and roots, as in MAPPING::ROOT::COMPONENT::COMPONENT.\n"
+     "A MEMBER is an attribute, a unique key, a block, an enumerator, a method or a\n"
+     "root. The name may go on: METHOD::PARAMETER, ROOT::COMPONENT::COMPONENT.\n"
      "A UUID has 32 digits of either case, with or without dashes. It is looked for in\n"
      "the packages that --in names, else in every *.metadata document of the path.",
      true, false, RunShow},
-    {"blocks", "show the attribute blocks of a class, or of all classes of a package",
+    {"blocks", "show the attribute blocks of a class or of a package",
      "PACKAGE or PACKAGE::CLASS, the package maybe\nwith a content word",
-     "Shows the blocks that a class declares, those that it inherits, and its default block:\n"
-     "the attributes that no other block holds. The default block is made for this answer, in\n"
-     "the memory of this run only. Of a package, only classes with declared blocks are shown.",
+     "Shows the blocks that a class declares, those that it inherits, and its default\n"
+     "block: the attributes that no other block holds. That is made for this answer, in\n"
+     "the memory of this run only. Of a package, classes without blocks are only named.",
      false, false, RunBlocks},
     {"dump", "write the whole model as JSON (--json)",
      "packages, maybe with a content word, as in Items.rbodef",
