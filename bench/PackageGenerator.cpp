@@ -93,7 +93,7 @@ private:
         Attribute("Abstract", number % 7 == 0 ? "Yes" : "No");
         Attribute("LateType", "");
         // Chains of 1 to 5 classes: each block of 15 classes holds one of every length.
-        static constexpr std::array<bool, 15> kHasSuper{false, false, true,  false, true, true,  false, true,
+        static constexpr std::array<bool, 15> kHasSuper{false, false, true,  false, true, true, false, true,
                                                         true,  true,  false, true,  true, true, true};
         if (number > 0 && kHasSuper[static_cast<std::size_t>(number % 15)]) {
             Attribute("SuperName", "BusinessClass" + std::to_string(number - 1));
@@ -110,10 +110,14 @@ private:
         const std::string uuid = UuidText(kAttribute, number);
         const int lot = place * 20 / shape_.attributesPerClass;  // twentieths of the class
         text_ += "    ";
-        if (lot < 14) WriteSimple(name, uuid);
-        else if (lot < 15) WriteEnumerated(name, uuid);
-        else if (lot < 19) WriteRelationship(name, uuid);
-        else WriteInverse(name, uuid, number);
+        if (lot < 14)
+            WriteSimple(name, uuid);
+        else if (lot < 15)
+            WriteEnumerated(name, uuid);
+        else if (lot < 19)
+            WriteRelationship(name, uuid);
+        else
+            WriteInverse(name, uuid, number);
         text_ += "/>\n";
     }
 

@@ -5,7 +5,7 @@
 
 /// Shape of a generated package. Elements are classes, attributes, enumerations and enumerators.
 struct PackageShape {
-    int elements = 213'000;        ///< about; the last class is whole
+    int elements = 213'000;  ///< about; the last class is whole
     int attributesPerClass = 20;
     int enumeratorsPerEnum = 9;
 };

@@ -147,8 +147,8 @@ TEST_F(OxmDicFromXMLFillInterfaceTest, GoingOnTellsBothMissingAttributes) {
     EXPECT_EQ(LoadInterface("<Method/>"), E_FAIL);
 
     EXPECT_EQ(faults.Summary(),
-              "missing-attribute 2:70 I:: @Name\n"
-              "missing-attribute 2:70 I:: @Uuid\n");
+              "missing-attribute 2:65 I:: @Name\n"
+              "missing-attribute 2:65 I:: @Uuid\n");
 }
 
 }  // namespace

@@ -51,10 +51,10 @@ public:
     /// null list.
     virtual HRESULT GetScopes(ZELListPtrIUnknown* scopes) = 0;
 
-    /// Without a scope, or with one that was emptied by hand, every class is in it; with one whose classes are
-    /// all gone none is. The first question after a change walks all subclasses and writes two lines for each
-    /// to standard error.
-    /// \param[out] inScope 1 or 0. \returns S_OK for 1, S_FALSE for 0; E_FAIL for null.
+    /// Without a scope, or with one that was emptied by hand, every class is in it; with one whose classes
+    /// are all gone none is. The first question after a change walks all subclasses and writes two lines for
+    /// each to standard error. \param[out] inScope 1 or 0. \returns S_OK for 1, S_FALSE for 0; E_FAIL for
+    /// null.
     virtual HRESULT IsClassInScope(const ZELDbBinary* classUuid, unsigned char* inScope) = 0;
 
 protected:

@@ -18,7 +18,7 @@ struct ZELSYSTEM_API ZELHashState {
 };
 extern ZELSYSTEM_API ZELHashState zelHashState;
 
-/// Draws the seed from the system's source of random numbers. Called by ZELHashSeed, once.
+/// Draws the number from the system's source of random numbers. Called by ZELHashSeed, once.
 ZELSYSTEM_API void ZELDrawHashSeed() noexcept;
 
 /// \returns the process's seed; draws it at the first call.
@@ -28,7 +28,7 @@ inline std::uint32_t ZELHashSeed() noexcept {
     return zelHashState.seed;
 }
 
-/// Sets the seed, so that a test sees the same keys in every run. Only before the first key is made:
+/// Sets the number, so that a test sees the same keys in every run. Only before the first key is made:
 /// keys made earlier no longer match.
 ZELSYSTEM_API void ZELSetHashSeed(std::uint32_t seed) noexcept;
 

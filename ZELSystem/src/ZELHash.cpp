@@ -11,7 +11,7 @@ namespace {
 
 __extension__ typedef unsigned __int128 Product;
 
-/// Folds the 128-bit product of two words. Both words carry bits of the seed, so that nobody outside can make
+/// Folds the 128-bit product of two words. Both words carry bits of this seed, so that nobody outside can make
 /// one of them zero.
 std::uint64_t Fold(std::uint64_t a, std::uint64_t b) noexcept {
     const Product product = static_cast<Product>(a) * b;

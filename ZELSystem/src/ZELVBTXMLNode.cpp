@@ -49,9 +49,8 @@ public:
     /// Writes the tape. Call it once.
     bool Read(ZELVBTXMLError* error) {
         if (text_.size() > kMaxLength) return Refuse(error, kTooLong) != nullptr;
-        positions_.emplace(text_, source_.encoding == ZELXMLEncoding::Utf8
-                                      ? ZELXMLTokenizer::MarkLength(text_)
-                                      : 0);
+        positions_.emplace(text_,
+                           source_.encoding == ZELXMLEncoding::Utf8 ? ZELXMLTokenizer::MarkLength(text_) : 0);
         if (!isValid_) {
             constexpr auto kBroken = static_cast<std::size_t>(ZELXMLFault::BrokenUtf16);
             Refuse(error, std::string(kZELXMLReasons[kBroken]), positions_->PositionOf(text_.size()));

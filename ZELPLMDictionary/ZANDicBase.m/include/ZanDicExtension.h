@@ -34,8 +34,8 @@ protected:
     int count_LostLinks() const override;
 
 private:
-    bool _ScopesMade = false;              ///< whether a scope was ever added
-    ZanDicLinkList<ZanDicClass> _SCOPES;   ///< not owning, by identity
+    bool _ScopesMade = false;             ///< whether a scope was ever added
+    ZanDicLinkList<ZanDicClass> _SCOPES;  ///< not owning, by identity
 };
 
 #endif

@@ -15,8 +15,8 @@ public:
     static const char* ClassName() { return ClassMeta().Name(); }
     ZELMetaClass& MetaObject() const override { return ClassMeta(); }
 
-    /// \param[out] path carries one reference. \returns S_OK; E_FAIL, with nothing made or kept, when there is
-    /// one already, the UUID is taken or this object is gone.
+    /// \param[out] path carries one reference. \returns S_OK; E_FAIL, with nothing made or kept, when there
+    /// is one already, the UUID is taken or this object is gone.
     HRESULT CreateRBOPathExpression(const ZELString* name, const ZELDbBinary* uuid,
                                     OXMIDicRBOPathExpression** path);
     /// \returns S_OK; E_FAIL when there is none.

@@ -28,9 +28,10 @@ public:
     HRESULT SetBaseClassName(const ZELUnicodeString* name);
     HRESULT GetBaseClassName(ZELUnicodeString* name) const;
 
-    /// \param[out] component carries one reference. \returns S_OK; E_FAIL, with nothing made or kept, when the
-    /// name or the UUID is taken or this object is gone.
-    HRESULT CreateRBOComponent(const ZELString* name, const ZELDbBinary* uuid, OXMIDicRBOComponent** component);
+    /// \param[out] component carries one reference. \returns S_OK; E_FAIL, with nothing made or kept, when
+    /// the name or the UUID is taken or this object is gone.
+    HRESULT CreateRBOComponent(const ZELString* name, const ZELDbBinary* uuid,
+                               OXMIDicRBOComponent** component);
 
     /// Flushes, unregisters and releases the components, then what else the object owns.
     /// \returns S_OK; the failing result of a member's FlushAll.
@@ -50,7 +51,9 @@ protected:
     int count_LostLinks() const override;
     const ZanHashList& components() const { return _COMPONENTS; }
     /// The components as the list that the teardown walks. \param operation as the trace names it.
-    ZanDicOwnedList components_AsOwned(std::string_view operation) { return {&_COMPONENTS, "_COMPONENTS", operation}; }
+    ZanDicOwnedList components_AsOwned(std::string_view operation) {
+        return {&_COMPONENTS, "_COMPONENTS", operation};
+    }
 
 private:
     ZanDicLink<ZanDicClass> _BaseClass;  ///< not owning

@@ -26,8 +26,8 @@ public:
     HRESULT SetTargetRef(const ZELDbBinary* uuid);
     HRESULT GetTargetRef(ZELDbBinary* uuid) const;
 
-    /// Texts, empty at first. \returns S_OK; the setters E_FAIL for an empty text, the getters of the two types
-    /// E_FAIL while theirs is empty.
+    /// Texts, empty at first. \returns S_OK; the setters E_FAIL for an empty text, the getters of the two
+    /// types E_FAIL while theirs is empty.
     HRESULT SetTargetName(const ZELUnicodeString* name);
     HRESULT GetTargetName(ZELUnicodeString* name) const;
     HRESULT SetPathExprType(const ZELUnicodeString* type);

@@ -51,9 +51,9 @@ private:
         std::size_t operator()(const ZELDbBinary& uuid) const { return uuid.ComputeHashKey(); }
     };
 
-    ZanDicLinkList<ZanDicClass> _CLASSES;                    ///< not owning, by identity
-    std::unordered_set<ZELDbBinary, UuidHash> _EXPANDED;     ///< UUIDs; empty until expanded
-    int _LostAtExpansion = 0;                                ///< named classes gone when that was made
+    ZanDicLinkList<ZanDicClass> _CLASSES;                 ///< not owning, by identity
+    std::unordered_set<ZELDbBinary, UuidHash> _EXPANDED;  ///< UUIDs; empty until expanded
+    int _LostAtExpansion = 0;                             ///< named classes gone when that was made
 };
 
 #endif

@@ -10,9 +10,9 @@
 #include "OXMIDicPackageTies.h"
 #include "OXMIDicRBOTies.h"
 #include "ZanDicAttribute.h"
+#include "ZanDicAttributeBlock.h"
 #include "ZanDicBOLink.h"
 #include "ZanDicBObject.h"
-#include "ZanDicAttributeBlock.h"
 #include "ZanDicCategory.h"
 #include "ZanDicClass.h"
 #include "ZanDicCommand.h"
@@ -68,8 +68,7 @@ constexpr ZELTieRow kRBORootRows[] = {ZELMakeTieRow<OXMIDicRBORootTie<ZanDicRBOR
 constexpr ZELTieRow kRBOComponentRows[] = {ZELMakeTieRow<OXMIDicRBOComponentTie<ZanDicRBOComponent>>()};
 constexpr ZELTieRow kRBOPathExpressionRows[] = {
     ZELMakeTieRow<OXMIDicRBOPathExpressionTie<ZanDicRBOPathExpression>>()};
-constexpr ZELTieRow kAttributeBlockRows[] = {
-    ZELMakeTieRow<OXMIDicAttributeBlockTie<ZanDicAttributeBlock>>()};
+constexpr ZELTieRow kAttributeBlockRows[] = {ZELMakeTieRow<OXMIDicAttributeBlockTie<ZanDicAttributeBlock>>()};
 
 /// Registers the rows when the library is loaded.
 [[maybe_unused]] const bool kRegistered = [] {

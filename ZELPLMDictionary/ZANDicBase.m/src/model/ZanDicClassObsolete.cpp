@@ -82,4 +82,3 @@ HRESULT ZanDicClass::Inherited(OXMIDicElement*, unsigned char* inherited) const 
     if (inherited != nullptr) *inherited = 0;
     return E_FAIL;
 }
-

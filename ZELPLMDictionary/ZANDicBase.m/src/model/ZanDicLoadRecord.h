@@ -8,8 +8,8 @@
 
 class OXMIDicPackage;
 
-/// Notes the name that was asked for, which the document may not bear itself, and the content kind. The record
-/// goes with the package.
+/// Notes the name that was asked for, which the document may not bear itself, and the content kind. The
+/// record goes with the package.
 void ZanDicNoteLoad(OXMIDicPackage& package, const ZELString& askedName, OXMDicCONTENT content);
 
 /// Finds a package by the name that was asked for when it was loaded.

@@ -172,9 +172,9 @@ private:
     ZELVBTXMLNode _Node;  ///< of the package
     std::unique_ptr<Reading> _Reading;
     std::unique_ptr<TuningReading> _Tuning;  ///< between ReadTuning and EndTuning
-    std::vector<ZELString> _NAMES;      ///< packages that the current step needs
-    std::vector<std::string> _ENTERED;  ///< names of this load that are in progress
-    std::vector<ZELString> _FAILED;     ///< needed packages that could not be loaded
+    std::vector<ZELString> _NAMES;           ///< packages that the current step needs
+    std::vector<std::string> _ENTERED;       ///< names of this load that are in progress
+    std::vector<ZELString> _FAILED;          ///< needed packages that could not be loaded
     std::size_t _NextName = 0;
     std::size_t _Order;
     std::size_t _Low;

@@ -30,9 +30,7 @@ void DumpRBOObject(const ZanDicElement& element, const char* caller) {
     ZELListValZELUnicodeString values;
     element.GetAllOtherAttributes(names, values);
     for (int position = 1; position <= names.Size(); ++position) {
-        ZanDicWriteAlways(std::string(prefix)
-                              .append(names[position].View())
-                              .append("=")
-                              .append(values[position].View()));
+        ZanDicWriteAlways(
+            std::string(prefix).append(names[position].View()).append("=").append(values[position].View()));
     }
 }

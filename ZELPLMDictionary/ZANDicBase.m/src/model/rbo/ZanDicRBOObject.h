@@ -40,8 +40,7 @@ HRESULT MakeRBOMember(const ZanDicElement& owner, ZanHashList& list, const ZELSt
                       const ZELDbBinary* uuid, Interface** out) {
     ZanDicObj* present = nullptr;
     if (name != nullptr && Succeeded(list.Search(*name, &present))) return E_FAIL;
-    return MakeRBOObject<Element>(owner, name, uuid, out,
-                                  [&](Element& made) { return list.Append(&made); });
+    return MakeRBOObject<Element>(owner, name, uuid, out, [&](Element& made) { return list.Append(&made); });
 }
 
 /// As AppendInterfaces, for the kinds that write a line where they refuse.

@@ -45,7 +45,9 @@ HRESULT ZanDicRBOPathExpression::SetTargetRef(const ZELDbBinary* uuid) { return 
 
 HRESULT ZanDicRBOPathExpression::GetTargetRef(ZELDbBinary* uuid) const { return GiveValue(_TargetRef, uuid); }
 
-HRESULT ZanDicRBOPathExpression::SetTargetName(const ZELUnicodeString* name) { return TakeText(_TargetName, name); }
+HRESULT ZanDicRBOPathExpression::SetTargetName(const ZELUnicodeString* name) {
+    return TakeText(_TargetName, name);
+}
 
 HRESULT ZanDicRBOPathExpression::GetTargetName(ZELUnicodeString* name) const {
     return GiveValue(_TargetName, name);
