@@ -120,15 +120,11 @@ TEST_F(OxmDicFromXMLCompleteExtensionTest, ARelationshipKeepsItsScopesInOrder) {
 
 class CommandFixture : public OxmDicFromXMLCompleteExtensionTest {
 protected:
-    CommandFixture() : _Command(new ZanDicCommand("Do", TestUuid(7))) { _Command->SetUuid(&_Uuid); }
-    ~CommandFixture() override {
-        Manager().End();
-        _Command->Release();
+    /// Registers a command. The manager's End, which ends every test, gives its creator's reference back.
+    CommandFixture() {
+        const ZELDbBinary uuid = TestUuid(7);
+        (new ZanDicCommand("Do", uuid))->SetUuid(&uuid);
     }
-
-private:
-    ZELDbBinary _Uuid = TestUuid(7);
-    ZanDicCommand* _Command;
 };
 
 TEST_F(CommandFixture, APackageTakesACommandThatIsThere) {

@@ -8,7 +8,8 @@
 #include "zandic.hpp"
 
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+// Of the sanitizer's runtime; not every compiler brings the header that declares it.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace {
