@@ -107,7 +107,8 @@ public:
     /// Never available. \returns E_FAIL.
     virtual HRESULT CreateRBOMapping(const ZELString* name, OXMIDicRBOMapping** element) = 0;
 
-    /// Attribute blocks. Not available yet. \returns E_FAIL.
+    /// Names, roots, fathers and inherited attributes of blocks that were just described, then checks of every
+    /// class; faults are told on standard error. A null list ends the process. \returns S_OK; E_FAIL.
     virtual HRESULT CreateAttributeBlock(const ZELDbBinary* uuid, OXMIDicAttributeBlock** block) = 0;
 
     /// Deprecated: each writes a notice. \returns E_FAIL.
