@@ -2,6 +2,8 @@
 #ifndef HEX_TO_BINARY_H
 #define HEX_TO_BINARY_H
 
+#include <string>
+
 #include "ZELDbBinary.h"
 #include "ZELString.h"
 #include "ZanDicExport.h"
@@ -18,5 +20,8 @@ ZANDICBASE_API void UuidBinToHexa_V2(unsigned char* bytes, int length, unsigned 
 /// Never refuses: a byte with an invalid or missing digit becomes 0xFF. Of \p text the first 64
 /// characters count. A null argument ends the process.
 ZANDICBASE_API void UuidHexToBinary(ZELString* text, ZELDbBinary* bytes);
+
+/// \returns the text of a UUID as documents and dumps show it; "UNDEFINED" for one without bytes.
+ZANDICBASE_API std::string UuidText(const ZELDbBinary& uuid);
 
 #endif

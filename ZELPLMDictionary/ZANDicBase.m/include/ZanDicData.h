@@ -5,6 +5,7 @@
 #include "ZELResult.h"
 #include "ZanDicExport.h"
 
+class ZanDicObj;
 class ZanDictionary;
 
 /// The process-wide holder: reads the trace settings when the library is loaded, makes the one manager
@@ -24,9 +25,11 @@ public:
 
 private:
     void InitTraces();
+    bool make_Manager();
 
-    OXMIDicMgr* _Mgr = nullptr;           ///< one reference held
-    ZanDictionary* _Dictionary = nullptr;  ///< one reference held
+    OXMIDicMgr* _Mgr = nullptr;            ///< one reference held
+    ZanDicObj* _Manager = nullptr;         ///< one reference held
+    ZanDictionary* _Dictionary = nullptr;  ///< the same object by its class; no reference of its own
 };
 
 extern ZANDICBASE_API ZanDicData _StaticZanDicData;

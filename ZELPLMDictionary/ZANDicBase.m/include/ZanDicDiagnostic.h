@@ -111,4 +111,7 @@ protected:
 /// stops at its first error. \returns the observer before.
 ZANDICBASE_API ZanDicDiagnosticObserver* ZanDicSetDiagnosticObserver(ZanDicDiagnosticObserver* observer);
 
+/// \returns the observer that is set, or null.
+ZANDICBASE_API ZanDicDiagnosticObserver* ZanDicGetDiagnosticObserver();
+
 #endif

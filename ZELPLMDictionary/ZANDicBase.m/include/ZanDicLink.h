@@ -31,6 +31,16 @@ public:
         if (_Place != 0) Drop();
     }
 
+    /// A number that two links share while both are set exactly when they name the same object, gone or
+    /// not; 0 for a link never set. Links set to an object that was gone already share one number.
+    std::uint32_t Identity() const { return _Place; }
+
+    /// Grows whenever a linked object goes: while it stands still, no link has become lost.
+    static std::uint64_t LostCount() { return lostCount; }
+
+    /// \returns the identity that links to \p object have; 0 when nothing links to it.
+    static std::uint32_t IdentityOf(const ZanDicObj& object);
+
 protected:
     /// \param object null resets the link. An object that is gone cannot be linked: lost at once.
     void Set(ZanDicObj* object);
@@ -41,15 +51,20 @@ private:
 
     struct Place {
         ZanDicObj* object;
-        std::uint32_t links;     ///< how many links name this place; the next free place when unused
-        std::uint32_t reserved;
+        std::uint32_t links;  ///< how many links name this place
+        std::uint32_t next;   ///< the next free place, of a free one
     };
 
     void Drop() noexcept;
     static std::uint32_t PlaceOf(ZanDicObj& object);
+    static std::uint32_t NewPlace();
     static void Forget(std::uint32_t place) noexcept;  ///< its object is gone
 
-    static Place* places;  ///< place 0 holds no object: what a link never set names
+    /// Place 0 never holds an object: what a link never set names. Place 1 neither: what a link names that
+    /// was set to an object already gone. The table grows, and is there until the process ends.
+    static Place firstPlaces[2];
+    static Place* places;
+    static std::uint64_t lostCount;
 
     std::uint32_t _Place = 0;
 };
@@ -66,6 +81,7 @@ public:
         return *this;
     }
 
+    /// \returns the object; null when the link is unset or lost.
     T* Get() const { return static_cast<T*>(Object()); }
     T* operator->() const { return Get(); }
     T& operator*() const { return *Get(); }

@@ -11,6 +11,8 @@
 #include "ZELDbBinary.h"
 #include "ZELListPtr.h"
 #include "ZELListVal.h"
+#include "ZELMetaClass.h"
+#include "ZELPool.h"
 #include "ZELString.h"
 #include "ZELUnicodeString.h"
 #include "ZanDicExport.h"
@@ -39,7 +41,7 @@ struct ZANDICBASE_API ZanDicRareFields {
 /// Counted: born with one reference, the creator's. Registered with the manager by UUID at most once;
 /// an object that is destroyed takes itself out. Callers of the dictionary hold interfaces
 /// (`QueryInterface`), never the object. One thread.
-class ZANDICBASE_API ZanDicObj : public ZELBaseUnknown {
+class ZANDICBASE_API ZanDicObj : public ZELBaseUnknown, public ZELPooled {
 public:
     /// Which class implements an object, as opposed to what kind of element it is.
     enum _type : int {
@@ -126,6 +128,14 @@ public:
     /// \p owned; its own lists are empty after that. Writes nothing.
     virtual void take_Owned(std::vector<ZanDicObj*>& owned);
 
+    /// How many objects there are in the process, for tests and diagnostics.
+    static int live_Objects() { return liveObjects; }
+    /// Whether a default object that is made and destroyed would show in the trace: the lookups that can
+    /// do without one make it only then.
+    static bool shows_Probe();
+    /// The default object that all searches by name share; made, and shown, at the first call.
+    static void make_SharedProbe();
+
 protected:
     /// Drops every link that this object holds to others; run when it goes.
     virtual void drop_Links();
@@ -137,6 +147,12 @@ protected:
 
 private:
     friend class ZanDicLinkBase;
+
+    static int liveObjects;
+
+    /// Runs \p assign on the UUID and keeps the registry in step when it holds this object.
+    template <class Assign>
+    void rekey(const Assign& assign);
 
     OXMDicTYPE _Type = static_cast<OXMDicTYPE>(-1);
     ZELString _Name;

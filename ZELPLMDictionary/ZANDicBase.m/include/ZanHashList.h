@@ -1,8 +1,6 @@
 #ifndef ZAN_HASH_LIST_H
 #define ZAN_HASH_LIST_H
 
-#include <memory>
-
 #include "ZELHashTable.h"
 #include "ZELListPtr.h"
 #include "ZELResult.h"
@@ -25,10 +23,10 @@ enum class ZanHashListKind : unsigned char {
 /// Takes and drops no reference. Positions run from 1 to Size(). Names compare exactly, case included;
 /// the key of an object is the name that it had when it was appended. Append and Search cost one hash
 /// lookup; Remove is amortised constant as well; operator[] is constant while nothing is removed
-/// between calls. An empty list costs one word. One thread.
+/// and no object goes between calls. An empty list costs one word. One thread.
 class ZANDICBASE_API ZanHashList {
 public:
-    /// \param size number of objects to expect; the list grows past it.
+    /// \param size number of objects to expect: a hint, no limit; room is taken as objects come.
     explicit ZanHashList(int size, ZanHashListKind kind = ZanHashListKind::Links);
     ZanHashList(const ZanHashList& other);
     ZanHashList& operator=(const ZanHashList& other);
@@ -70,9 +68,10 @@ public:
 private:
     struct Store;
 
-    std::unique_ptr<Store> _STORE;  ///< null while nothing was ever appended
-    int _Size;
-    ZanHashListKind _Kind;
+    static Store* empty_Store(ZanHashListKind kind) noexcept;
+    Store& make_Store();
+
+    Store* _STORE;  ///< owned; the shared empty one of the kind while nothing is in the list
 };
 
 #endif

@@ -6,19 +6,19 @@
 ///     if (auto line = trace.Line(TraceLevel::Detail)) line << "_Name=" << name;
 ///
 /// The test is one inline comparison; operands of a line that is not written are never evaluated.
+/// The settings are there before the first initialiser runs and outlive the last destructor.
 #ifndef ZAN_DIC_TRACE_H
 #define ZAN_DIC_TRACE_H
 
 #include <concepts>
-#include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "ZELDbBinary.h"
 #include "ZELLineSink.h"
 #include "ZELResult.h"
 #include "ZELString.h"
 #include "ZELUnicodeString.h"
-#include "ZanDicExport.h"
 
 /// Level of a line.
 enum class TraceLevel : int {
@@ -31,14 +31,14 @@ enum class TraceLevel : int {
 
 namespace ZanDicTrace {
 
-/// The highest level that any line may have to be written; above every level once an operation is
+/// The highest level that a line may have to be written; above every level once an operation is
 /// listed, so that the common case is decided by this comparison alone.
 extern constinit int threshold;
 
 /// The whole test, reached when the comparison passes.
-bool IsWritten(int level, std::string_view operation);
+[[gnu::cold]] bool IsWritten(int level, std::string_view operation);
 
-/// Reads the settings from the environment, once per process.
+/// Reads the settings from the environment, once per process; later calls only say what they are.
 void InitFromEnvironment();
 
 /// While one lives, errors and warnings count as caused by the document that is being read.
@@ -59,17 +59,23 @@ private:
 class ZanDicTraceLine {
 public:
     ZanDicTraceLine() = default;
-    ZanDicTraceLine(std::string_view operation, ZELLineSeverity severity);
-    ~ZanDicTraceLine();
+    [[gnu::cold]] ZanDicTraceLine(std::string_view operation, ZELLineSeverity severity);
+    ~ZanDicTraceLine() {
+        if (_Draft != nullptr) Write();
+    }
     ZanDicTraceLine(const ZanDicTraceLine&) = delete;
     ZanDicTraceLine& operator=(const ZanDicTraceLine&) = delete;
 
-    explicit operator bool() const { return _Active; }
+    explicit operator bool() const { return _Draft != nullptr; }
 
     ZanDicTraceLine& operator<<(std::string_view text);
     ZanDicTraceLine& operator<<(const char* text) { return *this << std::string_view(text); }
-    ZanDicTraceLine& operator<<(const ZELString& text) { return *this << text.View(); }
-    ZanDicTraceLine& operator<<(const ZELUnicodeString& text) { return *this << text.View(); }
+    /// The text; of a null pointer nothing. A value that begins with a dash is no separator.
+    ZanDicTraceLine& operator<<(const ZELString& text) { return Value(text.View()); }
+    ZanDicTraceLine& operator<<(const ZELUnicodeString& text) { return Value(text.View()); }
+    ZanDicTraceLine& operator<<(const ZELString* text) {
+        return Value(text != nullptr ? text->View() : std::string_view());
+    }
     /// A UUID, as 32 upper-case digits; an empty one as "UNDEFINED".
     ZanDicTraceLine& operator<<(const ZELDbBinary& uuid);
     /// An address; null as "0".
@@ -78,14 +84,20 @@ public:
     ZanDicTraceLine& operator<<(Number number) {
         return Append(static_cast<long long>(number));
     }
+    template <class Code>
+        requires std::is_enum_v<Code>
+    ZanDicTraceLine& operator<<(Code code) {
+        return Append(static_cast<long long>(code));
+    }
 
 private:
-    ZanDicTraceLine& Append(long long number);
+    struct Draft;
 
-    bool _Active = false;
-    bool _Separated = false;  ///< the separator after the operation's name is settled
-    ZELLineSeverity _Severity = ZELLineSeverity::None;
-    std::string _Text;
+    ZanDicTraceLine& Value(std::string_view text);
+    ZanDicTraceLine& Append(long long number);
+    [[gnu::cold]] void Write() noexcept;
+
+    Draft* _Draft = nullptr;  ///< owned; null when the line is not written
 };
 
 /// The trace of one operation: knows its name and its exit word.
@@ -97,9 +109,13 @@ public:
         : _Operation(operation), _ExitWord(exitWord) {}
 
     /// Whether a line of this level is written.
-    bool On(TraceLevel level) const {
+    bool On([[maybe_unused]] TraceLevel level) const {
+#ifdef ZANDIC_WITHOUT_TRACE  // for measuring what the tests of the trace cost
+        return false;
+#else
         return static_cast<int>(level) <= ZanDicTrace::threshold &&
                ZanDicTrace::IsWritten(static_cast<int>(level), _Operation);
+#endif
     }
 
     /// Starts a line of the given level.
@@ -112,13 +128,13 @@ public:
 
     /// Writes a whole line of text.
     void Say(TraceLevel level, std::string_view text) const {
-        if (auto line = Line(level)) line << text;
+        if (On(level)) WriteText(text, ZELLineSeverity::None);
     }
     void Error(std::string_view text) const {
-        if (auto line = Error()) line << text;
+        if (On(TraceLevel::Error)) WriteText(text, ZELLineSeverity::Error);
     }
     void Warning(std::string_view text) const {
-        if (auto line = Warning()) line << text;
+        if (On(TraceLevel::Error)) WriteText(text, ZELLineSeverity::Warning);
     }
 
     /// Writes the start line. \param marker with or without the trailing blank that some have.
@@ -126,9 +142,12 @@ public:
 
     /// Writes the exit line, "OK" unless \p rc is a failure. \returns \p rc.
     HRESULT Exit(HRESULT rc) const {
-        if (auto line = Line(TraceLevel::Call)) line << "=== exit === " << _ExitWord << Word(rc);
+        if (On(TraceLevel::Call)) WriteExit(rc);
         return rc;
     }
+
+    /// Writes the error line "Printing call stack:" and the stack itself to standard error.
+    void CallStack() const;
 
     /// "OK" or "KO".
     static constexpr std::string_view Word(HRESULT rc) { return Failed(rc) ? "KO" : "OK"; }
@@ -136,6 +155,9 @@ public:
     std::string_view Operation() const { return _Operation; }
 
 private:
+    [[gnu::cold]] void WriteText(std::string_view text, ZELLineSeverity severity) const;
+    [[gnu::cold]] void WriteExit(HRESULT rc) const;
+
     std::string_view _Operation;
     std::string_view _ExitWord;
 };

@@ -1,0 +1,378 @@
+#include "ZanDicObj.h"
+
+#include <string>
+
+#include "HexToBinary.h"
+#include "OXMIDicCategory.h"
+#include "ZELUuid.h"
+#include "ZanDicImplementation.h"
+#include "ZanDicLink.h"
+#include "ZanDicRef.h"
+#include "ZanDicRegistry.h"
+#include "ZanDicTrace.h"
+#include "ZanDicTraceSettings.h"
+#include "ZanDicTypeNames.h"
+#include "ZanHashList.h"
+
+namespace {
+
+constexpr int kCategoriesSize = 29;
+
+constexpr ZanDicTraceScope kConstructor("ZanDicObj::ZanDicObj");
+constexpr ZanDicTraceScope kDestructor("ZanDicObj::~ZanDicObj");
+
+/// By type code; codes without an interface have none here either.
+constexpr struct {
+    OXMDicTYPE type;
+    ZELInterfaceId id;
+} kInterfaces[] = {
+    {OXMDicTYPE_Primitive, IID_OXMIDicPrimitive},
+    {OXMDicTYPE_Category, IID_OXMIDicCategory},
+    {OXMDicTYPE_Enum, IID_OXMIDicEnum},
+    {OXMDicTYPE_Simple, IID_OXMIDicSimple},
+    {OXMDicTYPE_Class, IID_OXMIDicClass},
+    {OXMDicTYPE_Relationship, IID_OXMIDicRelationship},
+    {OXMDicTYPE_Inverse, IID_OXMIDicInverse},
+    {OXMDicTYPE_Interface, IID_OXMIDicInterface},
+    {OXMDicTYPE_Method, IID_OXMIDicMethod},
+    {OXMDicTYPE_Parameter, IID_OXMIDicParameter},
+    {OXMDicTYPE_Package, IID_OXMIDicPackage},
+    {OXMDicTYPE_BObject, IID_OXMIDicBObject},
+    {OXMDicTYPE_Extension, IID_OXMIDicExtension},
+    {OXMDicTYPE_BOLink, IID_OXMIDicBOLink},
+    {OXMDicTYPE_Unique, IID_OXMIDicUnique},
+    {OXMDicTYPE_Command, IID_OXMIDicCommand},
+    {OXMDicTYPE_CommandParameter, IID_OXMIDicCommandParameter},
+    {OXMDicTYPE_Enumerator, IID_OXMIDicEnumerator},
+    {OXMDicTYPE_AttributeBlock, IID_OXMIDicAttributeBlock},
+    {OXMDicTYPE_RBOClass, IID_OXMIDicRBOClass},
+    {OXMDicTYPE_RBOMapping, IID_OXMIDicRBOMapping},
+    {OXMDicTYPE_RBORoot, IID_OXMIDicRBORoot},
+    {OXMDicTYPE_RBOComponent, IID_OXMIDicRBOComponent},
+    {OXMDicTYPE_RBOPathExpression, IID_OXMIDicRBOPathExpression},
+};
+
+const ZELInterfaceId* FindInterface(int type) {
+    for (const auto& row : kInterfaces) {
+        if (row.type == type) return &row.id;
+    }
+    return nullptr;
+}
+
+/// The constructors are silent at level 0 even when they are listed.
+bool ConstructorShows(TraceLevel level) { return kConstructor.On(level) && ZanDicGetTraceLevel() != 0; }
+
+ZELString NameBehind(const OXMIDicCategory& category) {
+    ZELString name;
+    const_cast<OXMIDicCategory&>(category).GetName(&name);
+    return name;
+}
+
+constinit ZELMetaClass objectMeta("ZanDicObj");
+
+}  // namespace
+
+constinit int ZanDicObj::liveObjects = 0;
+
+ZanDicRareFields::ZanDicRareFields() = default;
+ZanDicRareFields::~ZanDicRareFields() = default;
+ZanDicRareFields::ZanDicRareFields(const ZanDicRareFields&) = default;
+
+std::unique_ptr<ZanDicRareFields> ZanDicRareFields::Copy() const {
+    return std::make_unique<ZanDicRareFields>(*this);
+}
+
+ZanDicObj::ZanDicObj() : _Name("UNDEFINED") {
+    ++liveObjects;
+    if (!ConstructorShows(TraceLevel::Call)) return;
+    kConstructor.Line(TraceLevel::Call) << "_Type=" << _Type << ", _Name=" << _Name;
+    kConstructor.Line(TraceLevel::Call) << "@=" << this;
+}
+
+ZanDicObj::ZanDicObj(const ZELString& name, const ZELDbBinary& uuid) : _Name(name), _Uuid(uuid) {
+    ++liveObjects;
+    if (!ConstructorShows(TraceLevel::Detail)) return;
+    kConstructor.Line(TraceLevel::Detail) << "_Type=" << _Type << " (" << ZanDicTypeName(_Type)
+                                          << "), _Name=" << _Name << ", _Uuid=" << _Uuid;
+    kConstructor.Line(TraceLevel::Detail) << "@=" << this;
+}
+
+ZanDicObj::ZanDicObj(const ZanDicObj& other)
+    : ZELBaseUnknown(other),
+      ZELPooled(other),
+      _Type(other._Type),
+      _Name(other._Name),
+      _Rare(other._Rare ? other._Rare->Copy() : nullptr),
+      _Uuid(other._Uuid) {
+    ++liveObjects;
+}
+
+ZanDicObj& ZanDicObj::operator=(const ZanDicObj& other) {
+    if (this == &other) return *this;
+    const auto assign = [&] {
+        _Type = other._Type;
+        _Name = other._Name;
+        _Rare = other._Rare ? other._Rare->Copy() : nullptr;
+        _Uuid = other._Uuid;
+    };
+    if (_Registered && !(_Uuid == other._Uuid)) {
+        rekey(assign);
+    } else {
+        assign();
+    }
+    return *this;
+}
+
+ZanDicObj::~ZanDicObj() {
+    if (kDestructor.On(TraceLevel::Call)) {
+        kDestructor.Start();
+        if (auto line = kDestructor.Line(TraceLevel::Detail)) {
+            line << "_Type=" << _Type << " (" << ZanDicTypeName(_Type) << "), _Name=" << _Name
+                 << ", _Uuid=" << _Uuid;
+        }
+        if (auto line = kDestructor.Line(TraceLevel::Detail)) line << "@=" << this;
+    }
+    if (_Registered) {
+        if (ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->forget_Obj(*this);
+    }
+    if (_LinkPlace != 0) ZanDicLinkBase::Forget(_LinkPlace);
+    --liveObjects;
+}
+
+ZELMetaClass& ZanDicObj::ClassMeta() { return objectMeta; }
+
+HRESULT ZanDicObj::QueryInterface(const ZELInterfaceId& id, void** out) noexcept {
+    if (id == IID_ZanDicImplementation && out != nullptr) {
+        *out = this;
+        return S_OK;
+    }
+    return ZELBaseUnknown::QueryInterface(id, out);
+}
+
+HRESULT ZanDicObj::GetName(ZELString* name) const {
+    if (name == nullptr) return E_FAIL;
+    *name = _Name;
+    return S_OK;
+}
+
+HRESULT ZanDicObj::SetName(const ZELString* name) {
+    if (name == nullptr) return E_FAIL;
+    _Name = *name;
+    return S_OK;
+}
+
+HRESULT ZanDicObj::GetUuid(ZELDbBinary* uuid) const {
+    if (uuid == nullptr) return E_FAIL;
+    *uuid = _Uuid;
+    return S_OK;
+}
+
+template <class Assign>
+void ZanDicObj::rekey(const Assign& assign) {
+    // An object that is gone stays outside: its owner's reference was given back already.
+    ZanDicRegistry* const registry = _Gone ? nullptr : ZanDicGetRegistry();
+    if (registry == nullptr || !registry->keeps_Obj(*this)) {
+        assign();
+        return;
+    }
+    registry->Delete(this);
+    assign();
+    registry->Insert(this);
+}
+
+HRESULT ZanDicObj::SetUuid(const ZELDbBinary* uuid) {
+    if (uuid != nullptr) {
+        rekey([&] { _Uuid = *uuid; });
+    }
+    // Deliberate: E_FAIL even when it worked (ZanDicObjTest.SetUuidAlwaysReportsFailure).
+    return E_FAIL;
+}
+
+HRESULT ZanDicObj::GenUuid() {
+    const auto assign = [&] { _Uuid = getuuid(); };
+    if (_Registered) {
+        rekey(assign);
+    } else {
+        assign();
+    }
+    return S_OK;
+}
+
+HRESULT ZanDicObj::GetType(OXMDicTYPE* type) const {
+    if (type == nullptr) return E_FAIL;
+    *type = _Type;
+    return S_OK;
+}
+
+HRESULT ZanDicObj::set_TYPE(OXMDicTYPE type) {
+    _Type = type;
+    return S_OK;
+}
+
+HRESULT ZanDicObj::SetOtherAttribute(const ZELUnicodeString& name, const ZELUnicodeString& value) {
+    const ZELUnicodeString strippedName = name.Stripped();
+    if (strippedName.IsEmpty()) return E_FAIL;
+
+    ZanDicRareFields& fields = make_Rare();
+    if (const int position = fields.otherNames.Locate(strippedName); position != 0) {
+        fields.otherValues[position] = value.Stripped();
+        return S_OK;
+    }
+    fields.otherNames.Append(strippedName);
+    fields.otherValues.Append(value.Stripped());
+    return S_OK;
+}
+
+HRESULT ZanDicObj::GetOtherAttribute(const ZELUnicodeString& name, ZELUnicodeString& value) const {
+    const ZELUnicodeString wanted = name;  // the caller may pass one string as both
+    value = ZELUnicodeString("");
+    if (wanted.IsEmpty() || !_Rare) return E_FAIL;
+
+    const int position = _Rare->otherNames.Locate(wanted);
+    if (position == 0) return E_FAIL;
+    value = _Rare->otherValues[position];
+    return S_OK;
+}
+
+HRESULT ZanDicObj::GetAllOtherAttributes(ZELListValZELUnicodeString& names,
+                                         ZELListValZELUnicodeString& values) const {
+    names = _Rare ? _Rare->otherNames : ZELListValZELUnicodeString();
+    values = _Rare ? _Rare->otherValues : ZELListValZELUnicodeString();
+    return S_OK;
+}
+
+HRESULT ZanDicObj::AddCategory(const OXMIDicCategory* category) {
+    constexpr ZanDicTraceScope trace("ZanDicObj::AddCategory");
+    trace.Start("=== start === ");
+    if (auto line = trace.Line(TraceLevel::Detail)) line << "_Name=" << _Name;
+    if (category == nullptr) {
+        if (auto line = trace.Error()) line << 234 << "- *** ERROR *** Input argument is NULL.";
+        return trace.Exit(E_FAIL);
+    }
+    ZanDicObj* const object = ImplementationOf(category);
+    if (object == nullptr || object->is_Gone()) return trace.Exit(E_FAIL);
+
+    ZanDicRareFields& fields = make_Rare();
+    if (!fields.categories) {
+        trace.Say(TraceLevel::Detail, "Creating _CATEGORIES = new ZanHashList");
+        fields.categories = std::make_shared<ZanHashList>(kCategoriesSize);
+    }
+    const ZELString name = NameBehind(*category);
+    if (auto line = trace.Line(TraceLevel::Detail)) line << "CategoryName=" << name;
+    ZanDicObj* found = nullptr;
+    if (Succeeded(fields.categories->Search(name, &found))) {
+        if (auto line = trace.Line(TraceLevel::Detail)) {
+            line << "Category " << name << " is already defined for element named " << _Name;
+        }
+        return trace.Exit(S_FALSE);
+    }
+    return trace.Exit(fields.categories->Append(object));
+}
+
+HRESULT ZanDicObj::RemoveCategory(const OXMIDicCategory* category) {
+    if (!_Rare || !_Rare->categories || category == nullptr) return E_FAIL;
+    return _Rare->categories->Remove(NameBehind(*category));
+}
+
+HRESULT ZanDicObj::IsCategory(const ZELString* name, unsigned char* isCategory) const {
+    if (!_Rare || !_Rare->categories || name == nullptr || isCategory == nullptr) return E_FAIL;
+    ZanDicObj* found = nullptr;
+    *isCategory = Succeeded(_Rare->categories->Search(*name, &found)) ? 1 : 0;
+    return S_OK;
+}
+
+HRESULT ZanDicObj::GetCategories(ZELListPtrIUnknown* categories) const {
+    if (categories == nullptr) return E_INVALIDARG;
+    if (!_Rare || !_Rare->categories) return E_FAIL;
+
+    HRESULT rc = S_OK;
+    const ZanHashList& attached = *_Rare->categories;
+    for (int position = 1; position <= attached.Size(); ++position) {
+        void* category = nullptr;
+        rc = attached[position]->bind_Interface(OXMDicTYPE_UNDEFINED, &category);
+        if (category != nullptr) categories->Append(static_cast<IUnknown*>(category));
+    }
+    return rc;
+}
+
+HRESULT ZanDicObj::GetLostLinks(int* /*count*/) const { return E_FAIL; }
+
+HRESULT ZanDicObj::bind_Interface(OXMDicTYPE type, void** out) const {
+    const int code = type < OXMDicTYPE_Primitive ? _Type : type;
+    if (const ZELInterfaceId* const id = FindInterface(code)) {
+        return const_cast<ZanDicObj*>(this)->QueryInterface(*id, out);
+    }
+    if (ZanDicTraceScope("ZanDicObj::bind_Interface").On(TraceLevel::Error)) {
+        // A blank instead of the usual separator's.
+        ZanDicWriteAlways(
+            "ZanDicObj::bind_Interface -*** WARNING *** Unkown object type=" + std::to_string(code) + ".",
+            ZELLineSeverity::Warning);
+    }
+    return E_FAIL;
+}
+
+ZanDicObj::_type ZanDicObj::get_type() const { return _type_Element; }
+
+void ZanDicObj::Dump(const char* caller) const {
+    const std::string label = "ZanDicObj::Dump - ";
+    const std::string typeName(_Type == OXMDicTYPE_UNDEFINED ? "Unknown" : ZanDicTypeName(_Type));
+    ZanDicWriteAlways(label + " called by " + (caller != nullptr ? caller : "") + " ------");
+    ZanDicWriteAlways(label + "_Name=" + _Name.ConvertToChar() + ".");
+    ZanDicWriteAlways(label + "_Uuid=" + UuidText(_Uuid) + ".");
+    ZanDicWriteAlways(label + "_Type=" + std::to_string(static_cast<int>(_Type)) + "-" + typeName + ".");
+}
+
+ZELString ZanDicObj::get_PackageName() const { return "?"; }
+
+void ZanDicObj::mark_Gone() {
+    if (_Gone) return;
+    _Gone = true;
+    if (_LinkPlace != 0) ZanDicLinkBase::Forget(_LinkPlace);
+    _LinkPlace = 0;
+    drop_Links();
+}
+
+void ZanDicObj::take_Owned(std::vector<ZanDicObj*>& /*owned*/) {}
+
+void ZanDicObj::drop_Links() {}
+
+std::unique_ptr<ZanDicRareFields> ZanDicObj::new_RareFields() const {
+    return std::make_unique<ZanDicRareFields>();
+}
+
+ZanDicRareFields& ZanDicObj::make_Rare() {
+    if (!_Rare) _Rare = new_RareFields();
+    return *_Rare;
+}
+
+bool ZanDicObj::shows_Probe() {
+    return ConstructorShows(TraceLevel::Call) || kDestructor.On(TraceLevel::Call);
+}
+
+void ZanDicObj::make_SharedProbe() {
+    // Kept for the life of the process, and no object of the dictionary.
+    static ZanDicObj* const probe = [] {
+        auto* const object = new ZanDicObj;
+        --liveObjects;
+        return object;
+    }();
+    static_cast<void>(probe);
+}
+
+std::uint32_t HashNameZanDicObj(ZanDicObj* object) {
+    return object != nullptr ? object->Name().ComputeHashKey() : 0;
+}
+
+std::uint32_t HashUuidZanDicObj(ZanDicObj* object) {
+    return object != nullptr ? object->Uuid().ComputeHashKey() : 0;
+}
+
+int CompareNameZanDicObj(ZanDicObj* first, ZanDicObj* second) {
+    if (first == nullptr || second == nullptr) return (first != nullptr) - (second != nullptr);
+    return first->Name().Compare(second->Name());
+}
+
+int CompareUuidZanDicObj(ZanDicObj* first, ZanDicObj* second) {
+    if (first == nullptr || second == nullptr) return (first != nullptr) - (second != nullptr);
+    return first->Uuid().Compare(second->Uuid());
+}
