@@ -169,9 +169,10 @@ private:
 /// Reading checks the whole of XML 1.0 (fifth edition) that concerns a reader which does not validate,
 /// with one departure: an attribute given twice in a tag is accepted, and both stay, in their order.
 /// Text is UTF-8, with or without byte order mark; US-ASCII may be declared too, and is then enforced.
-/// Any other encoding is refused. A document type declaration is passed over: nothing that it defines
-/// is used, nothing outside the document is ever read, and a reference to anything but a character or
-/// one of the five predefined entities is a fault. Comments, processing instructions and character data
+/// Any other encoding is refused. A document type declaration is passed over: of the declarations inside,
+/// quotes, comments and characters are checked and nothing else; nothing that they define is used, nothing
+/// outside the document is ever read, and a reference to anything but a character or one of the five
+/// predefined entities is a fault. Comments, processing instructions and character data
 /// are checked and not kept. A document has less than 4 GiB; nesting is bounded by memory alone.
 /// Costs, beside the text: 16 bytes an element, 12 an attribute.
 class ZELSYSTEM_API ZELVBTXMLDocument {

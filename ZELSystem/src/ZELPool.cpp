@@ -24,7 +24,7 @@ namespace {
 constexpr std::size_t kGranule = 8;
 constexpr std::size_t kLargestBlock = 512;
 constexpr std::size_t kFirstChunk = 1024;
-constexpr std::size_t kLargestChunk = 128 * 1024;
+constexpr std::size_t kLargestChunk = std::size_t{128} * 1024;
 
 struct FreeBlock {
     FreeBlock* next;

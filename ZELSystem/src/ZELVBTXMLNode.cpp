@@ -35,12 +35,7 @@ class ZELVBTXMLDocument::Storage {
 public:
     explicit Storage(ZELFileContent content) : content_(std::move(content)), text_(content_.View()) {}
 
-    explicit Storage(std::string_view text) {
-        copy_.SetSize(text.size() + ZELXMLTokenizer::kPadding);
-        if (!text.empty()) std::memcpy(copy_.Data(), text.data(), text.size());
-        std::memset(copy_.Data() + text.size(), 0, ZELXMLTokenizer::kPadding);
-        text_ = {copy_.Data(), text.size()};
-    }
+    explicit Storage(std::string_view text) : text_(Copy(text)) {}
 
     /// Writes the tape. Call it once.
     bool Read(ZELVBTXMLError* error) {
@@ -65,9 +60,16 @@ public:
     const ZELVBTXMLTape& Tape() const { return tape_; }
 
 private:
-    ZELFileContent content_;
-    ZELXMLBlock<char> copy_;
-    std::string_view text_;
+    std::string_view Copy(std::string_view text) {
+        copy_.SetSize(text.size() + ZELXMLTokenizer::kPadding);
+        if (!text.empty()) std::memcpy(copy_.Data(), text.data(), text.size());
+        std::memset(copy_.Data() + text.size(), 0, ZELXMLTokenizer::kPadding);
+        return {copy_.Data(), text.size()};
+    }
+
+    ZELFileContent content_;  ///< the text of a file,
+    ZELXMLBlock<char> copy_;  ///< or the copy of a text from memory
+    std::string_view text_;   ///< in one of these two
     ZELXMLTapeStore store_;
     ZELXMLPositions positions_{text_, ZELXMLTokenizer::MarkLength(text_)};
     ZELVBTXMLTape tape_;

@@ -74,7 +74,7 @@ inline constexpr std::string_view kZELXMLReasons[] = {
     "text outside the root element",
     "there is no element",
     "a second root element",
-    "a tag without a name",
+    "\"<\" begins no tag; write \"&lt;\" for the character",
     "the tag is not closed by \">\"",
     "an unexpected character in a tag",
     "an end tag without a start tag",
@@ -86,7 +86,7 @@ inline constexpr std::string_view kZELXMLReasons[] = {
     "the value of an attribute is not quoted",
     "\"<\" in the value of an attribute",
     "the value of an attribute is not closed by its quote",
-    "\"&\" begins no reference; write \"&amp;\"",
+    "\"&\" begins no well-formed reference; write \"&amp;\" for the character",
     "a reference to the entity \"{}\", which is not one of the five predefined ones",
     "a reference to a character that XML does not allow",
 };

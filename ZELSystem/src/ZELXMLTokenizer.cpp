@@ -123,7 +123,7 @@ const char* ZELXMLTokenizer::ReadRoot(const char* p) {
 const char* ZELXMLTokenizer::ReadStartTag(const char* p) {
     const char* const tag = p + 1;
     p = ReadName(tag, ZELXMLFault::TagName);
-    if (p == nullptr) return nullptr;
+    if (p == nullptr) return fault_ == ZELXMLFault::TagName ? Fail(fault_, tag - 1) : nullptr;
     const auto firstAttribute = static_cast<std::uint32_t>(store_.attributes.Size());
     const auto element = static_cast<std::uint32_t>(store_.elements.Size());
     store_.elements.Append({Offset(tag), static_cast<std::uint32_t>(p - tag), firstAttribute, open_});
@@ -136,11 +136,11 @@ const char* ZELXMLTokenizer::ReadStartTag(const char* p) {
             CloseElement();
             return next + 2;
         }
+        if (next == end_ || *next == '<') return Fail(ZELXMLFault::TagNotClosed, tag - 1);
         if (next == p) {
             const bool isName = ZELXMLIs(*p, kZELXMLNameStart);
             return FailInStartTag(p, isName ? ZELXMLFault::AttributeNotSeparated : ZELXMLFault::TagCharacter);
         }
-        if (next == end_) return Fail(ZELXMLFault::TagNotClosed, tag - 1);
         p = ReadAttribute(next);
         if (p == nullptr) return nullptr;
     }
@@ -170,6 +170,18 @@ const char* ZELXMLTokenizer::ReadEndTag(const char* p) {
     return close + 1;
 }
 
+inline void ZELXMLTokenizer::AppendAttribute(const char* name, const char* nameEnd, const Value& value) {
+    using Record = ZELVBTXMLAttributeRecord;
+    const auto nameLength = static_cast<std::uint32_t>(nameEnd - name);
+    if (!value.decoded && nameLength <= Record::kMaxNameLength && value.length < Record::kAside) {
+        store_.attributes.Append({Offset(name), value.offset, value.length << 8 | nameLength});
+        return;
+    }
+    const auto index = static_cast<std::uint32_t>(store_.asides.Size());
+    store_.asides.Append({nameLength, value.offset, value.length, value.decoded ? 1u : 0u});
+    store_.attributes.Append({Offset(name), index, Record::kAside << 8});
+}
+
 const char* ZELXMLTokenizer::ReadAttribute(const char* name) {
     const char* const nameEnd = ReadName(name, ZELXMLFault::AttributeName);
     if (nameEnd == nullptr) return nullptr;
@@ -182,17 +194,12 @@ const char* ZELXMLTokenizer::ReadAttribute(const char* name) {
     }
     const char* const value = p + 1;
     const char* const stop = FindValueStop(value, *p);
-    const auto nameLength = static_cast<std::size_t>(nameEnd - name);
-    const auto valueLength = static_cast<std::size_t>(stop - value);
-    const bool usual = *stop == *p && nameLength <= ZELVBTXMLAttributeRecord::kMaxNameLength &&
-                       valueLength < ZELVBTXMLAttributeRecord::kAside;
-    if (!usual) return ReadUnusualValue(name, nameEnd, value, stop);
-    const auto lengths = static_cast<std::uint32_t>(valueLength << 8 | nameLength);
-    store_.attributes.Append({Offset(name), Offset(value), lengths});
+    if (*stop != *p) return ReadUnusualValue(name, nameEnd, value, stop);
+    AppendAttribute(name, nameEnd, {Offset(value), static_cast<std::uint32_t>(stop - value), false});
     return stop + 1;
 }
 
-/// Reads on from \p p in a value that is long, has a long name, must be decoded or has more than ASCII.
+/// Reads on from \p p in a value that must be decoded or has more than ASCII.
 const char* ZELXMLTokenizer::ReadUnusualValue(const char* name, const char* nameEnd, const char* value,
                                               const char* p) {
     const char quote = value[-1];
@@ -220,21 +227,14 @@ const char* ZELXMLTokenizer::ReadUnusualValue(const char* name, const char* name
         }
         p = next;
     }
-    const auto nameLength = static_cast<std::uint32_t>(nameEnd - name);
     if (run == value) {
-        AppendAside(name, {nameLength, Offset(value), static_cast<std::uint32_t>(p - value), 0});
+        AppendAttribute(name, nameEnd, {Offset(value), static_cast<std::uint32_t>(p - value), false});
     } else {
         store_.decodedText.Append(run, p);
         const auto decodedLength = static_cast<std::uint32_t>(store_.decodedText.Size() - decodedBegin);
-        AppendAside(name, {nameLength, static_cast<std::uint32_t>(decodedBegin), decodedLength, 1});
+        AppendAttribute(name, nameEnd, {static_cast<std::uint32_t>(decodedBegin), decodedLength, true});
     }
     return p + 1;
-}
-
-void ZELXMLTokenizer::AppendAside(const char* name, const ZELVBTXMLAsideRecord& aside) {
-    const auto index = static_cast<std::uint32_t>(store_.asides.Size());
-    store_.asides.Append(aside);
-    store_.attributes.Append({Offset(name), index, ZELVBTXMLAttributeRecord::kAside << 8});
 }
 
 /// Reads character data up to the next "<". It is checked and not kept.

@@ -24,6 +24,9 @@ struct ZELXMLTapeStore {
 /// Inside, each Read function is given the place where its construct begins and returns the place behind
 /// it, or null once the fault is noted. The NULs behind the text stop every scan, so only a NUL is ever
 /// checked for being the end.
+///
+/// Comments, processing instructions and character data are not kept. The functions that read them know
+/// where each begins and ends: a tool that needs them gets one more row of records, appended there.
 class ZELXMLTokenizer {
 public:
     /// NULs that must stand behind the text.
@@ -51,6 +54,13 @@ private:
     /// One of the three parts of an XML declaration.
     struct DeclarationPart;
 
+    /// Where the value of an attribute stands: in the decoded text or in the text itself.
+    struct Value {
+        std::uint32_t offset;
+        std::uint32_t length;
+        bool decoded;
+    };
+
     const char* Fail(ZELXMLFault fault, const char* place, std::string_view detail = {});
     const char* FailAt(const char* p, ZELXMLFault fault, ZELXMLFault atEnd, const char* begin);
     const char* FailInStartTag(const char* p, ZELXMLFault fault);
@@ -64,7 +74,7 @@ private:
     void CloseElement();
     const char* ReadAttribute(const char* name);
     const char* ReadUnusualValue(const char* name, const char* nameEnd, const char* value, const char* p);
-    void AppendAside(const char* name, const ZELVBTXMLAsideRecord& aside);
+    void AppendAttribute(const char* name, const char* nameEnd, const Value& value);
     const char* ReadText(const char* p);
     const char* ReadMarkup(const char* p);
     const char* ReadCharacterDataMark(const char* p);

@@ -127,7 +127,7 @@ const char* ZELXMLTokenizer::ReadMisc(const char* p, bool beforeRoot) {
     while (p != nullptr) {
         p = ZELXMLSkipBlanks(p);
         if (p == end_) return beforeRoot ? Fail(ZELXMLFault::NoElement, p) : p;
-        if (*p != '<') return Fail(ZELXMLFault::TextOutsideRoot, p);
+        if (*p != '<') return FailAt(p, ZELXMLFault::TextOutsideRoot, ZELXMLFault::NoElement, p);
         if (p[1] == '?') {
             p = ReadInstruction(p);
         } else if (ZELXMLStartsWith(p, "<!--")) {

@@ -25,6 +25,7 @@ public:
     ZELMetaClass& MetaObject() const override { return ClassMeta(); }
     _type get_type() const override { return _type_Attribute; }
     using ZanDicObj::GetType;
+    HRESULT SetName(const ZELString* name) override;
 
     /// Plain flags (the byte is kept; only 1 means yes), numbers and texts. \returns S_OK.
     HRESULT SetMandatory(unsigned char mandatory);
@@ -108,8 +109,8 @@ public:
     struct Mode {
         int shift;
         int bits;
-        int highest;      ///< the words are 1 to this
-        int assertLine;   ///< named by the fatal message
+        int highest;     ///< the words are 1 to this
+        int assertLine;  ///< named by the fatal message
     };
     static constexpr Mode kAggregation{0, 4, 4, 41};
     static constexpr Mode kAccess{4, 4, 4, 63};
@@ -129,6 +130,9 @@ private:
     ZanDicAttributeFields& make_Fields();
     void store_Mode(const Mode& mode, int value);
     int checked_Mode(const Mode& mode) const;
+    template <class Word>
+    HRESULT give_Mode(const Mode& mode, Word* out) const;
+    HRESULT set_Type(ZanDicElement* type);
 
     unsigned char _Mandatory = 0;
     unsigned char _Sensitive = 0;
@@ -138,7 +142,7 @@ private:
     std::int32_t _MaxLength = -1;    ///< -1: no limit
     std::int32_t _Lower = 0;
     std::int32_t _Upper = 0;
-    ZanDicLink<ZanDicClass> _Origin;  ///< not owning: the class that made the attribute
+    ZanDicLink<ZanDicClass> _Origin;         ///< not owning: the class that made the attribute
     ZanDicLink<ZanDicElement> _TypeElement;  ///< not owning: primitive, enumeration or target class
 };
 

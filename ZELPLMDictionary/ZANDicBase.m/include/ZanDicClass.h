@@ -147,7 +147,8 @@ public:
     HRESULT SetApplicationName(const ZELUnicodeString* name);
     HRESULT GetApplicationName(ZELUnicodeString* name) const;
 
-    /// \returns S_OK; the setter E_FAIL for what is no class in the dictionary, the getter S_FALSE when unset.
+    /// \returns S_OK; the setter E_FAIL for what is no class in the dictionary, the getter S_FALSE when
+    /// unset.
     HRESULT SetReference(const OXMIDicClass* reference);
     HRESULT GetReference(OXMIDicClass** reference) const;
 
@@ -191,9 +192,10 @@ private:
                            const ZanDicTraceScope& trace);
     HRESULT flush_Members(const ZanDicTraceScope& trace);
     void drop_Hierarchy();
-    bool is_Ancestor(const ZanDicClass& superClass) const;
+    bool is_AbleToBeUnder(const ZanDicClass& superClass) const;
     void forget_AllAttributes();
-    void compute_FromSuper(std::vector<ZanDicAttribute*>& inherited);
+    template <class Visit>
+    void for_EachSubClass(const Visit& visit) const;
 
     const ZanDicClassFields* fields() const;
     ZanDicClassFields& make_Fields();
@@ -208,8 +210,8 @@ private:
     bool _Extension = true;  ///< shown by Dump only
     unsigned char _Instance = 0;
     int _KVADerivable = OXMDicKVADERIVABLE_Inherited;
-    ZanHashList _ATTRIBUTES;                      ///< this class owns one reference to each
-    ZanDicLinkList<ZanDicClass> _invSuperClass;   ///< not owning, by identity: direct subclasses
+    ZanHashList _ATTRIBUTES;                     ///< this class owns one reference to each
+    ZanDicLinkList<ZanDicClass> _invSuperClass;  ///< not owning, by identity: direct subclasses
     std::shared_ptr<const ZanDicAllAttributes> _ALLATTRIBUTES;  ///< links; null until computed
     std::uint64_t _FreshAt = 0;      ///< state of all hierarchies for which _ALLATTRIBUTES is the answer
     std::uint64_t _ForgottenAt = 0;  ///< as long as that is the newest, no class below keeps an answer

@@ -69,8 +69,8 @@ protected:
     ZELUnicodeString unset_Text() const;
 
 private:
-    bool _Unnamed = false;                 ///< built without a name: its texts are null at first
-    ZanDicLink<ZanDicPackage> _Package;    ///< not owning
+    bool _Unnamed = false;               ///< built without a name: its texts are null at first
+    ZanDicLink<ZanDicPackage> _Package;  ///< not owning
     OXMDicVISIBILITY _Visibility = OXMDicVISIBILITY_Public;
 };
 

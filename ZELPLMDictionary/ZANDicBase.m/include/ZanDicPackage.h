@@ -128,10 +128,11 @@ private:
     HRESULT get_Packages(const ZanHashList& list, ZELListPtrIUnknown* packages) const;
 
     ZELString _Domain;
-    ZanHashList _ELEMENTS;       ///< this package owns one reference to each
-    ZanHashList _COMMANDS;       ///< not owning
-    ZanHashList _USEDPACKAGES;   ///< not owning
-    ZanHashList _SCOPEPACKAGES;  ///< not owning
+    mutable bool _OnTheWay = false;  ///< during GetAllElements: among those whose elements are being listed
+    ZanHashList _ELEMENTS;           ///< this package owns one reference to each
+    ZanHashList _COMMANDS;           ///< not owning
+    ZanHashList _USEDPACKAGES;       ///< not owning
+    ZanHashList _SCOPEPACKAGES;      ///< not owning
 };
 
 #endif

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "ZELTraceChannel.h"
+#include "ZanDicManagerFactory.h"
 #include "ZanDicObj.h"
-#include "ZanDicRegistry.h"
 #include "ZanDicTrace.h"
 
 namespace {
@@ -24,12 +24,11 @@ ZanDicData _StaticZanDicData;
 ZanDicData::ZanDicData() { InitTraces(); }
 
 ZanDicData::~ZanDicData() {
-    // While the last objects go they still find the registry, but nothing makes a new manager.
+    // Nothing makes a new manager. The registry is found for as long as somebody else holds this one.
     isUnloading = true;
     _Dictionary = nullptr;
     if (_Mgr != nullptr) std::exchange(_Mgr, nullptr)->Release();
     if (_Manager != nullptr) std::exchange(_Manager, nullptr)->Release();
-    managerRegistry = nullptr;
 }
 
 void ZanDicData::InitTraces() { ZanDicTrace::InitFromEnvironment(); }
@@ -63,6 +62,10 @@ HRESULT ZanDicData::get_ZanDictionary(ZanDictionary** manager) {
 }
 
 void ZanDicSetManagerFactory(ZanDicManagerFactory factory) { managerFactory = factory; }
+
+void ZanDicForgetRegistry(const ZanDicRegistry& registry) noexcept {
+    if (managerRegistry == &registry) managerRegistry = nullptr;
+}
 
 ZanDicRegistry* ZanDicGetRegistry() {
     ZanDictionary* manager = nullptr;

@@ -69,8 +69,11 @@ public:
     explicit operator bool() const { return _Draft != nullptr; }
 
     ZanDicTraceLine& operator<<(std::string_view text);
-    ZanDicTraceLine& operator<<(const char* text) { return *this << std::string_view(text); }
-    /// The text; of a null pointer nothing. A value that begins with a dash is no separator.
+    /// A text; a null pointer adds nothing.
+    ZanDicTraceLine& operator<<(const char* text) {
+        return *this << (text != nullptr ? std::string_view(text) : std::string_view());
+    }
+    /// A value: one that begins with a dash is no separator. A null pointer adds nothing.
     ZanDicTraceLine& operator<<(const ZELString& text) { return Value(text.View()); }
     ZanDicTraceLine& operator<<(const ZELUnicodeString& text) { return Value(text.View()); }
     ZanDicTraceLine& operator<<(const ZELString* text) {

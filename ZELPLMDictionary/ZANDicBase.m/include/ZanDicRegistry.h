@@ -4,15 +4,14 @@
 #include "ZELDbBinary.h"
 #include "ZELListPtr.h"
 #include "ZELResult.h"
+#include "ZanDicExport.h"
 
 class ZanDicAttribute;
-class ZanDicClass;
 class ZanDicObj;
-class ZanDictionary;
 
 /// What objects know of the manager: the registry that they enter and leave, and the index of the
-/// injective relationships that point at a class. The manager implements it.
-class ZanDicRegistry {
+/// injective relationships that point at a class. The manager implements it. One thread.
+class ZANDICBASE_API ZanDicRegistry {
 public:
     /// Registers \p object by its UUID; takes no reference. \returns S_OK; E_FAIL when \p object is
     /// null or its UUID is registered already, the latter after two error lines.
@@ -41,14 +40,7 @@ protected:
     ~ZanDicRegistry() = default;
 };
 
-/// The manager as the holder keeps it; the manager's room supplies the factory when the library loads.
-struct ZanDicManagerParts {
-    ZanDicObj* object = nullptr;  ///< one reference, the holder's
-    ZanDictionary* dictionary = nullptr;
-    ZanDicRegistry* registry = nullptr;
-};
-using ZanDicManagerFactory = ZanDicManagerParts (*)();
-void ZanDicSetManagerFactory(ZanDicManagerFactory factory);
+// What follows is for the library itself.
 
 /// The registry, made with the manager on the first request; null only when the manager cannot be made
 /// or is gone already (the end of the process).

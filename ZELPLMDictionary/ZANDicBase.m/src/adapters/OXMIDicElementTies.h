@@ -1,0 +1,102 @@
+/// Ties of what every object and every element answers.
+#ifndef OXMI_DIC_ELEMENT_TIES_H
+#define OXMI_DIC_ELEMENT_TIES_H
+
+#include "OXMIDicApp.h"
+#include "OXMIDicElement.h"
+#include "OXMIDicElementH.h"
+#include "ZELTie.h"
+
+/// Forwards OXMIDicApp.
+template <class Impl, class Base>
+class OXMIDicAppLayer : public Base {
+public:
+    HRESULT GetName(ZELString* name) override { return this->impl().GetName(name); }
+    HRESULT SetName(const ZELString* name) override { return this->impl().SetName(name); }
+    HRESULT GetUuid(ZELDbBinary* uuid) override { return this->impl().GetUuid(uuid); }
+    HRESULT SetUuid(const ZELDbBinary* uuid) override { return this->impl().SetUuid(uuid); }
+    HRESULT GenUuid() override { return this->impl().GenUuid(); }
+    HRESULT GetType(OXMDicTYPE* type) override { return this->impl().GetType(type); }
+    void Dump(const char* caller) override { return this->impl().Dump(caller); }
+};
+
+/// Forwards OXMIDicElementH.
+template <class Impl, class Base>
+class OXMIDicElementHLayer : public Base {
+public:
+    HRESULT GetName(ZELString* name) override { return this->impl().GetName(name); }
+    HRESULT SetName(const ZELString* name) override { return this->impl().SetName(name); }
+    HRESULT GetUuid(ZELDbBinary* uuid) override { return this->impl().GetUuid(uuid); }
+    HRESULT SetUuid(const ZELDbBinary* uuid) override { return this->impl().SetUuid(uuid); }
+    HRESULT GenUuid() override { return this->impl().GenUuid(); }
+    HRESULT GetType(OXMDicTYPE* type) override { return this->impl().GetType(type); }
+    HRESULT SetOtherAttribute(const ZELUnicodeString& name, const ZELUnicodeString& value) override {
+        return this->impl().SetOtherAttribute(name, value);
+    }
+    HRESULT GetOtherAttribute(const ZELUnicodeString& name, ZELUnicodeString& value) override {
+        return this->impl().GetOtherAttribute(name, value);
+    }
+    HRESULT GetAllOtherAttributes(ZELListValZELUnicodeString& names,
+                                  ZELListValZELUnicodeString& values) override {
+        return this->impl().GetAllOtherAttributes(names, values);
+    }
+    HRESULT AddCategory(const OXMIDicCategory* category) override {
+        return this->impl().AddCategory(category);
+    }
+    HRESULT RemoveCategory(const OXMIDicCategory* category) override {
+        return this->impl().RemoveCategory(category);
+    }
+    HRESULT IsCategory(const ZELString* name, unsigned char* isCategory) override {
+        return this->impl().IsCategory(name, isCategory);
+    }
+    HRESULT GetCategories(ZELListPtrIUnknown* categories) override {
+        return this->impl().GetCategories(categories);
+    }
+    HRESULT GetLostLinks(int* count) override { return this->impl().GetLostLinks(count); }
+};
+
+/// Forwards OXMIDicElement.
+template <class Impl, class Base>
+class OXMIDicElementLayer : public Base {
+public:
+    HRESULT SetAlias(const ZELUnicodeString* alias) override { return this->impl().SetAlias(alias); }
+    HRESULT SetExpositionLevel(const ZELUnicodeString* level) override {
+        return this->impl().SetExpositionLevel(level);
+    }
+    HRESULT SetVisibility(OXMDicVISIBILITY visibility) override {
+        return this->impl().SetVisibility(visibility);
+    }
+    HRESULT GetAlias(ZELUnicodeString* alias) override { return this->impl().GetAlias(alias); }
+    HRESULT GetExpositionLevel(ZELUnicodeString* level) override {
+        return this->impl().GetExpositionLevel(level);
+    }
+    HRESULT GetVisibility(OXMDicVISIBILITY* visibility) override {
+        return this->impl().GetVisibility(visibility);
+    }
+    HRESULT GetPackage(OXMIDicPackage** package) override { return this->impl().GetPackage(package); }
+    HRESULT GetPackageName(ZELString* name) override { return this->impl().GetPackageName(name); }
+    HRESULT BelongsTo(OXMIDicElement** owner) override { return this->impl().BelongsTo(owner); }
+    HRESULT GetSuperPackage(OXMIDicPackage** package) override {
+        return this->impl().GetSuperPackage(package);
+    }
+    HRESULT FlushAll() override { return this->impl().FlushAll(); }
+};
+
+template <class Impl>
+using OXMIDicAppTie = OXMIDicAppLayer<Impl, ZELTie<OXMIDicApp, Impl>>;
+
+/// What the ties of all interfaces that derive from OXMIDicElementH stand on.
+template <class Interface, class Impl>
+using OXMIDicElementHBase = OXMIDicElementHLayer<Impl, ZELTie<Interface, Impl>>;
+
+template <class Impl>
+using OXMIDicElementHTie = OXMIDicElementHBase<OXMIDicElementH, Impl>;
+
+/// The same for OXMIDicElement.
+template <class Interface, class Impl>
+using OXMIDicElementBase = OXMIDicElementLayer<Impl, OXMIDicElementHBase<Interface, Impl>>;
+
+template <class Impl>
+using OXMIDicElementTie = OXMIDicElementBase<OXMIDicElement, Impl>;
+
+#endif

@@ -1,0 +1,290 @@
+#include "ZanDictionary.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "GetOXMIDicMgr.h"
+#include "OXMIDicElementH.h"
+#include "OXMIDicPrimitive.h"
+#include "ZELEnvironment.h"
+#include "ZELUuid.h"
+#include "ZanDicAttribute.h"
+#include "ZanDicData.h"
+#include "ZanDicManagerFactory.h"
+#include "ZanDicPackage.h"
+#include "ZanDicPrimitive.h"
+#include "ZanDicTrace.h"
+#include "ZanDicTypeNames.h"
+
+namespace {
+
+constexpr int kPackagesSize = 47;
+constexpr int kTableSize = 1117;
+
+constexpr std::string_view kExitWord = "RC=";
+
+/// The built-in primitives, in the order in which they are made.
+constexpr const char* kPrimitiveNames[] = {"Boolean", "Integer", "Double",  "String",   "Binary",
+                                           "Date",    "Logical", "URL",     "AnyObject"};
+static_assert(std::size(kPrimitiveNames) == OXMDicPRIMITIVEType_AnyObject);
+
+ZELString PackageNameOf(const ZanDicObj& object) {
+    return object.Type() == OXMDicTYPE_Package ? ZELString("?") : object.get_PackageName();
+}
+
+/// The trace of what enters and leaves the registry.
+class RegistryTrace {
+public:
+    RegistryTrace(std::string_view operation, const ZanDictionary& manager)
+        : _Scope(operation, kExitWord), _Manager(manager) {
+        if (auto line = _Scope.Line(TraceLevel::Call)) {
+            line << "=== start === _OBJECTS.Size()=" << _Manager.count_Objs();
+        }
+    }
+
+    void Say(const ZanDicObj& object) const {
+        if (!_Scope.On(TraceLevel::Detail)) return;
+        _Scope.Line(TraceLevel::Detail) << "@=" << &object;
+        _Scope.Line(TraceLevel::Detail)
+            << "Type=" << object.Type() << " (" << ZanDicTypeName(object.Type()) << "), Name=" << object.Name()
+            << ", Package=" << PackageNameOf(object) << ", Uuid=" << object.Uuid();
+    }
+
+    /// The second line names the object that is refused, not the one that is registered.
+    void Refuse(const ZanDicObj& object) const {
+        if (auto line = _Scope.Error()) {
+            line << "*** ERROR *** Dictionary violation: Uuid is not unique:" << object.Uuid();
+        }
+        if (auto line = _Scope.Error()) {
+            line << "Conflicting object: Type=" << object.Type() << ", Name=" << object.Name()
+                 << ", from Package=" << PackageNameOf(object);
+        }
+    }
+
+    HRESULT Exit(HRESULT rc) const {
+        if (auto line = _Scope.Line(TraceLevel::Call)) {
+            line << "=== exit === " << kExitWord << ZanDicTraceScope::Word(rc)
+                 << ", _OBJECTS.Size()=" << _Manager.count_Objs();
+        }
+        return rc;
+    }
+
+private:
+    ZanDicTraceScope _Scope;
+    const ZanDictionary& _Manager;
+};
+
+/// Lets the holder make the manager, and `GetOXMIDicMgr` find the holder, while the library is loaded.
+class Registration {
+public:
+    Registration() {
+        ZanDicSetManagerFactory([] {
+            auto* const manager = new ZanDictionary;
+            return ZanDicManagerParts{manager, manager, manager};
+        });
+        OXMIDicSetMgrProvider([](OXMIDicMgr** manager) { return _StaticZanDicData.get_OXMIDicMgr(manager); });
+    }
+    ~Registration() { OXMIDicSetMgrProvider(nullptr); }
+    Registration(const Registration&) = delete;
+    Registration& operator=(const Registration&) = delete;
+};
+
+const Registration kRegistration;
+
+}  // namespace
+
+ZanDictionary::ZanDictionary()
+    : _PACKAGES(kPackagesSize, ZanHashListKind::Owner),
+      _OBJECTS(HashUuidZanDicObj, CompareUuidZanDicObj, kTableSize),
+      _CLASSTORELATION(ZanDicClassToRelationElem::GetHashKey, ZanDicClassToRelationElem::Compare, kTableSize) {}
+
+ZanDictionary::~ZanDictionary() {
+    End();
+    ZanDicForgetRegistry(*this);
+}
+
+ZELMetaClass& ZanDictionary::ClassMeta() {
+    static ZELMetaClass meta("ZanDictionary", &ZanDicObj::ClassMeta());
+    return meta;
+}
+
+HRESULT ZanDictionary::Init(int /*reserved*/) {
+    constexpr ZanDicTraceScope trace("ZanDictionary::Init", kExitWord);
+    trace.Start();
+    static const bool isOff = ZELGetEnv("VALKOR_META") == "OFF";
+    if (isOff) _LoadingMode = OXMDicPERSISTENT_None;
+    return trace.Exit(Create());
+}
+
+HRESULT ZanDictionary::Create() {
+    constexpr ZanDicTraceScope trace("ZanDictionary::Create", kExitWord);
+    trace.Start();
+    if (_PRIMITIVES[0] == nullptr) {
+        for (int index = 0; index < kPrimitiveCount; ++index) {
+            _PRIMITIVES[index] = new ZanDicPrimitive(kPrimitiveNames[index], getuuid(),
+                                                     static_cast<OXMDicPRIMITIVEType>(index + 1));
+        }
+    }
+    return trace.Exit(S_OK);
+}
+
+HRESULT ZanDictionary::End() {
+    constexpr ZanDicTraceScope trace("ZanDictionary::End", kExitWord);
+    trace.Start();
+    const std::vector<ZanDicObj*> objects = take_All();
+    for (ZanDicObj* const object : objects) object->mark_Gone();
+    for (ZanDicObj* const object : objects) object->Release();
+    return trace.Exit(S_OK);
+}
+
+std::vector<ZanDicObj*> ZanDictionary::take_All() {
+    std::vector<ZanDicObj*> taken;
+    std::size_t opened = 0;  // those before it own nothing any more
+    const auto openAll = [&] {
+        for (; opened < taken.size(); ++opened) {
+            taken[opened]->set_Registered(false);
+            taken[opened]->take_Owned(taken);
+        }
+    };
+
+    taken.reserve(static_cast<std::size_t>(_OBJECTS.Size() + kPrimitiveCount));
+    for (int position = 1; position <= _PACKAGES.Size(); ++position) taken.push_back(_PACKAGES[position]);
+    _PACKAGES.clear();
+    openAll();
+
+    // What is registered outside of the packages: first what these objects own among themselves, then those
+    // that nobody else owns. Each has its creator's reference.
+    std::vector<ZanDicObj*> others;
+    ZELHashIterator iterator = _OBJECTS.CreateIterator();
+    for (ZanDicObj* object = _OBJECTS[iterator]; object != nullptr; object = _OBJECTS.Next(iterator)) {
+        if (object->is_Registered()) others.push_back(object);
+    }
+    for (ZanDicObj* const object : others) object->take_Owned(taken);
+    openAll();
+    std::copy_if(others.begin(), others.end(), std::back_inserter(taken),
+                 [](const ZanDicObj* object) { return object->is_Registered(); });
+    openAll();
+    _OBJECTS.RemoveAll();
+
+    for (ZanDicPrimitive*& primitive : _PRIMITIVES) {
+        if (primitive != nullptr) taken.push_back(std::exchange(primitive, nullptr));
+    }
+    iterator = _CLASSTORELATION.CreateIterator();
+    for (auto* entry = _CLASSTORELATION[iterator]; entry != nullptr; entry = _CLASSTORELATION.Next(iterator)) {
+        delete entry;
+    }
+    _CLASSTORELATION.RemoveAll();
+    return taken;
+}
+
+HRESULT ZanDictionary::GetPrimitive(OXMDicPRIMITIVEType kind, OXMIDicPrimitive** primitive) {
+    if (kind < OXMDicPRIMITIVEType_Boolean || kind > kPrimitiveCount || primitive == nullptr) return E_FAIL;
+    ZanDicPrimitive* const object = _PRIMITIVES[kind - 1];
+    return object != nullptr ? object->QueryInterface(IID_OXMIDicPrimitive, reinterpret_cast<void**>(primitive))
+                             : E_FAIL;
+}
+
+HRESULT ZanDictionary::SetLoadingMode(OXMDicPERSISTENT mode) {
+    _LoadingMode = mode;
+    return S_OK;
+}
+
+HRESULT ZanDictionary::GetLoadingMode(OXMDicPERSISTENT* mode) {
+    if (mode == nullptr) return E_FAIL;
+    *mode = _LoadingMode;
+    return S_OK;
+}
+
+HRESULT ZanDictionary::Save() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved1() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved2() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved3() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved4() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved5() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved6() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved7() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved8() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved9() { return E_FAIL; }
+HRESULT ZanDictionary::Reserved10() { return E_FAIL; }
+
+ZanDicObj* ZanDictionary::find_Obj(const ZELDbBinary& uuid) const {
+    return _OBJECTS.LocateKey(uuid.ComputeHashKey(),
+                              [&uuid](const ZanDicObj* object) { return object->Uuid() == uuid; });
+}
+
+HRESULT ZanDictionary::Insert(ZanDicObj* object) {
+    const RegistryTrace trace("ZanDictionary::Insert", *this);
+    if (object == nullptr) return trace.Exit(E_FAIL);
+    trace.Say(*object);
+    // What is gone has given its owner's reference back, and a primitive's is the manager's: neither may
+    // be found here by End.
+    if (object->is_Gone() || !keeps_Obj(*object)) return trace.Exit(E_FAIL);
+    if (find_Obj(object->Uuid()) != nullptr) {
+        trace.Refuse(*object);
+        return trace.Exit(E_FAIL);
+    }
+    _OBJECTS.InsertNew(object->Uuid().ComputeHashKey(), object);
+    object->set_Registered(true);
+    return trace.Exit(S_OK);
+}
+
+HRESULT ZanDictionary::Delete(ZanDicObj* object) {
+    const RegistryTrace trace("ZanDictionary::Delete", *this);
+    if (object == nullptr) return trace.Exit(E_FAIL);
+    trace.Say(*object);
+    if (!_OBJECTS.RemoveKey(object->Uuid().ComputeHashKey(), object)) return trace.Exit(E_FAIL);
+    object->set_Registered(false);
+    return trace.Exit(S_OK);
+}
+
+void ZanDictionary::forget_Obj(ZanDicObj& object) noexcept {
+    _OBJECTS.RemoveKey(object.Uuid().ComputeHashKey(), &object);
+}
+
+bool ZanDictionary::keeps_Obj(const ZanDicObj& object) const {
+    return &object != this && std::find(std::begin(_PRIMITIVES), std::end(_PRIMITIVES), &object) ==
+                                  std::end(_PRIMITIVES);
+}
+
+HRESULT ZanDictionary::search_Obj(const ZELDbBinary* uuid, ZanDicObj** object) {
+    std::optional<ZanDicObj> probe;
+    if (ZanDicObj::shows_Probe()) probe.emplace();
+    if (object == nullptr) return E_FAIL;
+    *object = uuid != nullptr ? find_Obj(*uuid) : nullptr;
+    return *object != nullptr ? S_OK : E_FAIL;
+}
+
+HRESULT ZanDictionary::Search(const ZELDbBinary* uuid, OXMIDicElementH** object) {
+    ZanDicObj* found = nullptr;
+    if (object == nullptr || Failed(search_Obj(uuid, &found))) return E_FAIL;
+    return found->QueryInterface(IID_OXMIDicElementH, reinterpret_cast<void**>(object));
+}
+
+ZanDicClassToRelationElem* ZanDictionary::find_Relations(const ZELDbBinary& classUuid) const {
+    return _CLASSTORELATION.LocateKey(classUuid.ComputeHashKey(),
+                                      [&classUuid](const ZanDicClassToRelationElem* entry) {
+                                          ZELDbBinary uuid;
+                                          entry->GetClassUUID(uuid);
+                                          return uuid == classUuid;
+                                      });
+}
+
+HRESULT ZanDictionary::AddClassToRelation(const ZELDbBinary* classUuid, ZanDicAttribute* attribute) {
+    if (classUuid == nullptr || attribute == nullptr) return E_FAIL;
+    ZanDicClassToRelationElem* entry = find_Relations(*classUuid);
+    if (entry == nullptr) {
+        entry = new ZanDicClassToRelationElem;
+        entry->SetClassUUID(*classUuid);
+        _CLASSTORELATION.InsertNew(ZanDicClassToRelationElem::GetHashKey(entry), entry);
+    }
+    entry->AddRelationship(attribute);
+    return S_OK;
+}
+
+HRESULT ZanDictionary::get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) {
+    const ZanDicClassToRelationElem* const entry = find_Relations(classUuid);
+    return entry != nullptr ? entry->GetRelationships(relationships) : S_OK;
+}

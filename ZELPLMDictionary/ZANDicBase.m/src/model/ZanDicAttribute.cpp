@@ -1,0 +1,269 @@
+#include "ZanDicAttribute.h"
+
+#include "OXMIDicClass.h"
+#include "OXMIDicPrimitive.h"
+#include "OXMIDicRelationship.h"
+#include "ZELFatalError.h"
+#include "ZanDicAllAttributes.h"
+#include "ZanDicAttributeFields.h"
+#include "ZanDicClass.h"
+#include "ZanDicHandOut.h"
+#include "ZanDicImplementation.h"
+#include "ZanDicPrimitive.h"
+#include "ZanDicRegistry.h"
+#include "ZanDicValues.h"
+
+ZELMetaClass& ZanDicAttribute::ClassMeta() {
+    static ZELMetaClass meta("ZanDicAttribute", &ZanDicElement::ClassMeta());
+    return meta;
+}
+
+ZanDicAttribute::ZanDicAttribute(const ZELString& name, const ZELDbBinary& uuid) : ZanDicElement(name, uuid) {
+    set_TYPE(OXMDicTYPE_Relationship);
+}
+
+ZanDicAttribute::~ZanDicAttribute() = default;
+
+std::unique_ptr<ZanDicRareFields> ZanDicAttribute::new_RareFields() const {
+    auto fields = std::make_unique<ZanDicAttributeFields>();
+    init_RareFields(*fields);
+    return fields;
+}
+
+const ZanDicAttributeFields* ZanDicAttribute::fields() const {
+    return static_cast<const ZanDicAttributeFields*>(rare());
+}
+
+ZanDicAttributeFields& ZanDicAttribute::make_Fields() {
+    return static_cast<ZanDicAttributeFields&>(make_Rare());
+}
+
+void ZanDicAttribute::drop_Links() {
+    ZanDicElement::drop_Links();
+    ZanDicHierarchy::Changed();
+    _Origin.Reset();
+    _TypeElement.Reset();
+    if (rare() == nullptr) return;
+    ZanDicAttributeFields& links = make_Fields();
+    links.inverseOf.Reset();
+    links.specialized.Reset();
+    links.inversedBy.clear();
+}
+
+HRESULT ZanDicAttribute::SetName(const ZELString* name) {
+    ZanDicHierarchy::Changed();  // redefinition goes by name
+    return ZanDicElement::SetName(name);
+}
+
+HRESULT ZanDicAttribute::SetMandatory(unsigned char mandatory) { return TakeValue(_Mandatory, &mandatory); }
+
+HRESULT ZanDicAttribute::GetMandatory(unsigned char* mandatory) const {
+    return GiveValue(_Mandatory, mandatory);
+}
+
+HRESULT ZanDicAttribute::SetSensitive(unsigned char sensitive) { return TakeValue(_Sensitive, &sensitive); }
+
+HRESULT ZanDicAttribute::GetSensitive(unsigned char* sensitive) const {
+    return GiveValue(_Sensitive, sensitive);
+}
+
+HRESULT ZanDicAttribute::SetMultiValuated(unsigned char multiValuated) {
+    return TakeValue(_MultiValuated, &multiValuated);
+}
+
+HRESULT ZanDicAttribute::GetMultiValuated(unsigned char* multiValuated) const {
+    return GiveValue(_MultiValuated, multiValuated);
+}
+
+HRESULT ZanDicAttribute::SetInjective(unsigned char injective) { return TakeValue(_Injective, &injective); }
+
+HRESULT ZanDicAttribute::GetInjective(unsigned char* injective) const {
+    return GiveValue(_Injective, injective);
+}
+
+HRESULT ZanDicAttribute::SetMaxLength(int maxLength) { return TakeValue(_MaxLength, &maxLength); }
+
+HRESULT ZanDicAttribute::GetMaxLength(int* maxLength) const { return GiveValue(_MaxLength, maxLength); }
+
+HRESULT ZanDicAttribute::SetLower(int lower) { return TakeValue(_Lower, &lower); }
+
+HRESULT ZanDicAttribute::GetLower(int* lower) const { return GiveValue(_Lower, lower); }
+
+HRESULT ZanDicAttribute::SetUpper(int upper) { return TakeValue(_Upper, &upper); }
+
+HRESULT ZanDicAttribute::GetUpper(int* upper) const { return GiveValue(_Upper, upper); }
+
+HRESULT ZanDicAttribute::SetDefault(const ZELUnicodeString* value) {
+    return value != nullptr ? TakeValue(make_Fields().defaultValue, value) : E_FAIL;
+}
+
+HRESULT ZanDicAttribute::GetDefault(ZELUnicodeString* value) const {
+    return GiveValue(fields() != nullptr ? fields()->defaultValue : ZELUnicodeString(""), value);
+}
+
+HRESULT ZanDicAttribute::SetMagnitude(const ZELUnicodeString* magnitude) {
+    return magnitude != nullptr ? TakeValue(make_Fields().magnitude, magnitude) : E_FAIL;
+}
+
+HRESULT ZanDicAttribute::GetMagnitude(ZELUnicodeString* magnitude) const {
+    return GiveValue(fields() != nullptr ? fields()->magnitude : ZELUnicodeString(""), magnitude);
+}
+
+HRESULT ZanDicAttribute::SetDBFormat(const ZELUnicodeString* format) {
+    return format != nullptr ? TakeValue(make_Fields().dbFormat, format) : E_FAIL;
+}
+
+HRESULT ZanDicAttribute::GetDBFormat(ZELUnicodeString* format) const {
+    return GiveValue(fields() != nullptr ? fields()->dbFormat : ZELUnicodeString(""), format);
+}
+
+void ZanDicAttribute::store_Mode(const Mode& mode, int value) {
+    const std::uint32_t mask = (1U << mode.bits) - 1U;
+    _Modes = (_Modes & ~(mask << mode.shift)) | ((static_cast<std::uint32_t>(value) & mask) << mode.shift);
+}
+
+int ZanDicAttribute::stored_Mode(const Mode& mode) const {
+    const int range = 1 << mode.bits;
+    const int value = static_cast<int>(_Modes >> mode.shift) & (range - 1);
+    return value >= range / 2 ? value - range : value;
+}
+
+int ZanDicAttribute::checked_Mode(const Mode& mode) const {
+    const int value = stored_Mode(mode);
+    if (value < 1 || value > mode.highest) {
+        ZELFatalError("AssertionFailed:0", "ZanDicAttribute", mode.assertLine);
+    }
+    return value;
+}
+
+template <class Word>
+HRESULT ZanDicAttribute::give_Mode(const Mode& mode, Word* out) const {
+    if (out == nullptr) return E_FAIL;
+    *out = static_cast<Word>(checked_Mode(mode));
+    return S_OK;
+}
+
+HRESULT ZanDicAttribute::SetAggregationMode(OXMDicAGGREGATION aggregation) {
+    store_Mode(kAggregation, aggregation);
+    return S_OK;
+}
+
+HRESULT ZanDicAttribute::GetAggregationMode(OXMDicAGGREGATION* aggregation) const {
+    return give_Mode(kAggregation, aggregation);
+}
+
+HRESULT ZanDicAttribute::SetAccessMode(OXMDicACCESSMODE mode) {
+    store_Mode(kAccess, mode);
+    return S_OK;
+}
+
+HRESULT ZanDicAttribute::GetAccessMode(OXMDicACCESSMODE* mode) const { return give_Mode(kAccess, mode); }
+
+HRESULT ZanDicAttribute::SetCaseMode(OXMDicCASEMODE mode) {
+    store_Mode(kCase, mode);
+    return S_OK;
+}
+
+HRESULT ZanDicAttribute::GetCaseMode(OXMDicCASEMODE* mode) const { return give_Mode(kCase, mode); }
+
+HRESULT ZanDicAttribute::SetScope(OXMDicSCOPE scope) {
+    store_Mode(kScope, scope);
+    return S_OK;
+}
+
+HRESULT ZanDicAttribute::GetScope(OXMDicSCOPE* scope) const { return give_Mode(kScope, scope); }
+
+HRESULT ZanDicAttribute::SetUpdateFacet(OXMDicUPDATEFACET facet) {
+    store_Mode(kFacet, facet);
+    return S_OK;
+}
+
+HRESULT ZanDicAttribute::GetUpdateFacet(OXMDicUPDATEFACET* facet) const { return give_Mode(kFacet, facet); }
+
+HRESULT ZanDicAttribute::SetCollectionType(OXMDicCOLLECTION collection) {
+    store_Mode(kCollection, collection);
+    return S_OK;
+}
+
+HRESULT ZanDicAttribute::GetCollectionType(OXMDicCOLLECTION* collection) const {
+    return give_Mode(kCollection, collection);
+}
+
+HRESULT ZanDicAttribute::SetProxyable(unsigned char) { return E_FAIL; }
+
+HRESULT ZanDicAttribute::GetProxyable(unsigned char*) const { return E_FAIL; }
+
+HRESULT ZanDicAttribute::set_Class(ZanDicClass* origin) {
+    _Origin = origin;
+    return S_OK;
+}
+
+ZanDicClass* ZanDicAttribute::get_Class() const { return _Origin.Get(); }
+
+void ZanDicAttribute::set_Specialized(ZanDicAttribute* inherited) { make_Fields().specialized = inherited; }
+
+ZanDicAttribute* ZanDicAttribute::get_Specialized() const {
+    return fields() != nullptr ? fields()->specialized.Get() : nullptr;
+}
+
+HRESULT ZanDicAttribute::GetOrigin(OXMIDicClass** origin) const {
+    if (origin == nullptr) return E_FAIL;
+    return _Origin ? HandOutAs(*_Origin, origin) : S_FALSE;
+}
+
+HRESULT ZanDicAttribute::set_Type(ZanDicElement* type) {
+    if (type == nullptr || is_Gone()) return E_FAIL;
+    _TypeElement = type;
+    return S_OK;
+}
+
+HRESULT ZanDicAttribute::SetType(const OXMIDicElement* type) {
+    return set_Type(LiveImplementationOf<ZanDicElement>(type));
+}
+
+HRESULT ZanDicAttribute::GetType(OXMIDicElement** type) const {
+    if (type == nullptr) return E_FAIL;
+    return _TypeElement ? HandOutOwn(*_TypeElement, type) : S_FALSE;
+}
+
+HRESULT ZanDicAttribute::SetPrimitive(const OXMIDicPrimitive* primitive) {
+    return set_Type(LiveImplementationOf<ZanDicPrimitive>(primitive));
+}
+
+HRESULT ZanDicAttribute::GetPrimitive(OXMIDicPrimitive** primitive) const {
+    if (primitive == nullptr) return E_FAIL;
+    return _TypeElement ? HandOutAs(*_TypeElement, primitive) : S_FALSE;
+}
+
+HRESULT ZanDicAttribute::SetTarget(const OXMIDicClass* target) {
+    auto* const targetClass = LiveImplementationOf<ZanDicClass>(target);
+    if (const HRESULT rc = set_Type(targetClass); Failed(rc)) return rc;
+    ZanDicRegistry* const registry = ZanDicGetRegistry();
+    if (_Injective != 0 && registry != nullptr) registry->AddClassToRelation(&targetClass->Uuid(), this);
+    return S_OK;
+}
+
+HRESULT ZanDicAttribute::GetTarget(OXMIDicClass** target) const {
+    if (target == nullptr) return E_FAIL;
+    return _TypeElement ? HandOutAs(*_TypeElement, target) : S_FALSE;
+}
+
+HRESULT ZanDicAttribute::GetSpecializedAttribute(OXMIDicElement** attribute) const {
+    if (attribute == nullptr) return E_FAIL;
+    const ZanDicAttribute* inherited = get_Specialized();
+    return inherited != nullptr ? HandOutOwn(*inherited, attribute) : S_FALSE;
+}
+
+HRESULT ZanDicAttribute::GetInverse(OXMIDicRelationship** relationship) const {
+    if (relationship == nullptr) return E_FAIL;
+    const ZanDicAttribute* inverted = fields() != nullptr ? fields()->inverseOf.Get() : nullptr;
+    return inverted != nullptr ? HandOutAs(*inverted, relationship) : S_FALSE;
+}
+
+HRESULT ZanDicAttribute::AddScope(const OXMIDicElement*) { return E_FAIL; }
+
+HRESULT ZanDicAttribute::RemoveScope(const OXMIDicElement*) { return E_FAIL; }
+
+HRESULT ZanDicAttribute::GetScopes(ZELListPtrIUnknown*) const { return E_FAIL; }
+
+HRESULT ZanDicAttribute::IsClassInScope(const ZELDbBinary*, unsigned char*) const { return E_FAIL; }

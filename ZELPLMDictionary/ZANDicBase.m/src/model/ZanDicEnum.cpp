@@ -1,0 +1,113 @@
+#include "ZanDicEnum.h"
+
+#include "OXMIDicEnumerator.h"
+#include "ZELUuid.h"
+#include "ZanDicEnumerator.h"
+#include "ZanDicHandOut.h"
+#include "ZanDicNotices.h"
+#include "ZanDicPackage.h"
+#include "ZanDicRef.h"
+#include "ZanDicRegistry.h"
+#include "ZanDicTeardown.h"
+#include "ZanDicTrace.h"
+#include "ZanDicTypeNames.h"
+
+ZELMetaClass& ZanDicEnum::ClassMeta() {
+    static ZELMetaClass meta("ZanDicEnum", &ZanDicElement::ClassMeta());
+    return meta;
+}
+
+ZanDicEnum::ZanDicEnum(const ZELString& name, const ZELDbBinary& uuid)
+    : ZanDicElement(name, uuid), _ENUMERATORS(29, ZanHashListKind::Owner) {
+    set_TYPE(OXMDicTYPE_Enum);
+}
+
+ZanDicEnum::~ZanDicEnum() {
+    std::vector<ZanDicObj*> owned;
+    ZanDicEnum::take_Owned(owned);
+    DropTaken(owned);
+}
+
+HRESULT ZanDicEnum::CreateEnumerator(const ZELString* name, const ZELDbBinary* uuid,
+                                     OXMIDicEnumerator** enumerator) {
+    ZanDicRegistry* const registry = ZanDicGetRegistry();
+    ZanDicObj* present = nullptr;
+    if (name == nullptr || uuid == nullptr || enumerator == nullptr || is_Gone() || registry == nullptr) {
+        return E_FAIL;
+    }
+    if (Succeeded(_ENUMERATORS.Search(*name, &present))) return E_FAIL;
+    ZanDicRef<ZanDicEnumerator> made(new ZanDicEnumerator(*name, *uuid));
+    made->set_Package(get_Package());
+    if (const HRESULT rc = _ENUMERATORS.Append(made.Get()); Failed(rc)) return rc;
+    ZanDicEnumerator& owned = *made.Detach();
+    HandOutOwn(owned, enumerator);
+    return registry->Insert(&owned);
+}
+
+HRESULT ZanDicEnum::CreateEnumerator(const ZELString*, OXMIDicEnumerator**) {
+    WriteNotice("ZanDicEnum::CreateEnumerator", notice::kUuidNeeded, ZELLineSeverity::Error);
+    return E_FAIL;
+}
+
+HRESULT ZanDicEnum::CreateEnumValue(const ZELString* name, int value) {
+    const ZELDbBinary uuid = getuuid();
+    ZanDicRef<OXMIDicEnumerator> enumerator;
+    const HRESULT rc = CreateEnumerator(name, &uuid, enumerator.Out());
+    // Deliberate: the registration's result is lost (ZanDicEnumTest.CreateEnumValueGivesTheResultOfSetValue).
+    return enumerator ? enumerator->SetValue(value) : rc;
+}
+
+HRESULT ZanDicEnum::GetEnumerator(const ZELString* name, OXMIDicEnumerator** enumerator) const {
+    return FindInterface(_ENUMERATORS, name, enumerator);
+}
+
+HRESULT ZanDicEnum::GetEnumValue(const ZELString* name, int* value) const {
+    ZanDicObj* found = nullptr;
+    if (name == nullptr || Failed(_ENUMERATORS.Search(*name, &found))) return E_FAIL;
+    return static_cast<const ZanDicEnumerator*>(found)->GetValue(value);
+}
+
+HRESULT ZanDicEnum::GetEnumValues(ZELListValZELString* names) const {
+    const int size = names != nullptr ? _ENUMERATORS.Size() : 0;
+    for (int position = 1; position <= size; ++position) names->Append(_ENUMERATORS[position]->Name());
+    return S_OK;
+}
+
+HRESULT ZanDicEnum::GetEnumerators(ZELListPtrIUnknown* enumerators) const {
+    return AppendInterfaces(_ENUMERATORS, enumerators);
+}
+
+HRESULT ZanDicEnum::RemoveEnumerator(const ZELString* name) {
+    ZanDicObj* found = nullptr;
+    if (name == nullptr) return E_FAIL;
+    const bool listed = Succeeded(_ENUMERATORS.Search(*name, &found));
+    if (listed) _REMOVED.Append(found);
+    return _ENUMERATORS.Remove(*name);
+}
+
+HRESULT ZanDicEnum::RemoveEnumValue(const ZELString* name) { return RemoveEnumerator(name); }
+
+HRESULT ZanDicEnum::FlushAll() {
+    const ZanDicTraceScope trace("ZanDicEnum::FlushAll", "RC=");
+    trace.Start("=== start === ");
+    if (auto line = trace.Line(TraceLevel::Detail)) {
+        line << "_Type=" << Type() << " (" << ZanDicTypeName(Type()) << "), _Name=" << Name();
+    }
+    trace.Say(TraceLevel::Detail, "processing _ENUMERATORS...");
+    return trace.Exit(DropOwned(_ENUMERATORS, "_ENUMERATORS", trace));
+}
+
+void ZanDicEnum::take_Owned(std::vector<ZanDicObj*>& owned) {
+    for (int position = 1; position <= _ENUMERATORS.Size(); ++position)
+        owned.push_back(_ENUMERATORS[position]);
+    owned.insert(owned.end(), _REMOVED.begin(), _REMOVED.end());
+    _ENUMERATORS.clear();
+    _REMOVED.RemoveAll();
+}
+
+void ZanDicEnum::drop_Links() {
+    ZanDicElement::drop_Links();
+    std::vector<ZanDicObj*> owned;
+    ZanDicEnum::take_Owned(owned);
+    DropTaken(owned);
+}

@@ -1,0 +1,147 @@
+/// What the passes over one document share, and what the first notes for the others.
+#ifndef READING_H
+#define READING_H
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include "FaultReport.h"
+#include "OXMIDicClass.h"
+#include "OXMIDicMgr.h"
+#include "OXMIDicPackage.h"
+#include "OXMIDicPrimitive.h"
+#include "TextCache.h"
+#include "ZELDbBinary.h"
+#include "ZELVBTXMLNode.h"
+#include "ZanDicRef.h"
+
+/// \returns the UUID that a text of a document stands for; never refused.
+ZELDbBinary UuidOf(std::string_view text);
+
+/// \returns "Package::Class::attribute" as far as the object has these.
+std::string QualifiedName(OXMIDicElementH& object);
+
+/// The UUIDs that a load which goes on after faults could not give to an element. References to them
+/// are passed over: the fault is told already. One for a whole load, prerequisites included.
+class LeftOut {
+public:
+    void Add(const ZELDbBinary& uuid) { _UUIDS.insert(uuid); }
+
+    /// Adds the UUIDs of a tag and of all tags inside it.
+    void AddAll(const ZELVBTXMLNode& node);
+
+    /// Says that it is not known what is left out: no reference that finds nothing is a fault any more.
+    void AddUnknown() { _Unknown = true; }
+
+    bool Has(const ZELDbBinary& uuid) const { return !_UUIDS.empty() && _UUIDS.contains(uuid); }
+    bool MayHave(const ZELDbBinary& uuid) const { return _Unknown || Has(uuid); }
+
+private:
+    struct Hash {
+        std::size_t operator()(const ZELDbBinary& uuid) const { return uuid.ComputeHashKey(); }
+    };
+
+    std::unordered_set<ZELDbBinary, Hash> _UUIDS;
+    bool _Unknown = false;
+};
+
+/// The reference attributes of one tag, by number in the document: what the second pass resolves.
+class ReferenceNotes {
+public:
+    static constexpr std::uint32_t kNone = 0xFFFFFFFF;
+    static constexpr std::size_t kSlots = 4;
+
+    /// Notes an attribute; the first of a name counts.
+    void Note(std::size_t slot, const ZELVBTXMLAttribute& attribute) {
+        if (_INDEXES[slot] == kNone) _INDEXES[slot] = attribute.Index();
+        _Any = true;
+    }
+
+    ZELVBTXMLAttribute At(std::size_t slot, const ZELVBTXMLDocument& document) const {
+        return _INDEXES[slot] == kNone ? ZELVBTXMLAttribute() : document.AttributeAt(_INDEXES[slot]);
+    }
+
+    bool HasAny() const { return _Any; }
+
+private:
+    std::array<std::uint32_t, kSlots> _INDEXES{kNone, kNone, kNone, kNone};
+    bool _Any = false;
+};
+
+/// The slots of ReferenceNotes by tag.
+namespace slot {
+inline constexpr std::size_t kTarget = 0;  ///< Simple, Relationship, Inverse
+inline constexpr std::size_t kCategories = 1;
+inline constexpr std::size_t kScopes = 2;     ///< Relationship
+inline constexpr std::size_t kInverseOf = 3;  ///< Inverse
+inline constexpr std::size_t kUniques = 0;    ///< Unique
+inline constexpr std::size_t kSuper = 0;      ///< Class, Instance
+inline constexpr std::size_t kReference = 1;
+inline constexpr std::size_t kCommands = 2;
+}  // namespace slot
+
+/// A member of a class that has references.
+struct MemberNote {
+    ZanDicRef<OXMIDicElement> member;  ///< as the interface of its type
+    OXMDicTYPE type;
+    std::uint32_t node;
+    ReferenceNotes references;
+};
+
+/// A child of the package that later passes meet again.
+struct ElementNote {
+    std::uint32_t node;
+    ZanDicRef<OXMIDicClass> element = ZanDicRef<OXMIDicClass>();  ///< null unless it is a class
+    ReferenceNotes references = {};
+    std::size_t firstMember = 0;  ///< in the notes of members
+    std::size_t endMember = 0;
+    bool isUnknown = false;         ///< its tag is
+    bool hasRelationships = false;  ///< it is to be checked once its super class is known
+};
+
+/// The state of the passes over one document.
+struct Reading {
+    Reading(OXMIDicMgr& theManager, FaultReport& theFaults, LeftOut& theLeftOut,
+            const ZELVBTXMLDocument& theDocument)
+        : manager(theManager), faults(theFaults), leftOut(theLeftOut), document(theDocument) {}
+
+    /// \returns the name of a tag's element as diagnostics give it.
+    std::string ElementName(const ZELVBTXMLNode& node) const;
+
+    /// \returns the manager's primitive of that kind; null when it has none.
+    OXMIDicPrimitive* Primitive(int kind);
+
+    OXMIDicMgr& manager;
+    FaultReport& faults;
+    LeftOut& leftOut;
+    LeftOut untargeted;  ///< attributes whose target was at fault
+    const ZELVBTXMLDocument& document;
+    ZanDicRef<OXMIDicPackage> package;  ///< the one that this load made; null before
+    std::string_view owner;             ///< name of the element whose members are being read
+    TextCache texts;
+    ReferenceNotes references;      ///< of the tag that is being filled
+    ZELVBTXMLAttribute persistent;  ///< of the class that is being filled
+    std::vector<ElementNote> elements;
+    std::vector<MemberNote> members;
+
+private:
+    std::array<ZanDicRef<OXMIDicPrimitive>, 10> _PRIMITIVES;  ///< by kind
+};
+
+/// \returns the value of the first `Name`; empty when there is none.
+std::string_view NameOf(const ZELVBTXMLNode& node);
+
+/// A fault of a tag.
+Fault FaultOf(const Reading& reading, ZanDicDiagnosticCode code, const ZELVBTXMLNode& node);
+
+/// The answer of a factory that failed, as a fault: what it handed out tells whether the UUID is taken.
+/// \param message the line for an element that was not made; an element that was made and not
+/// registered has its lines from the registry.
+HRESULT ReportNotCreated(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
+                         bool isHandedOut, bool isNameTaken, std::string message);
+
+#endif

@@ -1,0 +1,38 @@
+#ifndef ZANDIC_TOOL_FAULTS_H
+#define ZANDIC_TOOL_FAULTS_H
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "ZanDicDiagnostic.h"
+
+namespace tool {
+
+/// Something that the tool has to say, and where.
+struct Fault {
+    std::string subject;  ///< a file, or what the user asked for
+    ZanDicPlace place;    ///< zeros: none
+    std::string text;
+};
+
+/// \returns the one form of the tool's own lines: "zandic: FILE:LINE:COLUMN: error: TEXT", without the
+/// parts that there are not.
+std::string FaultLine(const Fault& fault);
+
+/// Is told the faults of documents. Keeps the first error of a load, which ends it, and passes on what the
+/// trace settings do not let through: a user hears of every fault, once.
+class FaultObserver final : public ZanDicDiagnosticObserver {
+public:
+    bool OnDiagnostic(const ZanDicDiagnostic& diagnostic) override;
+
+    /// \returns the first error since the last call, or none.
+    std::optional<Fault> TakeFirstError();
+
+private:
+    std::optional<Fault> _FirstError;
+};
+
+}  // namespace tool
+
+#endif

@@ -1,0 +1,115 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <chrono>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "Command.h"
+#include "Model.h"
+#include "Names.h"
+
+namespace tool {
+namespace {
+
+namespace tag = ZANDicFormat::tag;
+
+/// The kinds that are counted, in the order of the columns. A kind that no package has gets no column.
+constexpr std::string_view kCountedTags[] = {
+    tag::kClass,        tag::kInstance, tag::kExtension,  tag::kInterface, tag::kSimple,
+    tag::kRelationship, tag::kInverse,  tag::kUnique,     tag::kEnum,      tag::kEnumerator,
+    tag::kCategory,     tag::kRBOClass, tag::kRBOMapping,
+};
+
+/// One line of the answer.
+struct Line {
+    std::string name;
+    std::string uuid;
+    std::map<std::string_view, int> counts;
+    LoadClock::Duration own{};
+};
+
+template <class Object, class Getter>
+void CountMembers(Object& object, Getter getter, Line& line) {
+    for (OXMIDicElement& member : zandic::All<OXMIDicElement>(object, getter)) ++line.counts[TagOf(member)];
+}
+
+Line LineOf(OXMIDicPackage& package, const LoadClock& clock) {
+    const ZELString name = zandic::Name(package);
+    Line line{std::string(name.View()),
+              std::string(zandic::UuidText(zandic::Uuid(package)).View()),
+              {},
+              clock.Own(name.View())};
+    for (OXMIDicElement& element : zandic::All<OXMIDicElement>(package, &OXMIDicPackage::GetElements)) {
+        ++line.counts[TagOf(element)];
+        if (const auto classElement = zandic::As<OXMIDicClass>(element)) {
+            CountMembers(*classElement, &OXMIDicClass::GetClassElements, line);
+            CountMembers(*classElement, &OXMIDicClass::GetUniques, line);
+        } else if (const auto enumeration = zandic::As<OXMIDicEnum>(element)) {
+            CountMembers(*enumeration, &OXMIDicEnum::GetEnumerators, line);
+        }
+    }
+    return line;
+}
+
+/// \returns one line for each package, those first whose load ended first.
+std::vector<Line> LinesOf(const Session& session) {
+    const std::vector<std::string> order = session.Clock().Finished();
+    const auto rank = [&order](const Line& line) {
+        return std::find(order.begin(), order.end(), line.name) - order.begin();
+    };
+    std::vector<Line> lines;
+    ForEachPackage(session.Dictionary(),
+                   [&](OXMIDicPackage& package) { lines.push_back(LineOf(package, session.Clock())); });
+    std::stable_sort(lines.begin(), lines.end(),
+                     [&rank](const Line& a, const Line& b) { return rank(a) < rank(b); });
+    return lines;
+}
+
+Line TotalOf(const std::vector<Line>& lines) {
+    Line total{
+        "total", fmt::format("{} {}", lines.size(), lines.size() == 1 ? "package" : "packages"), {}, {}};
+    for (const Line& line : lines) {
+        for (const auto& [tagName, count] : line.counts) total.counts[tagName] += count;
+        total.own += line.own;
+    }
+    return total;
+}
+
+/// Writes lines whose columns are as wide as the total, which is the widest, needs them.
+void WriteLines(const std::vector<Line>& lines, const Line& total, Output& output) {
+    std::size_t nameWidth = total.name.size();
+    for (const Line& line : lines) nameWidth = std::max(nameWidth, line.name.size());
+    const auto write = [&](const Line& line) {
+        std::string text =
+            fmt::format("{:<{}}  {:<{}}", line.name, nameWidth, line.uuid, zandic::UuidText::kLength);
+        for (const std::string_view tagName : kCountedTags) {
+            const auto counted = total.counts.find(tagName);
+            if (counted == total.counts.end()) continue;
+            const auto own = line.counts.find(tagName);
+            text += fmt::format("  {:>{}} {}", own != line.counts.end() ? own->second : 0,
+                                fmt::formatted_size("{}", counted->second), tagName);
+        }
+        const std::chrono::duration<double, std::milli> milliseconds = line.own;
+        output.Write(text + fmt::format("  {:>8.3f} ms\n", milliseconds.count()));
+    };
+    for (const Line& line : lines) write(line);
+    write(total);
+}
+
+}  // namespace
+
+void RunLoad(Session& session, const Options& options, Output& output) {
+    for (const std::string& name : options.names) {
+        if (auto wrong = WrongPackageName(name)) {
+            session.RejectUse(name, *wrong);
+        } else {
+            session.Load(name);
+        }
+    }
+    const std::vector<Line> lines = LinesOf(session);
+    if (!lines.empty()) WriteLines(lines, TotalOf(lines), output);
+}
+
+}  // namespace tool

@@ -1,0 +1,32 @@
+#ifndef ZANDIC_TOOL_OPTIONS_H
+#define ZANDIC_TOOL_OPTIONS_H
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tool {
+
+/// Exit status of the process; the worst of several subjects wins.
+enum class ExitStatus {
+    Done = 0,      ///< with warnings or not
+    Refused = 1,   ///< by the dictionary; or not found; or input and output failed
+    WrongUse = 2,  ///< of the command line
+};
+
+/// What the command line says, whatever the command.
+struct Options {
+    std::vector<std::string> names;  ///< the subjects
+    std::vector<std::string> in;     ///< packages in which to look for UUIDs
+    std::vector<std::string> path;   ///< directories, each maybe several separated by ":"
+    std::optional<int> traceLevel;
+    std::optional<std::string> traceMethods;  ///< a file
+    bool json = false;
+    bool quiet = false;
+
+    bool Traces() const { return traceLevel.has_value() || traceMethods.has_value(); }
+};
+
+}  // namespace tool
+
+#endif

@@ -1,0 +1,65 @@
+#ifndef ZANDIC_TOOL_SESSION_H
+#define ZANDIC_TOOL_SESSION_H
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Faults.h"
+#include "LoadClock.h"
+#include "Options.h"
+#include "zandic.hpp"
+
+namespace tool {
+
+/// One run of the tool over the dictionary: sets the four doors, loads packages, gathers what went wrong.
+/// One at a time.
+class Session {
+public:
+    /// Lets the options decide what is traced and where to.
+    explicit Session(const Options& options);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    /// Prepares the dictionary. \returns whether it worked; else the fault is noted.
+    bool Open();
+
+    const zandic::Dictionary& Dictionary() const { return _Dictionary; }
+    const LoadClock& Clock() const { return _Clock; }
+
+    /// \returns the directories that are searched, separated by ":"; empty when there are none.
+    const std::string& Path() const { return _Path; }
+
+    /// Loads the package unless that was tried before.
+    /// \returns whether it is there; else the fault is noted, on the first try.
+    bool Load(const std::string& name);
+
+    /// Loads every *.metadata document of the path, in the order of their names.
+    void LoadWholePath();
+
+    /// Note what could not be done, and what must not be asked for.
+    void Refuse(std::string subject, std::string text);
+    void RejectUse(std::string subject, std::string text);
+
+    /// Unloads everything, then writes a line for each fault: the last lines of the process.
+    ExitStatus Close();
+
+private:
+    void Note(Fault fault, ExitStatus status);
+
+    zandic::Dictionary _Dictionary;
+    FaultObserver _Observer;
+    LoadClock _Clock;
+    std::string _Path;
+    std::string _TraceMethods;
+    std::set<std::string, std::less<>> _LOADED;   ///< names asked for that are there
+    std::set<std::string, std::less<>> _REFUSED;  ///< names asked for that are not
+    std::vector<Fault> _FAULTS;
+    ExitStatus _Status = ExitStatus::Done;
+};
+
+}  // namespace tool
+
+#endif

@@ -1,0 +1,129 @@
+#include "Views.h"
+
+#include <fmt/format.h>
+
+#include "Model.h"
+
+namespace tool {
+namespace {
+
+constexpr std::string_view kUnbounded = "*";
+
+/// Shows the object as \p Interface if it is of that kind.
+template <class Interface, void (*kShow)(const View&, Interface&)>
+void ShowAs(const View& view, OXMIDicElementH& object) {
+    if (const auto typed = zandic::As<Interface>(object)) kShow(view, *typed);
+}
+
+struct KindView {
+    OXMDicTYPE kind;
+    void (*show)(const View& view, OXMIDicElementH& object);
+};
+
+constexpr KindView kKindViews[] = {
+    {OXMDicTYPE_Package, ShowAs<OXMIDicPackage, ShowPackage>},
+    {OXMDicTYPE_Class, ShowAs<OXMIDicClass, ShowClass>},
+    {OXMDicTYPE_Extension, ShowAs<OXMIDicClass, ShowClass>},
+    {OXMDicTYPE_Simple, ShowAs<OXMIDicAttribute, ShowAttribute>},
+    {OXMDicTYPE_Relationship, ShowAs<OXMIDicAttribute, ShowAttribute>},
+    {OXMDicTYPE_Inverse, ShowAs<OXMIDicAttribute, ShowAttribute>},
+    {OXMDicTYPE_Unique, ShowAs<OXMIDicUnique, ShowUnique>},
+    {OXMDicTYPE_Enum, ShowAs<OXMIDicEnum, ShowEnum>},
+    {OXMDicTYPE_Enumerator, ShowAs<OXMIDicEnumerator, ShowEnumerator>},
+    {OXMDicTYPE_Category, ShowAs<OXMIDicCategory, ShowCategory>},
+};
+
+/// \returns the package of the object, or its own name when it is one.
+std::string PackageNameOf(OXMIDicElementH& object) {
+    const auto element = zandic::As<OXMIDicElement>(object);
+    if (!element) return std::string(zandic::Name(object).View());
+    return TextOf(*element, &OXMIDicElement::GetPackageName);
+}
+
+bool HasCategory(OXMIDicElementH& object, OXMIDicElementH& category) {
+    for (OXMIDicElementH& each : zandic::All<OXMIDicElementH>(object, &OXMIDicElementH::GetCategories)) {
+        if (IsSame(each, category)) return true;
+    }
+    return false;
+}
+
+using Rows = std::vector<std::vector<std::string>>;
+
+void AddUser(const View& view, OXMIDicElementH& user, const std::string& note, Rows& rows) {
+    rows.push_back({NameIn(view, user), std::string(TagOf(user)), note});
+}
+
+void AddAttributeUsers(const View& view, OXMIDicClass& classElement, OXMIDicElementH& target, Rows& rows) {
+    for (OXMIDicAttribute& attribute :
+         zandic::All<OXMIDicAttribute>(classElement, &OXMIDicClass::GetClassElements)) {
+        if (const auto type = zandic::TypeOf(attribute); type && IsSame(*type, target)) {
+            AddUser(view, attribute, ValuesText(attribute), rows);
+        }
+        if (HasCategory(attribute, target)) AddUser(view, attribute, "", rows);
+    }
+}
+
+}  // namespace
+
+void ShowObject(const zandic::Dictionary& dictionary, OXMIDicElementH& object, Output& output) {
+    Sheet sheet(output);
+    const View view{dictionary, sheet, PackageNameOf(object)};
+    for (const KindView& row : kKindViews) {
+        if (row.kind == zandic::Kind(object)) row.show(view, object);
+    }
+}
+
+std::string NameIn(const View& view, OXMIDicElementH& object) {
+    std::string name = QualifiedName(object);
+    const std::string own = view.package + std::string(kNameSeparator);
+    return name.starts_with(own) ? name.substr(own.size()) : name;
+}
+
+void ShowIdentity(const View& view, OXMIDicElement& element) {
+    view.sheet.Field("UUID", zandic::UuidText(zandic::Uuid(element)).View());
+    view.sheet.Field("Alias", TextOf(element, &OXMIDicElement::GetAlias));
+    view.sheet.Field("Exposition level", TextOf(element, &OXMIDicElement::GetExpositionLevel));
+    view.sheet.Field("Visibility",
+                     WordOf(element, &OXMIDicElement::GetVisibility, ZANDicFormat::kVisibilityWords));
+}
+
+void ShowExtras(const View& view, OXMIDicElementH& object) {
+    view.sheet.Field("Categories",
+                     NamesIn(view, zandic::All<OXMIDicElementH>(object, &OXMIDicElementH::GetCategories)));
+    for (const auto [name, value] : zandic::FreeAttributes(object)) {
+        view.sheet.Field("Free attribute", fmt::format("{} = {}", name, value));
+    }
+}
+
+std::string PlainNames(const zandic::List<OXMIDicElementH>& objects) {
+    std::vector<std::string> names;
+    for (OXMIDicElementH& object : objects) names.emplace_back(zandic::Name(object).View());
+    return Joined(names);
+}
+
+std::string ValuesText(OXMIDicAttribute& attribute) {
+    const bool mandatory = zandic::Flag(attribute, &OXMIDicAttribute::GetMandatory);
+    if (!zandic::Flag(attribute, &OXMIDicAttribute::GetMultiValuated)) return mandatory ? "1" : "0..1";
+    const int upper = zandic::Get(attribute, &OXMIDicAttribute::GetUpper).value_or(0);
+    return fmt::format(
+        "{} {}..{}", WordOf(attribute, &OXMIDicAttribute::GetCollectionType, ZANDicFormat::kCollectionWords),
+        zandic::Get(attribute, &OXMIDicAttribute::GetLower).value_or(0),
+        upper > 0 ? std::to_string(upper) : std::string(kUnbounded));
+}
+
+void ShowUsers(const View& view, OXMIDicElementH& target) {
+    Rows rows;
+    ForEachElement(view.dictionary, [&](OXMIDicElement& element) {
+        if (HasCategory(element, target)) AddUser(view, element, "", rows);
+        if (const auto classElement = zandic::As<OXMIDicClass>(element)) {
+            const auto reference = zandic::Link(*classElement, &OXMIDicClass::GetReference);
+            if (reference && IsSame(*reference, target)) AddUser(view, element, "as its reference", rows);
+            AddAttributeUsers(view, *classElement, target, rows);
+        }
+    });
+    if (rows.empty()) return;
+    view.sheet.Section(fmt::format("Referred to by ({})", rows.size()));
+    view.sheet.Rows(rows);
+}
+
+}  // namespace tool

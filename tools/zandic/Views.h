@@ -1,0 +1,67 @@
+/// The sheets of `show`: what the model knows of one object, laid out for reading.
+#ifndef ZANDIC_TOOL_VIEWS_H
+#define ZANDIC_TOOL_VIEWS_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "OXMIDicCategory.h"
+#include "OXMIDicClass.h"
+#include "OXMIDicEnum.h"
+#include "OXMIDicEnumerator.h"
+#include "OXMIDicUnique.h"
+#include "Sheet.h"
+#include "zandic.hpp"
+
+namespace tool {
+
+/// Where the words of a sheet come from and go to.
+struct View {
+    const zandic::Dictionary& dictionary;
+    Sheet& sheet;
+    std::string package;  ///< names of this package are shown without it
+};
+
+/// Shows any object, by its kind. The classes must have been asked for all attributes.
+void ShowObject(const zandic::Dictionary& dictionary, OXMIDicElementH& object, Output& output);
+
+// One for each kind; an enumerator and a unique are shown as members of their owner.
+void ShowPackage(const View& view, OXMIDicPackage& package);
+void ShowClass(const View& view, OXMIDicClass& classElement);
+void ShowAttribute(const View& view, OXMIDicAttribute& attribute);
+void ShowUnique(const View& view, OXMIDicUnique& unique);
+void ShowEnum(const View& view, OXMIDicEnum& enumeration);
+void ShowEnumerator(const View& view, OXMIDicEnumerator& enumerator);
+void ShowCategory(const View& view, OXMIDicCategory& category);
+
+// What several sheets share.
+
+/// \returns the qualified name, without the package when that is the one of the view.
+std::string NameIn(const View& view, OXMIDicElementH& object);
+
+template <class Object>
+std::vector<std::string> NamesIn(const View& view, const zandic::List<Object>& objects) {
+    std::vector<std::string> names;
+    for (Object& object : objects) names.push_back(NameIn(view, object));
+    return names;
+}
+
+/// UUID, alias, exposition level and visibility.
+void ShowIdentity(const View& view, OXMIDicElement& element);
+
+/// Categories and free attributes, which end the fields of every sheet.
+void ShowExtras(const View& view, OXMIDicElementH& object);
+
+/// \returns "key ATTRIBUTES" for a list of attributes: their names without class and package.
+std::string PlainNames(const zandic::List<OXMIDicElementH>& objects);
+
+/// \returns how many values an attribute has: "1", "0..1", "Set 0..5".
+std::string ValuesText(OXMIDicAttribute& attribute);
+
+/// A section of those that refer to \p target: classes and attributes of every loaded package.
+void ShowUsers(const View& view, OXMIDicElementH& target);
+
+}  // namespace tool
+
+#endif
