@@ -200,6 +200,7 @@ inline constexpr AttributeRow kParameterAttributes[] = {
     row::kAlias,
     {word::kType, AttributeForm::Word, false, kSimpleTypeWords},
     {word::kTypeRef, AttributeForm::Reference},
+    {word::kClassRef, AttributeForm::Reference},
     {word::kKind, AttributeForm::Word, false, kKindWords},
     row::kDefault,
 };

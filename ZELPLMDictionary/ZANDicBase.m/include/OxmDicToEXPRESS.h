@@ -12,12 +12,11 @@
 ///
 /// A class that is neither persistent nor has subclasses, or is an instance, is not written and ends the
 /// walk over the classes; a line on standard error names it. The name of the file, "PACKAGE.express", is
-/// written to standard error in every case. The text appears under it only when it is complete.
+/// written to standard error as well. The text appears under it only when it is complete.
 ///
 /// \param packageName with or without a content word behind a ".".
 /// \param directory where the text goes; it must exist. Null or empty means the first directory of
-/// `ZELDictionaryPath` that holds such a text, else the first one that holds the package's document, else the
-/// first one.
+/// `ZELDictionaryPath` that holds the package's document, else the first one.
 /// \returns S_OK; E_FAIL when an argument is missing, no such package is loaded, its name holds a slash, a
 /// backslash or a ".", no directory is known or the file cannot be written, the last three after a line on
 /// standard error.

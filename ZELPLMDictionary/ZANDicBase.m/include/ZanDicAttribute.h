@@ -120,6 +120,7 @@ public:
     static constexpr Mode kCollection{17, 4, 4, 52};
     /// \returns the stored number, whatever it is.
     int stored_Mode(const Mode& mode) const;
+    int lost_Links(LinkName link) const override;
 
 protected:
     void drop_Links() override;

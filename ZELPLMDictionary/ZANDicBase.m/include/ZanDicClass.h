@@ -179,6 +179,7 @@ public:
 
     ZanDicClass* get_SuperClass() const { return _SuperClass.Get(); }
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    int lost_Links(LinkName link) const override;
 
 protected:
     void drop_Links() override;

@@ -118,6 +118,22 @@ public:
 
     // What follows is for the library itself.
 
+    /// The links that documents have words for.
+    enum class LinkName {
+        SuperClass,  ///< of a class or an interface
+        Reference,
+        Type,     ///< what types an attribute or a parameter: primitive, enumeration, target class
+        Inverse,  ///< what an inverse inverts
+        Scopes,
+        Members,  ///< of a unique key
+        Categories,
+        UsedPackages,
+        ScopePackages,
+    };
+    /// \returns how many links of that name were set and have lost their object since; 0 for a kind of object
+    /// without such a link.
+    virtual int lost_Links(LinkName link) const;
+
     /// Whether the object was taken out of the dictionary for good.
     bool is_Gone() const { return _Gone; }
     /// Makes links to this object read null, and drops its own links and package (`drop_Links`).

@@ -117,6 +117,12 @@ public:
     // What follows is for the library itself.
 
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    int lost_Links(LinkName link) const override;
+
+    /// The content kind that the package was loaded from, under which it is saved; metadata unless the reader
+    /// says otherwise.
+    void set_Content(OXMDicCONTENT content) { _Content = content; }
+    OXMDicCONTENT get_Content() const { return _Content; }
 
 protected:
     void drop_Links() override;
@@ -127,6 +133,7 @@ private:
     HRESULT add_Package(ZanHashList& packages, const OXMIDicPackage* package);
     HRESULT get_Packages(const ZanHashList& list, ZELListPtrIUnknown* packages) const;
 
+    OXMDicCONTENT _Content = OXMDicCONTENT_metadata;
     ZELString _Domain;
     mutable bool _OnTheWay = false;  ///< during GetAllElements: among those whose elements are being listed
     ZanHashList _ELEMENTS;           ///< this package owns one reference to each

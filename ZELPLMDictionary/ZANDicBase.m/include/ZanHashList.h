@@ -62,6 +62,8 @@ public:
     bool take_Object(const ZanDicObj* object);
     /// Empties the list.
     void clear();
+    /// How many objects that were in a list of links are gone since; clear forgets them.
+    int lost_Count() const;
     /// Makes room for \p count objects.
     void reserve(int count);
 

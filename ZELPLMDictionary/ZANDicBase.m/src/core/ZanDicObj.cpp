@@ -295,6 +295,10 @@ HRESULT ZanDicObj::GetCategories(ZELListPtrIUnknown* categories) const {
     return rc;
 }
 
+int ZanDicObj::lost_Links(LinkName link) const {
+    return link == LinkName::Categories && _Rare && _Rare->categories ? _Rare->categories->lost_Count() : 0;
+}
+
 HRESULT ZanDicObj::GetLostLinks(int* /*count*/) const { return E_FAIL; }
 
 HRESULT ZanDicObj::bind_Interface(OXMDicTYPE type, void** out) const {

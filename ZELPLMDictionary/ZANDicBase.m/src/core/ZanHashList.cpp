@@ -38,6 +38,7 @@ struct ZanHashList::Store {
     ZELArray<Slot> index;                   ///< by key, a power of two of slots; empty while small
     int first = 0;                          ///< what is before it are gaps
     int gaps = 0;                           ///< the gaps behind it
+    int lost = 0;                           ///< entries that were dropped since their object is gone
     std::uint64_t seenLostCount = 0;        ///< nothing has gone since the count of lost links was this
     ZanHashListKind kind;
 
@@ -59,6 +60,7 @@ struct ZanHashList::Store {
     int Find(const ZELString& key) {
         const int at = FindEntry(key);
         if (at == kNone || !IsGone(at)) return at;
+        ++lost;
         RemoveAt(at);
         return kNone;
     }
@@ -113,7 +115,11 @@ private:
         const bool hasLinks = kind == ZanHashListKind::Links;
         int kept = 0;
         for (int at = first; at < End(); ++at) {
-            if (entries[at].object == nullptr || IsGone(at)) continue;
+            if (entries[at].object == nullptr) continue;
+            if (IsGone(at)) {
+                ++lost;
+                continue;
+            }
             if (kept != at) {
                 entries[kept] = std::move(entries[at]);
                 if (hasLinks) links[kept] = std::move(links[at]);
@@ -294,6 +300,11 @@ bool ZanHashList::take_Object(const ZanDicObj* object) {
 void ZanHashList::clear() {
     Store* const empty = empty_Store(_STORE->kind);
     if (_STORE != empty) delete std::exchange(_STORE, empty);
+}
+
+int ZanHashList::lost_Count() const {
+    _STORE->DropLost();
+    return _STORE->lost;
 }
 
 void ZanHashList::reserve(int count) {

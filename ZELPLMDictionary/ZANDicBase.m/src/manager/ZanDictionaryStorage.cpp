@@ -6,6 +6,8 @@
 #include "OXMIDicMgr.h"
 #include "OXMIDicPackage.h"
 #include "OxmDicFromXML.h"
+#include "OxmDicToEXPRESS.h"
+#include "OxmDicToXML.h"
 #include "ZELEnvironment.h"
 #include "ZanDicProfiling.h"
 #include "ZanDicRef.h"
@@ -164,8 +166,13 @@ HRESULT ZanDictionary::SaveXml(const char* directory, const ZELString* packageNa
         line << "iPackName=" << packageName << ", iDirName=" << directory;
     }
     const Storage storage(trace, directory);
-    if (storage) trace.Warning("*** WARNING *** Functionnality not implemented yet.");
-    return trace.Exit(E_FAIL);
+    if (!storage) return trace.Exit(E_FAIL);
+    // Of a search path the writer takes one directory: the path as a whole is no place for a file.
+    return trace.Exit(OxmDicToXML(storage.manager.Get(), packageName, directory));
 }
 
-HRESULT ZanDictionary::SaveExpress(const char* /*directory*/, const ZELString* /*packageName*/) { return E_FAIL; }
+HRESULT ZanDictionary::SaveExpress(const char* directory, const ZELString* packageName) {
+    ZanDicRef<OXMIDicMgr> manager;
+    if (!PathOf(directory) || Failed(GetOXMIDicMgr(manager.Out()))) return E_FAIL;
+    return OxmDicToEXPRESS(manager.Get(), packageName, directory);
+}

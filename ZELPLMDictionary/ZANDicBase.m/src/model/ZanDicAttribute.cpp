@@ -38,6 +38,12 @@ ZanDicAttributeFields& ZanDicAttribute::make_Fields() {
     return static_cast<ZanDicAttributeFields&>(make_Rare());
 }
 
+int ZanDicAttribute::lost_Links(LinkName link) const {
+    if (link == LinkName::Type) return _TypeElement.IsLost() ? 1 : 0;
+    if (link == LinkName::Inverse) return fields() != nullptr && fields()->inverseOf.IsLost() ? 1 : 0;
+    return ZanDicElement::lost_Links(link);
+}
+
 void ZanDicAttribute::drop_Links() {
     ZanDicElement::drop_Links();
     ZanDicHierarchy::Changed();

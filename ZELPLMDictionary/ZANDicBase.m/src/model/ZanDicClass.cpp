@@ -65,6 +65,12 @@ void ZanDicClass::take_Owned(std::vector<ZanDicObj*>& owned) {
     members.removed.RemoveAll();
 }
 
+int ZanDicClass::lost_Links(LinkName link) const {
+    if (link == LinkName::SuperClass) return _SuperClass.IsLost() ? 1 : 0;
+    if (link == LinkName::Reference) return _Reference.IsLost() ? 1 : 0;
+    return ZanDicElement::lost_Links(link);
+}
+
 void ZanDicClass::drop_Links() {
     ZanDicElement::drop_Links();
     ZanDicHierarchy::Changed();

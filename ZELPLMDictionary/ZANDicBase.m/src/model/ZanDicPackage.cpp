@@ -271,6 +271,12 @@ void ZanDicPackage::take_Owned(std::vector<ZanDicObj*>& owned) {
     _ELEMENTS.clear();
 }
 
+int ZanDicPackage::lost_Links(LinkName link) const {
+    if (link == LinkName::UsedPackages) return _USEDPACKAGES.lost_Count();
+    if (link == LinkName::ScopePackages) return _SCOPEPACKAGES.lost_Count();
+    return ZanDicObj::lost_Links(link);
+}
+
 void ZanDicPackage::drop_Links() {
     ZanDicObj::drop_Links();
     std::vector<ZanDicObj*> owned;

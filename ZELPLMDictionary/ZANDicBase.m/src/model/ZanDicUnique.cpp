@@ -34,6 +34,10 @@ HRESULT ZanDicUnique::GetElements(ZELListPtrIUnknown* elements) const {
     return AppendInterfaces(_ELEMENTS, elements);
 }
 
+int ZanDicUnique::lost_Links(LinkName link) const {
+    return link == LinkName::Members ? _ELEMENTS.lost_Count() : ZanDicElement::lost_Links(link);
+}
+
 void ZanDicUnique::drop_Links() {
     ZanDicElement::drop_Links();
     _ELEMENTS.clear();
