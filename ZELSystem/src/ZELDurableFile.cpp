@@ -187,7 +187,8 @@ int ZELDurableFile::OpenNamed() {
 int ZELDurableFile::TakeName() {
     if (!_Beside.empty()) return 0;
     const auto link = [this] {
-        const int rc = Uninterrupted([&] { return ZELPresentFileCalls().Link(_Descriptor, _Beside.c_str()); });
+        const int rc =
+            Uninterrupted([&] { return ZELPresentFileCalls().Link(_Descriptor, _Beside.c_str()); });
         return rc == 0 ? 0 : LastError();
     };
     return TakeFreeName(_Directory, std::string_view(_Path).substr(_Directory.size()), _Beside, link);
@@ -247,7 +248,8 @@ void ZELDurableFile::Flush() {
     const char* next = _Buffer.get();
     while (_Error == 0 && next != _End) {
         const auto size = static_cast<std::size_t>(_End - next);
-        const long count = Uninterrupted([&] { return ZELPresentFileCalls().Write(_Descriptor, next, size); });
+        const long count =
+            Uninterrupted([&] { return ZELPresentFileCalls().Write(_Descriptor, next, size); });
         if (count < 0) _Error = LastError();
         if (count == 0) _Error = EIO;  // a file that takes nothing and says no reason
         if (count > 0) next += count;

@@ -19,7 +19,8 @@ constexpr std::array<char, 2 * ZELVBTXMLWriter::kMostIndented> MakeBlanks() {
 }
 constexpr auto kBlanks = MakeBlanks();
 
-/// \returns the reference that stands for an ASCII character; empty when it is written as it is or not at all.
+/// \returns the reference that stands for an ASCII character; empty when it is written as it is or not at
+/// all.
 constexpr std::string_view ReferenceOf(char c) {
     switch (c) {
         case '"':

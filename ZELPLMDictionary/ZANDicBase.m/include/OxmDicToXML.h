@@ -18,9 +18,9 @@
 /// \param packageName with or without a content word behind a ".".
 /// \param directory where the document goes; it must exist. Null or empty means the first directory of
 /// `ZELDictionaryPath` that holds such a document, else the first one.
-/// \returns E_FAIL when an argument is missing, no such package is loaded, its name holds a slash, a backslash
-/// or a ".", or no directory is known. S_OK otherwise, also when the file could not be written: that is told
-/// by an error line only, so look for the file.
+/// \returns E_FAIL when an argument is missing, no such package is loaded, its name holds a slash, a
+/// backslash or a ".", or no directory is known. S_OK otherwise, also when the file could not be written:
+/// that is told by an error line only, so look for the file.
 ZANDICBASE_API HRESULT OxmDicToXML(OXMIDicMgr* manager, const ZELString* packageName, const char* directory);
 
 #endif

@@ -47,7 +47,8 @@ HRESULT SavePackage(OXMIDicPackage& package, const char* directory) {
         if (auto line = kTrace.Error()) line << text::kNoFileName << name;
         return E_FAIL;
     }
-    const std::string_view extension = ZANDicFormat::WordOf(ZANDicFormat::kContentWords, StoredContentOf(package));
+    const std::string_view extension =
+        ZANDicFormat::WordOf(ZANDicFormat::kContentWords, StoredContentOf(package));
     const std::string target = SaveDirectoryFor(directory, name.View(), extension);
     if (target.empty()) {
         kTrace.Error(text::kNoDirectory);

@@ -51,7 +51,8 @@ HRESULT Collection(XmlNode& node, OXMIDicAttribute& attribute) {
     attribute.GetUpper(&upper);
     node.Number(word::kLower, lower);
     node.Number(word::kUpper, upper);
-    node.Word(word::kCollectionType, WordOf(kCollectionWords, StoredModeOf(attribute, StoredMode::Collection)));
+    node.Word(word::kCollectionType,
+              WordOf(kCollectionWords, StoredModeOf(attribute, StoredMode::Collection)));
     return S_OK;
 }
 template <class Interface>

@@ -144,8 +144,7 @@ constexpr XmlRow<OXMIDicClass> kClassRows[] = {
     {word::kExtensible, Extensible},
     {word::kLateType, emit::Text<&OXMIDicClass::GetLateType>},
     {word::kSuperName, SuperClass},
-    {word::kReferenceRef,
-     emit::Reference<OXMIDicClass, &OXMIDicClass::GetReference, LinkName::Reference>},
+    {word::kReferenceRef, emit::Reference<OXMIDicClass, &OXMIDicClass::GetReference, LinkName::Reference>},
     {word::kApplicationName, emit::LongText<&OXMIDicClass::GetApplicationName>},
     {word::kScopeRefs, ExtensionScopes},
 };
@@ -216,6 +215,5 @@ constexpr XmlKind kCategoryKind{OXMDicTYPE_Category, text::kDisplayCategory, Fix
 constexpr XmlKind kEnumKind{OXMDicTYPE_Enum, text::kDisplayEnum, FixedTag<tag::kEnum>,
                             WriteRows<OXMIDicEnum, kEnumRows>,
                             ListChildren<OXMIDicEnum, &OXMIDicEnum::GetEnumerators>};
-constexpr XmlKind kEnumeratorKind{OXMDicTYPE_Enumerator, text::kDisplayEnumerator,
-                                  FixedTag<tag::kEnumerator>,
+constexpr XmlKind kEnumeratorKind{OXMDicTYPE_Enumerator, text::kDisplayEnumerator, FixedTag<tag::kEnumerator>,
                                   WriteRows<OXMIDicEnumerator, kEnumeratorRows>, nullptr};

@@ -73,12 +73,11 @@ constexpr XmlRow<OXMIDicParameter> kParameterRows[] = {
 
 }  // namespace
 
-constexpr XmlKind kInterfaceKind{OXMDicTYPE_Interface, text::kDisplayInterface,
-                                 FixedTag<tag::kInterface>, WriteRows<OXMIDicInterface, kInterfaceRows>,
+constexpr XmlKind kInterfaceKind{OXMDicTYPE_Interface, text::kDisplayInterface, FixedTag<tag::kInterface>,
+                                 WriteRows<OXMIDicInterface, kInterfaceRows>,
                                  ListChildren<OXMIDicInterface, &OXMIDicInterface::GetMethods>};
 constexpr XmlKind kMethodKind{OXMDicTYPE_Method, text::kDisplayMethod, FixedTag<tag::kMethod>,
                               WriteRows<OXMIDicMethod, kMethodRows>,
                               ListChildren<OXMIDicMethod, &OXMIDicMethod::GetParameters>};
-constexpr XmlKind kParameterKind{OXMDicTYPE_Parameter, text::kDisplayParameter,
-                                 FixedTag<tag::kParameter>, WriteRows<OXMIDicParameter, kParameterRows>,
-                                 nullptr};
+constexpr XmlKind kParameterKind{OXMDicTYPE_Parameter, text::kDisplayParameter, FixedTag<tag::kParameter>,
+                                 WriteRows<OXMIDicParameter, kParameterRows>, nullptr};

@@ -82,8 +82,8 @@ constexpr XmlRow<OXMIDicRBOPathExpression> kPathRows[] = {
 /// An object of that type code without the interface of its kind has its identity and says so.
 HRESULT WritePath(XmlNode& node, IUnknown& element) {
     if (As<OXMIDicRBOPathExpression>(element)) {
-        return WriteRows<OXMIDicRBOPathExpression, kIdentityRows<OXMIDicRBOPathExpression>, kPathRows>(node,
-                                                                                                 element);
+        return WriteRows<OXMIDicRBOPathExpression, kIdentityRows<OXMIDicRBOPathExpression>, kPathRows>(
+            node, element);
     }
     const ZanDicRef<OXMIDicElement> face = As<OXMIDicElement>(element);
     if (!face) return E_FAIL;
@@ -116,10 +116,10 @@ constexpr XmlKind kRBORootKind{
     OXMDicTYPE_RBORoot, text::kDisplayRBORoot, FixedTag<tag::kRBORoot>,
     WriteRows<OXMIDicRBORoot, kIdentityRows<OXMIDicRBORoot>, kBaseClassRows<OXMIDicRBORoot>>,
     ListChildren<OXMIDicRBORoot, &OXMIDicRBORoot::GetElements>};
-constexpr XmlKind kRBOComponentKind{
-    OXMDicTYPE_RBOComponent, text::kDisplayRBOComponent, FixedTag<tag::kRBOComponent>,
-    WriteRows<OXMIDicRBOComponent, kIdentityRows<OXMIDicRBOComponent>,
-              kBaseClassRows<OXMIDicRBOComponent>, kComponentRows>,
-    ListComponentChildren};
+constexpr XmlKind kRBOComponentKind{OXMDicTYPE_RBOComponent, text::kDisplayRBOComponent,
+                                    FixedTag<tag::kRBOComponent>,
+                                    WriteRows<OXMIDicRBOComponent, kIdentityRows<OXMIDicRBOComponent>,
+                                              kBaseClassRows<OXMIDicRBOComponent>, kComponentRows>,
+                                    ListComponentChildren};
 constexpr XmlKind kRBOPathExpressionKind{OXMDicTYPE_RBOPathExpression, text::kDisplayRBOPathExpression,
                                          FixedTag<tag::kRBOPathExpression>, WritePath, nullptr};

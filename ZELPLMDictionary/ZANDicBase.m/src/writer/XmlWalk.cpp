@@ -11,9 +11,9 @@ namespace {
 constexpr HRESULT kNoElement = -1;
 
 constexpr const XmlKind* kKinds[] = {
-    &kPackageKind,   &kClassKind,      &kExtensionKind,    &kSimpleKind,       &kRelationshipKind,
-    &kInverseKind,   &kUniqueKind,     &kCategoryKind,     &kEnumKind,         &kEnumeratorKind,
-    &kInterfaceKind, &kMethodKind,     &kParameterKind,    &kRBOClassKind,     &kRBOMappingKind,
+    &kPackageKind,   &kClassKind,        &kExtensionKind,         &kSimpleKind,   &kRelationshipKind,
+    &kInverseKind,   &kUniqueKind,       &kCategoryKind,          &kEnumKind,     &kEnumeratorKind,
+    &kInterfaceKind, &kMethodKind,       &kParameterKind,         &kRBOClassKind, &kRBOMappingKind,
     &kRBORootKind,   &kRBOComponentKind, &kRBOPathExpressionKind,
 };
 
