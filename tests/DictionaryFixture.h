@@ -23,7 +23,8 @@
 /// \returns a UUID of 16 bytes that ends with \p number.
 inline ZELDbBinary TestUuid(unsigned number) {
     unsigned char bytes[16] = {};
-    for (int index = 15; index >= 12; --index, number >>= 8) bytes[index] = static_cast<unsigned char>(number);
+    for (int index = 15; index >= 12; --index, number >>= 8)
+        bytes[index] = static_cast<unsigned char>(number);
     return {bytes, 16};
 }
 
@@ -110,7 +111,8 @@ private:
 };
 
 /// Every test starts with an empty dictionary at trace level 0, with no operation listed, no search path, no
-/// observer and no profiler, and its manager initialised. A test that leaves a reference with an object fails.
+/// observer and no profiler, and its manager initialised. A test that leaves a reference with an object
+/// fails.
 class DictionaryFixture : public ::testing::Test {
 protected:
     DictionaryFixture() {
@@ -132,7 +134,8 @@ protected:
 
     OXMIDicMgr& Manager() { return *_Manager; }
 
-    /// What was written to standard output since the start of the test or ClearWritten: each line and a newline.
+    /// What was written to standard output since the start of the test or ClearWritten: each line and a
+    /// newline.
     std::string Written() const { return _Capture.Text(ZELLineStream::Output); }
     /// The same for standard error.
     std::string WrittenErrors() const { return _Capture.Text(ZELLineStream::Error); }

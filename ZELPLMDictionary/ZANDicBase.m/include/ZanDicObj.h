@@ -77,7 +77,7 @@ public:
 
     /// Identity, as `OXMIDicElementH`. \returns S_OK, but for SetUuid: E_FAIL in every case.
     HRESULT GetName(ZELString* name) const;
-    HRESULT SetName(const ZELString* name);
+    virtual HRESULT SetName(const ZELString* name);
     HRESULT GetUuid(ZELDbBinary* uuid) const;
     virtual HRESULT SetUuid(const ZELDbBinary* uuid);
     virtual HRESULT GenUuid();

@@ -98,9 +98,10 @@ private:
                          OXMIDicPackage** package);
 
     OXMDicPERSISTENT _LoadingMode = OXMDicPERSISTENT_Xml;
-    ZanHashList _PACKAGES;          ///< one reference to each, in the order of creation
-    ZELHashTabZanDicObj _OBJECTS;   ///< not owning, by UUID
-    ZanDicPrimitive* _PRIMITIVES[kPrimitiveCount] = {};  ///< one reference to each, by kind less 1; null before Create
+    ZanHashList _PACKAGES;         ///< one reference to each, in the order of creation
+    ZELHashTabZanDicObj _OBJECTS;  ///< not owning, by UUID
+    ZanDicPrimitive* _PRIMITIVES[kPrimitiveCount] =
+        {};  ///< one reference to each, by kind less 1; null before Create
     ZELHashTable<ZanDicClassToRelationElem> _CLASSTORELATION;  ///< owned, by the UUID of the class
 };
 

@@ -75,7 +75,7 @@ void UuidHexToBinary(ZELString* text, ZELDbBinary* bytes) {
         if (*next == '-') ++next;
     }
 
-    // Deliberate: tested only after the decoding (HexToBinaryTest.DecodesBeforeItAsksForTheOutput).
+    // Deliberate: tested only after the decoding (HexToBinaryDeathTest.EndsTheProcessWithoutAnOutput).
     if (bytes == nullptr) ZELFatalError("AssertionFailed:Bin", "HexToBinary", 164);
     *bytes = ZELDbBinary(decoded, kUuidBytes);
 }

@@ -18,7 +18,8 @@ HRESULT HandOut(const std::string& text, char** copy) {
 
 HRESULT OxmBuildFileName(char mode, const char* path, const char* packageName, const char* extension,
                          char** fullName) {
-    if (path == nullptr || packageName == nullptr || extension == nullptr || fullName == nullptr) return E_FAIL;
+    if (path == nullptr || packageName == nullptr || extension == nullptr || fullName == nullptr)
+        return E_FAIL;
 
     const std::string fileName = std::string(packageName) + "." + extension;
     if (mode == 'w') return HandOut(std::string(path) + "\\" + fileName, fullName);

@@ -22,8 +22,10 @@ template <class T>
 T* LiveImplementationOf(const IUnknown* face) {
     ZanDicObj* object = ImplementationOf(face);
     if (object == nullptr || object->is_Gone()) return nullptr;
-    if constexpr (std::is_same_v<T, ZanDicObj>) return object;
-    else return object->IsAKindOf(T::ClassName()) ? static_cast<T*>(object) : nullptr;
+    if constexpr (std::is_same_v<T, ZanDicObj>)
+        return object;
+    else
+        return object->IsAKindOf(T::ClassName()) ? static_cast<T*>(object) : nullptr;
 }
 
 #endif

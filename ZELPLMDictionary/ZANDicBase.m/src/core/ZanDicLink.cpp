@@ -28,9 +28,10 @@ ZanDicLinkBase::ZanDicLinkBase(const ZanDicLinkBase& other) noexcept : _Place(ot
 }
 
 ZanDicLinkBase& ZanDicLinkBase::operator=(const ZanDicLinkBase& other) noexcept {
-    if (other._Place != 0) ++places[other._Place].links;
+    const std::uint32_t place = other._Place;  // other may be this very link
+    if (place != 0) ++places[place].links;
     Reset();
-    _Place = other._Place;
+    _Place = place;
     return *this;
 }
 

@@ -92,8 +92,8 @@ ZanDicObj::ZanDicObj() : _Name("UNDEFINED") {
 ZanDicObj::ZanDicObj(const ZELString& name, const ZELDbBinary& uuid) : _Name(name), _Uuid(uuid) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Detail)) return;
-    kConstructor.Line(TraceLevel::Detail) << "_Type=" << _Type << " (" << ZanDicTypeName(_Type)
-                                          << "), _Name=" << _Name << ", _Uuid=" << _Uuid;
+    kConstructor.Line(TraceLevel::Detail)
+        << "_Type=" << _Type << " (" << ZanDicTypeName(_Type) << "), _Name=" << _Name << ", _Uuid=" << _Uuid;
     kConstructor.Line(TraceLevel::Detail) << "@=" << this;
 }
 

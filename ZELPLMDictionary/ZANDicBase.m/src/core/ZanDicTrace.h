@@ -88,8 +88,7 @@ public:
         return Append(static_cast<long long>(number));
     }
     template <class Code>
-        requires std::is_enum_v<Code>
-    ZanDicTraceLine& operator<<(Code code) {
+    requires std::is_enum_v<Code> ZanDicTraceLine& operator<<(Code code) {
         return Append(static_cast<long long>(code));
     }
 

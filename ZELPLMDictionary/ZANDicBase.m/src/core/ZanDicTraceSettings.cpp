@@ -43,7 +43,8 @@ std::vector<std::string> ListedNames(std::string_view content) {
 }
 
 void ListOperations(const std::vector<std::string>& names) {
-    delete std::exchange(operations, names.empty() ? nullptr : new OperationNames(names.begin(), names.end()));
+    delete std::exchange(operations,
+                         names.empty() ? nullptr : new OperationNames(names.begin(), names.end()));
     UpdateThreshold();
 }
 

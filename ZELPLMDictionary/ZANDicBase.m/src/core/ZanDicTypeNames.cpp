@@ -6,11 +6,12 @@ namespace {
 
 /// By type code.
 constexpr std::string_view kTypeNames[] = {
-    "UNDEFINED", "Primitive",        "Category",     "Enum",           "Simple",       "Class",
-    "Relationship", "Inverse",       "Interface",    "Method",         "Parameter",    "Package",
-    "BObject",   "Extension",        "BOLink",       "Unique",         "Command",      "Implement",
-    "Security",  "CommandParameter", "Enumerator",   "AttributeBlock", "RBOClass",     "RBOMapping",
-    "RBORoot",   "RBOComponent",     "RBOPathExpression",
+    "UNDEFINED",    "Primitive",         "Category",  "Enum",       "Simple",
+    "Class",        "Relationship",      "Inverse",   "Interface",  "Method",
+    "Parameter",    "Package",           "BObject",   "Extension",  "BOLink",
+    "Unique",       "Command",           "Implement", "Security",   "CommandParameter",
+    "Enumerator",   "AttributeBlock",    "RBOClass",  "RBOMapping", "RBORoot",
+    "RBOComponent", "RBOPathExpression",
 };
 static_assert(std::size(kTypeNames) == OXMDicTYPE_RBOPathExpression + 1);
 

@@ -8,6 +8,7 @@
 
 #include "GetOXMIDicMgr.h"
 #include "OXMIDicElementH.h"
+#include "OXMIDicMgrTie.h"
 #include "OXMIDicPrimitive.h"
 #include "ZELEnvironment.h"
 #include "ZELUuid.h"
@@ -27,8 +28,8 @@ constexpr int kTableSize = 1117;
 constexpr std::string_view kExitWord = "RC=";
 
 /// The built-in primitives, in the order in which they are made.
-constexpr const char* kPrimitiveNames[] = {"Boolean", "Integer", "Double",  "String",   "Binary",
-                                           "Date",    "Logical", "URL",     "AnyObject"};
+constexpr const char* kPrimitiveNames[] = {"Boolean", "Integer", "Double", "String",   "Binary",
+                                           "Date",    "Logical", "URL",    "AnyObject"};
 static_assert(std::size(kPrimitiveNames) == OXMDicPRIMITIVEType_AnyObject);
 
 ZELString PackageNameOf(const ZanDicObj& object) {
@@ -49,8 +50,9 @@ public:
         if (!_Scope.On(TraceLevel::Detail)) return;
         _Scope.Line(TraceLevel::Detail) << "@=" << &object;
         _Scope.Line(TraceLevel::Detail)
-            << "Type=" << object.Type() << " (" << ZanDicTypeName(object.Type()) << "), Name=" << object.Name()
-            << ", Package=" << PackageNameOf(object) << ", Uuid=" << object.Uuid();
+            << "Type=" << object.Type() << " (" << ZanDicTypeName(object.Type())
+            << "), Name=" << object.Name() << ", Package=" << PackageNameOf(object)
+            << ", Uuid=" << object.Uuid();
     }
 
     /// The second line names the object that is refused, not the one that is registered.
@@ -77,10 +79,13 @@ private:
     const ZanDictionary& _Manager;
 };
 
+constexpr ZELTieRow kManagerRows[] = {ZELMakeTieRow<OXMIDicMgrTie<ZanDictionary>>()};
+
 /// Lets the holder make the manager, and `GetOXMIDicMgr` find the holder, while the library is loaded.
 class Registration {
 public:
     Registration() {
+        ZanDictionary::ClassMeta().RegisterTies(kManagerRows);
         ZanDicSetManagerFactory([] {
             auto* const manager = new ZanDictionary;
             return ZanDicManagerParts{manager, manager, manager};
@@ -99,7 +104,8 @@ const Registration kRegistration;
 ZanDictionary::ZanDictionary()
     : _PACKAGES(kPackagesSize, ZanHashListKind::Owner),
       _OBJECTS(HashUuidZanDicObj, CompareUuidZanDicObj, kTableSize),
-      _CLASSTORELATION(ZanDicClassToRelationElem::GetHashKey, ZanDicClassToRelationElem::Compare, kTableSize) {}
+      _CLASSTORELATION(ZanDicClassToRelationElem::GetHashKey, ZanDicClassToRelationElem::Compare,
+                       kTableSize) {}
 
 ZanDictionary::~ZanDictionary() {
     End();
@@ -173,7 +179,8 @@ std::vector<ZanDicObj*> ZanDictionary::take_All() {
         if (primitive != nullptr) taken.push_back(std::exchange(primitive, nullptr));
     }
     iterator = _CLASSTORELATION.CreateIterator();
-    for (auto* entry = _CLASSTORELATION[iterator]; entry != nullptr; entry = _CLASSTORELATION.Next(iterator)) {
+    for (auto* entry = _CLASSTORELATION[iterator]; entry != nullptr;
+         entry = _CLASSTORELATION.Next(iterator)) {
         delete entry;
     }
     _CLASSTORELATION.RemoveAll();
@@ -183,8 +190,9 @@ std::vector<ZanDicObj*> ZanDictionary::take_All() {
 HRESULT ZanDictionary::GetPrimitive(OXMDicPRIMITIVEType kind, OXMIDicPrimitive** primitive) {
     if (kind < OXMDicPRIMITIVEType_Boolean || kind > kPrimitiveCount || primitive == nullptr) return E_FAIL;
     ZanDicPrimitive* const object = _PRIMITIVES[kind - 1];
-    return object != nullptr ? object->QueryInterface(IID_OXMIDicPrimitive, reinterpret_cast<void**>(primitive))
-                             : E_FAIL;
+    return object != nullptr
+               ? object->QueryInterface(IID_OXMIDicPrimitive, reinterpret_cast<void**>(primitive))
+               : E_FAIL;
 }
 
 HRESULT ZanDictionary::SetLoadingMode(OXMDicPERSISTENT mode) {
@@ -245,8 +253,8 @@ void ZanDictionary::forget_Obj(ZanDicObj& object) noexcept {
 }
 
 bool ZanDictionary::keeps_Obj(const ZanDicObj& object) const {
-    return &object != this && std::find(std::begin(_PRIMITIVES), std::end(_PRIMITIVES), &object) ==
-                                  std::end(_PRIMITIVES);
+    return &object != this &&
+           std::find(std::begin(_PRIMITIVES), std::end(_PRIMITIVES), &object) == std::end(_PRIMITIVES);
 }
 
 HRESULT ZanDictionary::search_Obj(const ZELDbBinary* uuid, ZanDicObj** object) {

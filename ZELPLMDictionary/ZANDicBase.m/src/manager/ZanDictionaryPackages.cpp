@@ -12,7 +12,9 @@ namespace {
 constexpr std::string_view kExitWord = "RC=";
 constexpr const char* kDefaultDomain = "VALKOR";
 
-ZELString BeforeFirstDot(const ZELString& name) { return ZELString(name.View().substr(0, name.View().find('.'))); }
+ZELString BeforeFirstDot(const ZELString& name) {
+    return ZELString(name.View().substr(0, name.View().find('.')));
+}
 
 }  // namespace
 
@@ -59,7 +61,8 @@ HRESULT ZanDictionary::GetPackage(const ZELString* name, OXMIDicPackage** packag
         }
     }
     if (auto line = trace.Line(TraceLevel::Call)) {
-        // Deliberate: the address of the argument, not its text (ZanDictionaryTest.GetPackageTracesTheAddress).
+        // Deliberate: the address of the argument, not its text
+        // (ZanDictionaryTest.GetPackageTracesTheAddress).
         line << "=== exit === " << kExitWord << ZanDicTraceScope::Word(rc)
              << ", PackName=" << static_cast<const void*>(name);
     }
@@ -74,7 +77,8 @@ HRESULT ZanDictionary::CreatePackage(const ZELString* name, const ZELDbBinary* u
     if (!isComplete || find_Package(*name) != nullptr) return trace.Exit(E_FAIL);
 
     if (auto line = trace.Line(TraceLevel::Information)) {
-        line << "Creating new ZanDicPackage(" << name << ",...," << ")...";
+        line << "Creating new ZanDicPackage(" << name << ",...,"
+             << ")...";
     }
     return trace.Exit(make_Package(*name, *uuid, *domain, package));
 }

@@ -11,6 +11,7 @@
 #include "ZELEnvironment.h"
 #include "ZanDicProfiling.h"
 #include "ZanDicRef.h"
+#include "ZanDicSavePlace.h"
 #include "ZanDicTrace.h"
 #include "ZanDictionary.h"
 
@@ -29,7 +30,7 @@ void SayNames(const ZanDicTraceScope& trace, const ZELString* packageName, const
 /// The directory that the caller gave, or the search path.
 std::optional<std::string> PathOf(const char* directory) {
     if (directory != nullptr) return directory;
-    return ZELGetEnv("ZELDictionaryPath");
+    return ZELGetEnv(kSearchPathVariable);
 }
 
 /// What loading and saving need: the path and the manager. Says which of them is missing.
@@ -53,7 +54,8 @@ HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTEN
     return LoadPackage(packageName, mode, OXMDicCONTENT_metadata);
 }
 
-HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTENT mode, OXMDicCONTENT content) {
+HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTENT mode,
+                                   OXMDicCONTENT content) {
     constexpr ZanDicTraceScope trace("ZanDictionary::LoadPackage", kExitWord);
     trace.Start();
     if (auto line = trace.Line(TraceLevel::Information)) {
@@ -61,7 +63,8 @@ HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTEN
     }
     if (mode < OXMDicPERSISTENT_None) {
         if (auto line = trace.Error()) {
-            line << "*** ERROR *** Should not be called with iMode=" << mode << " to load package " << packageName;
+            line << "*** ERROR *** Should not be called with iMode=" << mode << " to load package "
+                 << packageName;
         }
         trace.CallStack();
         if (auto line = trace.Error()) {
