@@ -31,6 +31,9 @@ public:
         if (_Place != 0) Drop();
     }
 
+    /// Makes the link one that was set and has lost its object.
+    void Lose() noexcept;
+
     /// A number that two links share while both are set exactly when they name the same object, gone or
     /// not; 0 for a link never set. Links set to an object that was gone already share one number.
     std::uint32_t Identity() const { return _Place; }

@@ -52,6 +52,12 @@ void ZanDicLinkBase::Set(ZanDicObj* object) {
     _Place = place;
 }
 
+void ZanDicLinkBase::Lose() noexcept {
+    ++places[kLostPlace].links;
+    Reset();
+    _Place = kLostPlace;
+}
+
 void ZanDicLinkBase::Drop() noexcept {
     const std::uint32_t number = std::exchange(_Place, 0);
     Place& place = places[number];

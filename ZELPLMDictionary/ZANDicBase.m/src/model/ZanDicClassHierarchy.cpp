@@ -119,7 +119,7 @@ void ZanDicClass::drop_Hierarchy() {
     if (_SuperClass) _SuperClass->_invSuperClass.Remove(*this);
     _SuperClass.Reset();
     // Deliberate: the list of subclasses stays (ZanDicClassTest.FlushAllKeepsTheListOfSubClasses).
-    for_EachSubClass([](ZanDicClass& subClass) { subClass._SuperClass.Reset(); });
+    for_EachSubClass([](ZanDicClass& subClass) { subClass._SuperClass.Lose(); });
     ZanDicHierarchy::Changed();
 }
 

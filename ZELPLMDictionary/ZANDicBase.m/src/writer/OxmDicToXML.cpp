@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr ZanDicTraceScope kTrace(text::kOxmDicToXML);
+constexpr ZanDicTraceScope kTrace(writer::kOxmDicToXML);
 
 /// The characters of a full name that a builder handed out.
 using BuiltName = std::unique_ptr<char, decltype(&std::free)>;
@@ -32,26 +32,26 @@ HRESULT BuildName(const std::string& directory, const ZELString& package, std::s
 /// Writes the document into \p file, which may not be open: warnings are given all the same.
 void WriteDocument(ZELDurableFile& file, OXMIDicPackage& package) {
     ZELVBTXMLWriter document(file);
-    document.Markup(text::kDeclaration);
-    document.Markup(text::kDocumentType);
-    document.Markup(text::kHeadComment);
+    document.Markup(writer::kDeclaration);
+    document.Markup(writer::kDocumentType);
+    document.Markup(writer::kHeadComment);
     const HRESULT rc = XmlWalk(document).Write(&package);
     if (auto line = kTrace.Line(TraceLevel::Detail)) {
-        line << text::kElementResult << ZanDicTraceScope::Word(rc);
+        line << writer::kElementResult << ZanDicTraceScope::Word(rc);
     }
 }
 
 HRESULT SavePackage(OXMIDicPackage& package, const char* directory) {
     const ZELString name = emit::NameOf(package);
     if (!CanNameADocument(name.View())) {
-        if (auto line = kTrace.Error()) line << text::kNoFileName << name;
+        if (auto line = kTrace.Error()) line << writer::kNoFileName << name;
         return E_FAIL;
     }
     const std::string_view extension =
         ZANDicFormat::WordOf(ZANDicFormat::kContentWords, StoredContentOf(package));
     const std::string target = SaveDirectoryFor(directory, name.View(), extension);
     if (target.empty()) {
-        kTrace.Error(text::kNoDirectory);
+        kTrace.Error(writer::kNoDirectory);
         return E_FAIL;
     }
 
@@ -63,12 +63,12 @@ HRESULT SavePackage(OXMIDicPackage& package, const char* directory) {
     if (Succeeded(written)) written = file.Commit();
 
     if (auto line = kTrace.Line(TraceLevel::Detail)) {
-        line << text::kFileNameResult << named << text::kFileName << (fullName ? fullName.get() : "");
+        line << writer::kFileNameResult << named << writer::kFileName << (fullName ? fullName.get() : "");
     }
-    if (auto line = kTrace.Line(TraceLevel::Detail)) line << text::kWriteResult << written;
+    if (auto line = kTrace.Line(TraceLevel::Detail)) line << writer::kWriteResult << written;
     if (Failed(written)) {
         if (auto line = kTrace.Error()) {
-            line << text::kNotWritten << (fullName ? fullName.get() : "") << ": " << file.Reason();
+            line << writer::kNotWritten << (fullName ? fullName.get() : "") << ": " << file.Reason();
         }
     }
     // Deliberate: S_OK although nothing may have been written (OxmDicToXMLTest.TellsAFailedWriteByALineOnly).
@@ -79,16 +79,16 @@ HRESULT SavePackage(OXMIDicPackage& package, const char* directory) {
 
 HRESULT OxmDicToXML(OXMIDicMgr* manager, const ZELString* packageName, const char* directory) try {
     if (manager == nullptr || packageName == nullptr) {
-        kTrace.Error(text::kInvalidArgument);
+        kTrace.Error(writer::kInvalidArgument);
         return E_FAIL;
     }
     ZanDicRef<OXMIDicPackage> package;
     if (Failed(manager->GetPackage(packageName, package.Out())) || !package) {
-        kTrace.Error(text::kGetPackageFailed);
+        kTrace.Error(writer::kGetPackageFailed);
         return E_FAIL;
     }
     return SavePackage(*package, directory);
 } catch (const std::bad_alloc&) {
-    kTrace.Error(text::kOutOfMemory);
+    kTrace.Error(writer::kOutOfMemory);
     return E_FAIL;
 }

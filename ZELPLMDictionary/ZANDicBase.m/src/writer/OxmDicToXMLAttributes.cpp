@@ -69,7 +69,7 @@ HRESULT SimpleType(XmlNode& node, OXMIDicSimple& simple, std::string_view) {
     }
     if (type.type != OXMDicTYPE_Primitive) {
         node.WarnLost(simple, LinkName::Type, word::kTargetRef);
-        ZanDicWriteError(text::kGetPrimitiveFailed);
+        ZanDicWriteError(writer::kGetPrimitiveFailed);
         return E_FAIL;
     }
     node.hasPrimitive = true;
@@ -183,9 +183,9 @@ HRESULT WriteInverse(XmlNode& node, IUnknown& element) {
 
 }  // namespace
 
-constexpr XmlKind kSimpleKind{OXMDicTYPE_Simple, text::kDisplaySimple, FixedTag<tag::kSimple>,
+constexpr XmlKind kSimpleKind{OXMDicTYPE_Simple, writer::kDisplaySimple, FixedTag<tag::kSimple>,
                               WriteRows<OXMIDicSimple, kSimpleRows>, nullptr};
-constexpr XmlKind kRelationshipKind{OXMDicTYPE_Relationship, text::kDisplayRelationship,
+constexpr XmlKind kRelationshipKind{OXMDicTYPE_Relationship, writer::kDisplayRelationship,
                                     FixedTag<tag::kRelationship>, WriteRelationship, nullptr};
-constexpr XmlKind kInverseKind{OXMDicTYPE_Inverse, text::kDisplayInverse, FixedTag<tag::kInverse>,
+constexpr XmlKind kInverseKind{OXMDicTYPE_Inverse, writer::kDisplayInverse, FixedTag<tag::kInverse>,
                                WriteInverse, nullptr};

@@ -45,7 +45,7 @@ HRESULT Packages(XmlNode& node, OXMIDicPackage& package, std::string_view word) 
         if (CanBeListed(name.View())) {
             node.ListItem(ListedName(used));
         } else {
-            node.Warn(word, text::kNotInList, name.View());
+            node.Warn(word, writer::kNotInList, name.View());
         }
     }
     node.List(word);
@@ -67,7 +67,7 @@ HRESULT WritePackage(XmlNode& node, IUnknown& element) {
     const HRESULT rc = WriteRows<OXMIDicPackage, kPackageRows>(node, element);
     const ZELTime now = ZELTime::OfBuild();
     char comment[64];
-    std::snprintf(comment, sizeof comment, text::kLastUpdate, now.year, now.month, now.day, now.hour,
+    std::snprintf(comment, sizeof comment, writer::kLastUpdate, now.year, now.month, now.day, now.hour,
                   now.minute, now.second);
     node.Document().Begin(tag::kComment);
     node.Document().EndWithText(comment);
@@ -200,20 +200,20 @@ constexpr XmlRow<OXMIDicEnumerator> kEnumeratorRows[] = {
 }  // namespace
 
 constexpr XmlKind kPackageKind{
-    OXMDicTYPE_Package, text::kDisplayPackage, FixedTag<tag::kPackage>, WritePackage,
+    OXMDicTYPE_Package, writer::kDisplayPackage, FixedTag<tag::kPackage>, WritePackage,
     ListChildren<OXMIDicPackage, &OXMIDicPackage::GetElements, &OXMIDicPackage::GetInterfaces>};
 constexpr XmlKind kClassKind{
-    OXMDicTYPE_Class, text::kDisplayClass, ClassTag, WriteRows<OXMIDicClass, kClassRows>,
+    OXMDicTYPE_Class, writer::kDisplayClass, ClassTag, WriteRows<OXMIDicClass, kClassRows>,
     ListChildren<OXMIDicClass, &OXMIDicClass::GetClassElements, &OXMIDicClass::GetUniques>};
 constexpr XmlKind kExtensionKind{
-    OXMDicTYPE_Extension, text::kDisplayClass, ClassTag, WriteRows<OXMIDicClass, kClassRows>,
+    OXMDicTYPE_Extension, writer::kDisplayClass, ClassTag, WriteRows<OXMIDicClass, kClassRows>,
     ListChildren<OXMIDicClass, &OXMIDicClass::GetClassElements, &OXMIDicClass::GetUniques>};
-constexpr XmlKind kUniqueKind{OXMDicTYPE_Unique, text::kDisplayUnique, FixedTag<tag::kUnique>,
+constexpr XmlKind kUniqueKind{OXMDicTYPE_Unique, writer::kDisplayUnique, FixedTag<tag::kUnique>,
                               WriteRows<OXMIDicUnique, kUniqueRows>, nullptr};
-constexpr XmlKind kCategoryKind{OXMDicTYPE_Category, text::kDisplayCategory, FixedTag<tag::kCategory>,
+constexpr XmlKind kCategoryKind{OXMDicTYPE_Category, writer::kDisplayCategory, FixedTag<tag::kCategory>,
                                 WriteRows<OXMIDicCategory, kCategoryRows>, nullptr};
-constexpr XmlKind kEnumKind{OXMDicTYPE_Enum, text::kDisplayEnum, FixedTag<tag::kEnum>,
+constexpr XmlKind kEnumKind{OXMDicTYPE_Enum, writer::kDisplayEnum, FixedTag<tag::kEnum>,
                             WriteRows<OXMIDicEnum, kEnumRows>,
                             ListChildren<OXMIDicEnum, &OXMIDicEnum::GetEnumerators>};
-constexpr XmlKind kEnumeratorKind{OXMDicTYPE_Enumerator, text::kDisplayEnumerator, FixedTag<tag::kEnumerator>,
+constexpr XmlKind kEnumeratorKind{OXMDicTYPE_Enumerator, writer::kDisplayEnumerator, FixedTag<tag::kEnumerator>,
                                   WriteRows<OXMIDicEnumerator, kEnumeratorRows>, nullptr};

@@ -37,7 +37,7 @@ void WriteFreeAttributes(XmlNode& node, OXMIDicElementH& element) {
         if (IsReadBack(node, name, value)) {
             node.Text(name, value);
         } else {
-            node.Warn(name, text::kNotFree);
+            node.Warn(name, writer::kNotFree);
         }
     }
 }

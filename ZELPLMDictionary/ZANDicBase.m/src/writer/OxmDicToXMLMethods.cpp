@@ -17,7 +17,7 @@ HRESULT SuperInterface(XmlNode& node, OXMIDicInterface& element, std::string_vie
     ZanDicRef<OXMIDicInterface> superInterface;
     const HRESULT rc = element.GetSuperInterface(superInterface.Out());
     if (Failed(rc)) {
-        ZanDicWriteError(text::kGetSuperInterfaceFailed);
+        ZanDicWriteError(writer::kGetSuperInterfaceFailed);
         return rc;
     }
     if (superInterface) {
@@ -73,11 +73,11 @@ constexpr XmlRow<OXMIDicParameter> kParameterRows[] = {
 
 }  // namespace
 
-constexpr XmlKind kInterfaceKind{OXMDicTYPE_Interface, text::kDisplayInterface, FixedTag<tag::kInterface>,
+constexpr XmlKind kInterfaceKind{OXMDicTYPE_Interface, writer::kDisplayInterface, FixedTag<tag::kInterface>,
                                  WriteRows<OXMIDicInterface, kInterfaceRows>,
                                  ListChildren<OXMIDicInterface, &OXMIDicInterface::GetMethods>};
-constexpr XmlKind kMethodKind{OXMDicTYPE_Method, text::kDisplayMethod, FixedTag<tag::kMethod>,
+constexpr XmlKind kMethodKind{OXMDicTYPE_Method, writer::kDisplayMethod, FixedTag<tag::kMethod>,
                               WriteRows<OXMIDicMethod, kMethodRows>,
                               ListChildren<OXMIDicMethod, &OXMIDicMethod::GetParameters>};
-constexpr XmlKind kParameterKind{OXMDicTYPE_Parameter, text::kDisplayParameter, FixedTag<tag::kParameter>,
+constexpr XmlKind kParameterKind{OXMDicTYPE_Parameter, writer::kDisplayParameter, FixedTag<tag::kParameter>,
                                  WriteRows<OXMIDicParameter, kParameterRows>, nullptr};

@@ -88,7 +88,7 @@ HRESULT WritePath(XmlNode& node, IUnknown& element) {
     const ZanDicRef<OXMIDicElement> face = As<OXMIDicElement>(element);
     if (!face) return E_FAIL;
     const HRESULT rc = WriteEach(node, *face, kIdentityRows<OXMIDicElement>);
-    node.Word(word::kType, text::kUnknownPath);
+    node.Word(word::kType, writer::kUnknownPath);
     WriteFreeAttributes(node, *face);
     return rc;
 }
@@ -106,20 +106,20 @@ HRESULT ListComponentChildren(IUnknown& element, ZELListPtrIUnknown* children) {
 
 }  // namespace
 
-constexpr XmlKind kRBOClassKind{OXMDicTYPE_RBOClass, text::kDisplayRBOClass, FixedTag<tag::kRBOClass>,
+constexpr XmlKind kRBOClassKind{OXMDicTYPE_RBOClass, writer::kDisplayRBOClass, FixedTag<tag::kRBOClass>,
                                 WriteRows<OXMIDicRBOClass, kIdentityRows<OXMIDicRBOClass>>, nullptr};
 constexpr XmlKind kRBOMappingKind{
-    OXMDicTYPE_RBOMapping, text::kDisplayRBOMapping, FixedTag<tag::kRBOMapping>,
+    OXMDicTYPE_RBOMapping, writer::kDisplayRBOMapping, FixedTag<tag::kRBOMapping>,
     WriteRows<OXMIDicRBOMapping, kIdentityRows<OXMIDicRBOMapping>, kMappingRows>,
     ListChildren<OXMIDicRBOMapping, &OXMIDicRBOMapping::GetElements>};
 constexpr XmlKind kRBORootKind{
-    OXMDicTYPE_RBORoot, text::kDisplayRBORoot, FixedTag<tag::kRBORoot>,
+    OXMDicTYPE_RBORoot, writer::kDisplayRBORoot, FixedTag<tag::kRBORoot>,
     WriteRows<OXMIDicRBORoot, kIdentityRows<OXMIDicRBORoot>, kBaseClassRows<OXMIDicRBORoot>>,
     ListChildren<OXMIDicRBORoot, &OXMIDicRBORoot::GetElements>};
-constexpr XmlKind kRBOComponentKind{OXMDicTYPE_RBOComponent, text::kDisplayRBOComponent,
+constexpr XmlKind kRBOComponentKind{OXMDicTYPE_RBOComponent, writer::kDisplayRBOComponent,
                                     FixedTag<tag::kRBOComponent>,
                                     WriteRows<OXMIDicRBOComponent, kIdentityRows<OXMIDicRBOComponent>,
                                               kBaseClassRows<OXMIDicRBOComponent>, kComponentRows>,
                                     ListComponentChildren};
-constexpr XmlKind kRBOPathExpressionKind{OXMDicTYPE_RBOPathExpression, text::kDisplayRBOPathExpression,
+constexpr XmlKind kRBOPathExpressionKind{OXMDicTYPE_RBOPathExpression, writer::kDisplayRBOPathExpression,
                                          FixedTag<tag::kRBOPathExpression>, WritePath, nullptr};

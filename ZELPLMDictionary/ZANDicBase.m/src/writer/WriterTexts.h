@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-namespace text {
+namespace writer {
 
 // operations, as they stand in front of their lines
 inline constexpr std::string_view kOxmDicToXML = "OxmDicToXML:OxmDicToXML -";
@@ -66,6 +66,6 @@ inline constexpr std::string_view kHeadComment = "<!-- VALKOR DICTIONARY  -->";
 inline constexpr char kLastUpdate[] = "last update %.4d-%.2d-%.2d-%.2d.%.2d.%.2d";
 inline constexpr std::string_view kUnknownPath = "Unknown";
 
-}  // namespace text
+}  // namespace writer
 
 #endif

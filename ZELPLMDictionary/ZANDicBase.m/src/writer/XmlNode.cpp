@@ -32,7 +32,7 @@ XmlNode::XmlNode(ZELVBTXMLWriter& document, std::string& scratch, const ZanDicTr
 void XmlNode::Text(std::string_view word, std::string_view value) {
     const long replacedBefore = _Document.Replaced();
     _Document.Attribute(word, value);
-    if (_Document.Replaced() != replacedBefore) Warn(word, text::kReplaced);
+    if (_Document.Replaced() != replacedBefore) Warn(word, writer::kReplaced);
 }
 
 void XmlNode::Flag(std::string_view word, unsigned char flag) {
@@ -54,11 +54,11 @@ void XmlNode::ListItem(const ZELDbBinary& uuid) {
 }
 
 void XmlNode::WarnLost(const IUnknown& element, ZanDicObj::LinkName link, std::string_view word) {
-    for (int count = LostLinksOf(element, link); count > 0; --count) Warn(word, text::kLostLink);
+    for (int count = LostLinksOf(element, link); count > 0; --count) Warn(word, writer::kLostLink);
 }
 
 void XmlNode::Warn(std::string_view word, std::string_view reason, std::string_view more) {
     if (auto line = _Trace.Warning()) {
-        line << text::kWarning << _Tag << ' ' << _Name << text::kAttribute << word << reason << more;
+        line << writer::kWarning << _Tag << " " << _Name << writer::kAttribute << word << reason << more;
     }
 }

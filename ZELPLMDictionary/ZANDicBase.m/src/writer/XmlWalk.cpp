@@ -28,7 +28,7 @@ const XmlKind* KindOf(OXMDicTYPE type) {
     return index < kinds.size() ? kinds[index] : nullptr;
 }
 
-constexpr ZanDicTraceScope kTrace(text::kDisplayElement);
+constexpr ZanDicTraceScope kTrace(writer::kDisplayElement);
 
 }  // namespace
 
@@ -52,11 +52,11 @@ HRESULT XmlWalk::Write(OXMIDicElementH* element) {
 
 /// Begins an element: its attributes are written and its children known after that.
 void XmlWalk::Enter(OXMIDicElementH* element) {
-    kTrace.Start(text::kStart);
+    kTrace.Start(writer::kStart);
     Level level;
     level.hasNode = false;
     if (element == nullptr) {
-        kTrace.Error(text::kNullElement);
+        kTrace.Error(writer::kNullElement);
         level.rc = kNoElement;
     } else {
         ZELString name;
@@ -66,7 +66,7 @@ void XmlWalk::Enter(OXMIDicElementH* element) {
         if (const XmlKind* const kind = KindOf(type)) {
             WriteNode(*kind, *element, name, level);
         } else if (auto line = kTrace.Warning()) {
-            line << text::kUnknownElement << type << text::kElementName << name;
+            line << writer::kUnknownElement << type << writer::kElementName << name;
         }
     }
     _LEVELS.push_back(std::move(level));
