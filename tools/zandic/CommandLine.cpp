@@ -6,7 +6,9 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>
+#include <charconv>
 #include <iostream>
+#include <memory>
 
 #include "Faults.h"
 #include "Streams.h"
@@ -15,41 +17,56 @@
 namespace tool {
 namespace {
 
-constexpr const char* kHelpWidthRule = "Options stand before or after the command.";
+constexpr std::size_t kOptionColumn = 24;
 
 std::string Text(std::string_view text) { return std::string(text); }
 
-/// The options of all commands.
-void AddCommonOptions(CLI::App& app, Options& options) {
+/// Help in the words of this tool.
+class HelpFormatter final : public CLI::Formatter {
+public:
+    HelpFormatter() {
+        column_width(kOptionColumn);
+        label("Positionals", "Names");
+    }
+
+    std::string make_usage(const CLI::App* app, std::string) const override {
+        const std::string_view command = app->get_parent() != nullptr ? app->get_name() : "COMMAND";
+        return fmt::format("\nUsage: zandic [OPTIONS] {} NAME...\n", command);
+    }
+};
+
+/// The options of all commands; which of them a command knows is looked at later.
+void AddOptions(CLI::App& app, Options& options) {
     app.set_help_flag("-h,--help", "show this help, or that of a command, and exit");
     app.set_version_flag("--version", Text("zandic " ZANDIC_VERSION), "show the version and exit");
     app.add_option("--path", options.path,
-                   "directories of the documents, separated by ':', in place of\n"
-                   "the environment variable ZELDictionaryPath; adds up")
+                   "directories of the documents, separated by ':', in\n"
+                   "place of the variable ZELDictionaryPath; adds up")
         ->type_name("DIRS")
         ->expected(1)
+        ->allow_extra_args(false)  // what follows DIRS is no further directory
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     app.add_option("--in", options.in, "packages in which 'show' looks for a UUID")
-        ->type_name("NAME...")
+        ->type_name("NAME")
         ->expected(1, -1);
+    app.add_flag("--json", options.json, "JSON: the form in which 'dump' writes");
     app.add_option("--trace-level", options.traceLevel,
                    "how much of its work the dictionary tells: 0 errors,\n"
                    "1 operations, 2 reading, 4 tags, 5 everything")
-        ->type_name("N");
+        ->type_name("N")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     app.add_option("--trace-methods", options.traceMethods,
-                   "operations to trace whatever the level, one a line")
-        ->type_name("FILE");
+                   "a list of operations, one a line, to be told of\nwhatever the level")
+        ->type_name("FILE")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     app.add_flag("--quiet", options.quiet, "nothing from the dictionary on standard error");
 }
 
-CLI::App* AddCommand(CLI::App& app, const Command& command, Options& options) {
+void AddCommand(CLI::App& app, const Command& command, Options& options) {
     CLI::App* const added = app.add_subcommand(Text(command.name), Text(command.summary));
     added->add_option("NAME", options.names, Text(command.subjects))->type_name("")->expected(1, -1);
-    if (command.needsJson)
-        added->add_flag("--json", options.json, "the form to write; there is no other yet");
-    added->set_help_flag("-h,--help", "show this help and exit");
+    added->group("Commands")->set_help_flag("-h,--help", "show this help and exit");
     added->footer(Text(command.details) + "\nOptions of every command: see 'zandic --help'.");
-    return added;
 }
 
 /// A UUID cannot be loaded: where one stands among the values of --in, the names to show begin.
@@ -61,18 +78,28 @@ void EndInAtUuid(Options& options) {
     options.in.erase(first, options.in.end());
 }
 
+bool IsNumber(const std::string& text) {
+    int number = 0;
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return fault == std::errc() && end == text.data() + text.size();
+}
+
 /// \returns what is wrong with the options of this command; empty when nothing is.
 std::string WrongOptions(const Command& command, const Options& options) {
     if (!options.in.empty() && !command.takesIn) return fmt::format("{} does not know --in", command.name);
+    if (options.json && !command.needsJson) return fmt::format("{} does not know --json", command.name);
+    if (options.traceLevel && !IsNumber(*options.traceLevel)) {
+        return fmt::format("--trace-level cannot be '{}'", *options.traceLevel);
+    }
     if (options.names.empty()) return "NAME is missing";
     if (command.needsJson && !options.json) return fmt::format("{} needs --json", command.name);
     return "";
 }
 
 ExitStatus RejectUse(const std::string& fault, const Command* command) {
-    const std::string_view name = command != nullptr ? command->name : "";
-    WriteErrorLine(FaultLine(
-        {"", {}, fmt::format("{} (see 'zandic {}{}--help')", fault, name, name.empty() ? "" : " ")}));
+    const std::string help =
+        command != nullptr ? fmt::format("zandic {} --help", command->name) : "zandic --help";
+    WriteErrorLine(FaultLine({"", {}, fmt::format("{} (see '{}')", fault, help)}));
     return ExitStatus::WrongUse;
 }
 
@@ -86,6 +113,20 @@ const Command* FindCommand(const CLI::App& app) {
     return found != commands.end() ? &*found : nullptr;
 }
 
+/// \returns what does not fit the command line, said so that its author finds it there.
+std::string FaultOf(const CLI::App& app, const CLI::ParseError& fault) {
+    if (dynamic_cast<const CLI::ExtrasError*>(&fault) != nullptr) {
+        const std::vector<std::string> extras = app.remaining(true);
+        const std::string extra = extras.empty() ? "" : extras.front();
+        return fmt::format("there is no {} '{}'", extra.starts_with('-') ? "option" : "command", extra);
+    }
+    const std::string_view what = fault.what();
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&fault) != nullptr) {
+        return fmt::format("{} needs a value", what.substr(0, what.find(':')));
+    }
+    return Text(what);
+}
+
 }  // namespace
 
 std::variant<Invocation, ExitStatus> ReadCommandLine(int argc, char** argv) {
@@ -93,8 +134,9 @@ std::variant<Invocation, ExitStatus> ReadCommandLine(int argc, char** argv) {
     CLI::App app("Loads package documents of the data dictionary and shows what they say.", "zandic");
     app.fallthrough();
     app.require_subcommand(0, 1);
-    app.footer(kHelpWidthRule);
-    AddCommonOptions(app, options);
+    app.formatter(std::make_shared<HelpFormatter>());
+    app.footer("Options stand before or after the command.");
+    AddOptions(app, options);
     for (const Command& command : Commands()) AddCommand(app, command, options);
 
     try {
@@ -102,7 +144,7 @@ std::variant<Invocation, ExitStatus> ReadCommandLine(int argc, char** argv) {
     } catch (const CLI::Success& request) {
         return app.exit(request) == 0 && std::cout.flush() ? ExitStatus::Done : ExitStatus::Refused;
     } catch (const CLI::ParseError& fault) {
-        return RejectUse(fault.what(), FindCommand(app));
+        return RejectUse(FaultOf(app, fault), FindCommand(app));
     }
     const Command* const command = FindCommand(app);
     if (command == nullptr) return RejectUse("a command is missing", nullptr);

@@ -14,6 +14,12 @@ void PassOn(const ZanDicDiagnostic& diagnostic) {
     WriteErrorLine(diagnostic.TraceText());
 }
 
+/// \returns the name that leads to a file: without directories and content word.
+std::string_view AskedName(std::string_view file) {
+    const std::string_view name = file.substr(file.find_last_of("/\\") + 1);
+    return name.substr(0, name.find('.'));
+}
+
 }  // namespace
 
 std::string FaultLine(const Fault& fault) {
@@ -30,7 +36,15 @@ bool FaultObserver::OnDiagnostic(const ZanDicDiagnostic& diagnostic) {
         _FirstError =
             Fault{std::string(diagnostic.File()), diagnostic.Place(), std::string(diagnostic.Reason())};
     }
+    if (diagnostic.Code() == ZanDicDiagnosticCode::PackageNameDiffers) {
+        _NAMES.insert_or_assign(std::string(AskedName(diagnostic.File())), std::string(diagnostic.Package()));
+    }
     return false;
+}
+
+std::string FaultObserver::NameIn(std::string_view asked) const {
+    const auto found = _NAMES.find(asked.substr(0, asked.find('.')));
+    return found != _NAMES.end() ? found->second : std::string(asked);
 }
 
 std::optional<Fault> FaultObserver::TakeFirstError() { return std::exchange(_FirstError, std::nullopt); }

@@ -1,6 +1,7 @@
 #ifndef ZANDIC_TOOL_FAULTS_H
 #define ZANDIC_TOOL_FAULTS_H
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,7 +30,11 @@ public:
     /// \returns the first error since the last call, or none.
     std::optional<Fault> TakeFirstError();
 
+    /// \returns the name of the package in the document that is found under the name \p asked.
+    std::string NameIn(std::string_view asked) const;
+
 private:
+    std::map<std::string, std::string, std::less<>> _NAMES;  ///< of those documents that differ
     std::optional<Fault> _FirstError;
 };
 

@@ -12,7 +12,8 @@
 namespace tool {
 
 /// Measures the load of each package by itself: while a phase stands inside another, only the inner one
-/// runs. A phase belongs to its subject up to the first ".", which is the name of a package.
+/// runs. A phase belongs to its subject up to the first ".", which is the name of a package. A load that
+/// waits for another ends its phase and begins it again after that.
 class LoadClock final : public ZanDicProfiler {
 public:
     using Duration = std::chrono::steady_clock::duration;
@@ -23,24 +24,23 @@ public:
     /// The manager resets its counters after each load. This clock runs as long as the tool does.
     void ResetAll() override {}
 
-    /// \returns the subjects, those first whose last phase ended first: a package after what it uses.
-    std::vector<std::string> Finished() const;
+    /// \returns the subjects, those first whose load ended first: a package after what it uses.
+    const std::vector<std::string>& Finished() const { return _FINISHED; }
 
     /// \returns the time of one subject; zero for an unknown one.
     Duration Own(std::string_view subject) const;
 
 private:
-    struct Record {
-        Duration own{};
-        int finished = 0;  ///< number of the phase that ended last
-    };
+    using Records = std::map<std::string, Duration, std::less<>>;
 
     void ChargeCurrent();
+    void FinishLast();
 
-    std::map<std::string, Record, std::less<>> _RECORDS;
-    std::vector<Record*> _PHASES;  ///< those that are open, the inner one last
+    Records _OWN;
+    std::vector<Records::iterator> _PHASES;  ///< those that are open, the inner one last
+    std::vector<std::string> _LOADS;         ///< those that run or wait, each for the one behind it
+    std::vector<std::string> _FINISHED;
     std::chrono::steady_clock::time_point _Since;
-    int _Ended = 0;
 };
 
 }  // namespace tool

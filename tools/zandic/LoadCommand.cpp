@@ -35,12 +35,11 @@ void CountMembers(Object& object, Getter getter, Line& line) {
     for (OXMIDicElement& member : zandic::All<OXMIDicElement>(object, getter)) ++line.counts[TagOf(member)];
 }
 
-Line LineOf(OXMIDicPackage& package, const LoadClock& clock) {
-    const ZELString name = zandic::Name(package);
-    Line line{std::string(name.View()),
+Line LineOf(OXMIDicPackage& package) {
+    Line line{std::string(zandic::Name(package).View()),
               std::string(zandic::UuidText(zandic::Uuid(package)).View()),
               {},
-              clock.Own(name.View())};
+              {}};
     for (OXMIDicElement& element : zandic::All<OXMIDicElement>(package, &OXMIDicPackage::GetElements)) {
         ++line.counts[TagOf(element)];
         if (const auto classElement = zandic::As<OXMIDicClass>(element)) {
@@ -55,15 +54,13 @@ Line LineOf(OXMIDicPackage& package, const LoadClock& clock) {
 
 /// \returns one line for each package, those first whose load ended first.
 std::vector<Line> LinesOf(const Session& session) {
-    const std::vector<std::string> order = session.Clock().Finished();
-    const auto rank = [&order](const Line& line) {
-        return std::find(order.begin(), order.end(), line.name) - order.begin();
-    };
     std::vector<Line> lines;
-    ForEachPackage(session.Dictionary(),
-                   [&](OXMIDicPackage& package) { lines.push_back(LineOf(package, session.Clock())); });
-    std::stable_sort(lines.begin(), lines.end(),
-                     [&rank](const Line& a, const Line& b) { return rank(a) < rank(b); });
+    for (const auto& [name, own] : session.LoadTimes()) {
+        const auto package = session.Dictionary().Package(name);
+        if (!package) continue;  // refused
+        lines.push_back(LineOf(*package));
+        lines.back().own = own;
+    }
     return lines;
 }
 

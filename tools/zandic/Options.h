@@ -16,10 +16,10 @@ enum class ExitStatus {
 
 /// What the command line says, whatever the command.
 struct Options {
-    std::vector<std::string> names;  ///< the subjects
-    std::vector<std::string> in;     ///< packages in which to look for UUIDs
-    std::vector<std::string> path;   ///< directories, each maybe several separated by ":"
-    std::optional<int> traceLevel;
+    std::vector<std::string> names;           ///< the subjects
+    std::vector<std::string> in;              ///< packages in which to look for UUIDs
+    std::vector<std::string> path;            ///< directories, each maybe several separated by ":"
+    std::optional<std::string> traceLevel;    ///< a number
     std::optional<std::string> traceMethods;  ///< a file
     bool json = false;
     bool quiet = false;

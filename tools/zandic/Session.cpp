@@ -33,7 +33,7 @@ Session::Session(const Options& options)
     ZELSetLineSink(&Lines());
     ZanDicSetProfiler(&_Clock);
     ZanDicSetDiagnosticObserver(&_Observer);
-    if (options.traceLevel) ZanDicSetTraceLevel(*options.traceLevel);
+    if (options.traceLevel) ZanDicSetTraceLevel(std::stoi(*options.traceLevel));
 }
 
 Session::~Session() {
@@ -61,11 +61,25 @@ bool Session::Load(const std::string& name) {
     }
 
     const zandic::Result result = _Dictionary.Load(name, _Path.c_str());
-    std::optional<Fault> error = _Observer.TakeFirstError();
+    const std::optional<Fault> error = _Observer.TakeFirstError();
     (result ? _LOADED : _REFUSED).insert(name);
-    if (!result)
-        Note(error ? std::move(*error) : Fault{name, {}, "the dictionary refuses it"}, ExitStatus::Refused);
+    if (!result) Note(error ? *error : Fault{name, {}, "the dictionary refuses it"}, ExitStatus::Refused);
     return static_cast<bool>(result);
+}
+
+std::vector<Session::LoadTime> Session::LoadTimes() const {
+    std::vector<LoadTime> times;
+    for (const std::string& asked : _Clock.Finished()) {
+        const std::string package = _Observer.NameIn(asked);
+        const auto same = std::find_if(times.begin(), times.end(),
+                                       [&](const LoadTime& time) { return time.package == package; });
+        if (same == times.end()) {
+            times.push_back({package, _Clock.Own(asked)});
+        } else {
+            same->own += _Clock.Own(asked);
+        }
+    }
+    return times;
 }
 
 void Session::LoadWholePath() {
@@ -82,16 +96,17 @@ void Session::RejectUse(std::string subject, std::string text) {
     Note({std::move(subject), {}, std::move(text)}, ExitStatus::WrongUse);
 }
 
-void Session::Note(Fault fault, ExitStatus status) {
-    _FAULTS.push_back(std::move(fault));
+void Session::Note(const Fault& fault, ExitStatus status) {
     _Status = std::max(_Status, status);
+    // A document that several others need is refused as often, and told once.
+    std::string line = FaultLine(fault);
+    if (_TOLD.insert(line).second) _LINES.push_back(std::move(line));
 }
 
 ExitStatus Session::Close() {
     if (_Dictionary) _Dictionary.Manager().End();
     _Dictionary = {};
-    for (const Fault& fault : _FAULTS) WriteErrorLine(FaultLine(fault));
-    _FAULTS.clear();
+    for (const std::string& line : _LINES) WriteErrorLine(line);
     Lines().SetRule(LineRule::None);
     return _Status;
 }

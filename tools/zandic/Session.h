@@ -27,7 +27,20 @@ public:
     bool Open();
 
     const zandic::Dictionary& Dictionary() const { return _Dictionary; }
-    const LoadClock& Clock() const { return _Clock; }
+
+    /// \returns the package that was loaded under the name \p asked; null when there is none.
+    zandic::Handle<OXMIDicPackage> Package(std::string_view asked) const {
+        return _Dictionary.Package(_Observer.NameIn(asked));
+    }
+
+    /// One load that was tried: the package's name and the time that it took by itself.
+    struct LoadTime {
+        std::string package;
+        LoadClock::Duration own;
+    };
+
+    /// \returns the loads, those first that ended first: a package after what it uses.
+    std::vector<LoadTime> LoadTimes() const;
 
     /// \returns the directories that are searched, separated by ":"; empty when there are none.
     const std::string& Path() const { return _Path; }
@@ -47,7 +60,7 @@ public:
     ExitStatus Close();
 
 private:
-    void Note(Fault fault, ExitStatus status);
+    void Note(const Fault& fault, ExitStatus status);
 
     zandic::Dictionary _Dictionary;
     FaultObserver _Observer;
@@ -56,7 +69,8 @@ private:
     std::string _TraceMethods;
     std::set<std::string, std::less<>> _LOADED;   ///< names asked for that are there
     std::set<std::string, std::less<>> _REFUSED;  ///< names asked for that are not
-    std::vector<Fault> _FAULTS;
+    std::vector<std::string> _LINES;              ///< one for each fault
+    std::set<std::string, std::less<>> _TOLD;     ///< the same
     ExitStatus _Status = ExitStatus::Done;
 };
 

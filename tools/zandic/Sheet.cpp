@@ -11,7 +11,7 @@ constexpr std::size_t kIndent = 2;
 constexpr std::size_t kValueColumn = 22;  // of fields
 constexpr std::size_t kNoteIndent = 6;    // of the free text below a row
 constexpr std::size_t kGap = 2;           // between columns
-constexpr std::size_t kWidestCell = 30;
+constexpr std::size_t kNarrowCell = 16;
 
 std::string Printable(std::string_view text) {
     std::string printable;
@@ -51,6 +51,18 @@ std::vector<std::string> Wrapped(std::string_view text, std::size_t width) {
 std::string Padded(std::string_view text, std::size_t width) {
     const std::size_t used = WidthOf(text);
     return std::string(text) + std::string(width > used ? width - used : 0, ' ');
+}
+
+/// Takes from the widest column until all fit beside each other, or none is wide any more.
+void FitIntoLine(std::vector<std::size_t>& widths) {
+    std::size_t total = kIndent;
+    for (const std::size_t width : widths) total += width + kGap;
+    while (total > Sheet::kWidth) {
+        std::size_t& widest = *std::max_element(widths.begin(), widths.end());
+        if (widest <= kNarrowCell) return;
+        --widest;
+        --total;
+    }
 }
 
 }  // namespace
@@ -100,10 +112,10 @@ void Sheet::Rows(const std::vector<std::vector<std::string>>& rows) {
     for (const auto& row : rows) {
         widths.resize(std::max(widths.size(), row.size() - 1));
         for (std::size_t column = 0; column + 1 < row.size(); ++column) {
-            const std::size_t width = WidthOf(Printable(row[column]));
-            if (width <= kWidestCell) widths[column] = std::max(widths[column], width);
+            widths[column] = std::max(widths[column], WidthOf(Printable(row[column])));
         }
     }
+    FitIntoLine(widths);
     for (const auto& row : rows) Row(row, widths);
 }
 
@@ -111,6 +123,7 @@ void Sheet::Row(const std::vector<std::string>& cells, const std::vector<std::si
     std::string line(kIndent, ' ');
     std::size_t column = kIndent;  // where the next cell begins
     for (std::size_t index = 0; index + 1 < cells.size(); ++index) {
+        if (widths[index] == 0) continue;  // nobody has anything there
         const std::string cell = Printable(cells[index]);
         if (index > 0 && WidthOf(line) + kGap > column) {
             Write(0, line);

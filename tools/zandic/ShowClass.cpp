@@ -59,9 +59,9 @@ std::string TypeText(const View& view, OXMIDicAttribute& attribute) {
 
 void AddRelationNotes(const View& view, OXMIDicRelationship& relation, std::vector<std::string>& notes) {
     if (zandic::Kind(relation) != OXMDicTYPE_Relationship) return;
-    const auto aggregation = zandic::Get(relation, &OXMIDicRelationship::GetAggregationMode);
-    if (aggregation == OXMDicAGGREGATION_Composition) notes.emplace_back("composition");
-    if (aggregation == OXMDicAGGREGATION_Shared) notes.emplace_back("shared");
+    if (zandic::Get(relation, &OXMIDicRelationship::GetAggregationMode) == OXMDicAGGREGATION_Composition) {
+        notes.emplace_back("composition");
+    }
     if (zandic::Flag(relation, &OXMIDicRelationship::GetInjective)) notes.emplace_back("injective");
     const auto inverses = zandic::All<OXMIDicElementH>(relation, &OXMIDicRelationship::GetInvertedAttributes);
     if (!inverses.IsEmpty()) notes.push_back("inverse " + Joined(NamesIn(view, inverses)));

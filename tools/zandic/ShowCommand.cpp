@@ -36,9 +36,9 @@ std::vector<Object> MembersOf(OXMIDicElement& element, const std::string& name) 
 
 std::vector<Object> FindByName(Session& session, const Target& target) {
     if (!session.Load(target.package)) return {};
-    const auto package = session.Dictionary().Package(target.package);
+    const auto package = session.Package(target.package);
     if (!package) {
-        session.Refuse(target.text, "its document holds a package of another name");
+        session.Refuse(target.text, "the package is gone again");
         return {};
     }
     if (target.element.empty()) return {zandic::As<OXMIDicElementH>(package)};
@@ -59,8 +59,7 @@ std::vector<Object> FindByName(Session& session, const Target& target) {
     return members;
 }
 
-void LoadForUuids(Session& session, const Options& options) {
-    if (options.in.empty()) return session.LoadWholePath();
+void LoadIn(Session& session, const Options& options) {
     for (const std::string& name : options.in) {
         if (auto wrong = WrongPackageName(name)) {
             session.RejectUse(name, *wrong);
@@ -84,7 +83,8 @@ void RunShow(Session& session, const Options& options, Output& output) {
     }
     const bool hasUuid =
         std::any_of(targets.begin(), targets.end(), [](const Target& each) { return each.uuid.has_value(); });
-    if (hasUuid) LoadForUuids(session, options);
+    if (hasUuid && options.in.empty()) session.LoadWholePath();
+    LoadIn(session, options);
 
     // Everything is found, and so loaded, before the first is shown: each sheet knows all users.
     std::vector<Object> objects;

@@ -11,8 +11,6 @@ namespace {
 namespace tag = ZANDicFormat::tag;
 using Rows = std::vector<std::vector<std::string>>;
 
-std::string Quoted(const std::string& alias) { return alias.empty() ? alias : fmt::format("\"{}\"", alias); }
-
 std::string Note(std::vector<std::string> parts) {
     std::erase(parts, "");
     return Joined(parts);
@@ -24,8 +22,7 @@ std::vector<std::string> ClassRow(const View& view, OXMIDicElement& element) {
     const int own = zandic::All<OXMIDicElement>(*classElement, &OXMIDicClass::GetClassElements).Size();
     return {std::string(zandic::Name(element).View()), superClass ? "is a " + NameIn(view, *superClass) : "",
             Note({zandic::Flag(*classElement, &OXMIDicClass::GetAbstract) ? "abstract" : "",
-                  Counted(static_cast<std::size_t>(own), "attribute", "attributes"),
-                  Quoted(TextOf(element, &OXMIDicElement::GetAlias))})};
+                  Counted(static_cast<std::size_t>(own), "attribute", "attributes"), QuotedAlias(element)})};
 }
 
 std::vector<std::string> EnumRow(const View&, OXMIDicElement& element) {
@@ -40,9 +37,8 @@ std::vector<std::string> EnumRow(const View&, OXMIDicElement& element) {
 
 std::vector<std::string> CategoryRow(const View&, OXMIDicElement& element) {
     const std::string group = TextOf(*zandic::As<OXMIDicCategory>(element), &OXMIDicCategory::GetGroup);
-    return {
-        std::string(zandic::Name(element).View()),
-        Note({group.empty() ? "" : "group " + group, Quoted(TextOf(element, &OXMIDicElement::GetAlias))})};
+    return {std::string(zandic::Name(element).View()),
+            Note({group.empty() ? "" : "group " + group, QuotedAlias(element)})};
 }
 
 /// The sections of the sheet, in their order.

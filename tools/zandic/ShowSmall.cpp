@@ -1,6 +1,8 @@
 // The sheets of the small kinds: enumerations and their values, unique keys, categories.
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "Model.h"
 #include "Views.h"
 
@@ -39,13 +41,15 @@ void ShowEnum(const View& view, OXMIDicEnum& enumeration) {
     ShowExtras(view, enumeration);
 
     std::vector<std::vector<std::string>> rows;
+    std::size_t valueWidth = 0;
     for (OXMIDicEnumerator& each :
          zandic::All<OXMIDicEnumerator>(enumeration, &OXMIDicEnum::GetEnumerators)) {
-        const std::string alias = TextOf(each, &OXMIDicEnumerator::GetAlias);
         rows.push_back({std::string(zandic::Name(each).View()),
-                        fmt::format("{:>5}", zandic::Get(each, &OXMIDicEnumerator::GetValue).value_or(0)),
-                        alias.empty() ? alias : fmt::format("\"{}\"", alias)});
+                        std::to_string(zandic::Get(each, &OXMIDicEnumerator::GetValue).value_or(0)),
+                        QuotedAlias(each)});
+        valueWidth = std::max(valueWidth, rows.back()[1].size());
     }
+    for (auto& row : rows) row[1].insert(0, valueWidth - row[1].size(), ' ');
     view.sheet.Section(fmt::format("Enumerators ({})", rows.size()));
     view.sheet.Rows(rows);
     ShowUsers(view, enumeration);

@@ -95,6 +95,11 @@ void ShowExtras(const View& view, OXMIDicElementH& object) {
     }
 }
 
+std::string QuotedAlias(OXMIDicElement& element) {
+    const std::string alias = TextOf(element, &OXMIDicElement::GetAlias);
+    return alias.empty() ? alias : fmt::format("\"{}\"", alias);
+}
+
 std::string PlainNames(const zandic::List<OXMIDicElementH>& objects) {
     std::vector<std::string> names;
     for (OXMIDicElementH& object : objects) names.emplace_back(zandic::Name(object).View());

@@ -53,7 +53,10 @@ void ShowIdentity(const View& view, OXMIDicElement& element);
 /// Categories and free attributes, which end the fields of every sheet.
 void ShowExtras(const View& view, OXMIDicElementH& object);
 
-/// \returns "key ATTRIBUTES" for a list of attributes: their names without class and package.
+/// \returns the alias in quotes; empty where there is none.
+std::string QuotedAlias(OXMIDicElement& element);
+
+/// \returns the names without class and package.
 std::string PlainNames(const zandic::List<OXMIDicElementH>& objects);
 
 /// \returns how many values an attribute has: "1", "0..1", "Set 0..5".

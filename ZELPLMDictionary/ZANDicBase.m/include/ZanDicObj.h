@@ -165,6 +165,7 @@ private:
     friend class ZanDicLinkBase;
 
     static int liveObjects;
+    static ZanDicObj* sharedProbe;  ///< kept for the life of the process; null until it is made
 
     /// Runs \p assign on the UUID and keeps the registry in step when it holds this object.
     template <class Assign>

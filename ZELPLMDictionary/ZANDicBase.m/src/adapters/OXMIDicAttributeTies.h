@@ -12,6 +12,8 @@
 template <class Impl, class Base>
 class OXMIDicAttributeLayer : public Base {
 public:
+    using Base::GetType;  // that of all objects
+
     HRESULT SetMandatory(unsigned char mandatory) override { return this->impl().SetMandatory(mandatory); }
     HRESULT GetMandatory(unsigned char* mandatory) override { return this->impl().GetMandatory(mandatory); }
     HRESULT SetSensitive(unsigned char sensitive) override { return this->impl().SetSensitive(sensitive); }

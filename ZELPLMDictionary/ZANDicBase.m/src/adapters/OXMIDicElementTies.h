@@ -24,6 +24,8 @@ public:
 template <class Impl, class Base>
 class OXMIDicElementHLayer : public Base {
 public:
+    using Base::GetType;  // attributes have another of that name
+
     HRESULT GetName(ZELString* name) override { return this->impl().GetName(name); }
     HRESULT SetName(const ZELString* name) override { return this->impl().SetName(name); }
     HRESULT GetUuid(ZELDbBinary* uuid) override { return this->impl().GetUuid(uuid); }

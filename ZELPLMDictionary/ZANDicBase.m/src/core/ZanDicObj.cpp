@@ -73,6 +73,7 @@ constinit ZELMetaClass objectMeta("ZanDicObj");
 }  // namespace
 
 constinit int ZanDicObj::liveObjects = 0;
+constinit ZanDicObj* ZanDicObj::sharedProbe = nullptr;
 
 ZanDicRareFields::ZanDicRareFields() = default;
 ZanDicRareFields::~ZanDicRareFields() = default;
@@ -354,13 +355,9 @@ bool ZanDicObj::shows_Probe() {
 }
 
 void ZanDicObj::make_SharedProbe() {
-    // Kept for the life of the process, and no object of the dictionary.
-    static ZanDicObj* const probe = [] {
-        auto* const object = new ZanDicObj;
-        --liveObjects;
-        return object;
-    }();
-    static_cast<void>(probe);
+    if (sharedProbe != nullptr) return;
+    sharedProbe = new ZanDicObj;
+    --liveObjects;  // no object of the dictionary
 }
 
 std::uint32_t HashNameZanDicObj(ZanDicObj* object) {

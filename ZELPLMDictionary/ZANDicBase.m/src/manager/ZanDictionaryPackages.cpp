@@ -62,7 +62,7 @@ HRESULT ZanDictionary::GetPackage(const ZELString* name, OXMIDicPackage** packag
     }
     if (auto line = trace.Line(TraceLevel::Call)) {
         // Deliberate: the address of the argument, not its text
-        // (ZanDictionaryTest.GetPackageTracesTheAddress).
+        // (ZanDictionaryPackagesTest.GetPackageTracesTheAddressOfTheName).
         line << "=== exit === " << kExitWord << ZanDicTraceScope::Word(rc)
              << ", PackName=" << static_cast<const void*>(name);
     }

@@ -66,6 +66,7 @@ void DropTaken(const std::vector<ZanDicObj*>& owned) {
     ZanDicRegistry* const registry = ZanDicFindRegistry();
     for (ZanDicObj* object : owned) {
         if (registry != nullptr && object->is_Registered()) registry->forget_Obj(*object);
+        object->set_Registered(false);
         object->mark_Gone();
         object->Release();
     }

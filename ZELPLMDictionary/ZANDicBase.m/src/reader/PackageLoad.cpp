@@ -184,7 +184,8 @@ bool PackageLoad::Advance() {
         StepResult result = StepResult::Finished;
         if (_Step < std::size(kSteps)) {
             const ZanDicTrace::DocumentScope document;
-            result = (this->*kSteps[_Step])();
+            const auto step = kSteps[_Step];  // on its own, or the sanitizer takes the pointer for the index
+            result = (this->*step)();
         }
         if (result == StepResult::NeedsPackage) return false;
         if (result == StepResult::Next) ++_Step;
@@ -242,6 +243,21 @@ Fault PackageLoad::package_Fault(ZanDicDiagnosticCode code) const {
     return fault;
 }
 
+/// A fault of the name that was asked for: it stands in the document that asks.
+Fault PackageLoad::request_Fault(ZanDicDiagnosticCode code) const {
+    Fault fault{code};
+    if (_Request.document == nullptr) {
+        fault.element = _Place.package;
+        return fault;
+    }
+    fault.node = _Request.node;
+    fault.attribute = _Request.attribute;
+    fault.file = _Request.document->file;
+    fault.element = _Request.document->package;
+    fault.otherParty = _Request.name.View();
+    return fault;
+}
+
 bool PackageLoad::split_Name() {
     const std::string_view whole = _Request.name.View();
     const std::string_view name = BeforeFirstDot(whole);
@@ -257,10 +273,7 @@ bool PackageLoad::split_Name() {
     const bool isName = IsPackageName(whole);
     if (isName && !name.empty() && FindWord(kContentWords, extension) != nullptr) return true;
     const bool isNameAtFault = !isName || name.empty();
-    Fault fault{isNameAtFault ? InvalidPackageName : InvalidFileExtension};
-    fault.node = _Request.node;
-    fault.attribute = _Request.attribute;
-    if (_Request.document != nullptr) fault.file = _Request.document->file;
+    Fault fault = request_Fault(isNameAtFault ? InvalidPackageName : InvalidFileExtension);
     fault.detail = isNameAtFault ? whole : extension;
     fault.lines.push_back(
         {kTrace, Joined({isNameAtFault ? text::kInvalidName : text::kInvalidExtension, fault.detail})});
@@ -280,14 +293,7 @@ bool PackageLoad::find_Document() {
         _Place.file = std::move(file);
         return true;
     }
-    Fault fault{FileNotFound};
-    fault.node = _Request.node;
-    fault.attribute = _Request.attribute;
-    if (_Request.document != nullptr) {
-        fault.file = _Request.document->file;
-        fault.otherParty = _Request.document->package;
-    }
-    fault.element = _AskedName.View();
+    Fault fault = request_Fault(FileNotFound);
     fault.detail = Joined({_AskedName.View(), ".", _Extension.View(), text::kIn, _Run.dirNames});
     fault.lines.push_back({kTrace, Joined({text::kDocumentNotFound, fault.detail})});
     goes_On(_Run.faults.Report(fault));

@@ -104,6 +104,7 @@ private:
     bool goes_On(HRESULT rc) { return _Run.faults.GoesOn(rc, _Result); }
     StepResult next_After(HRESULT rc) { return goes_On(rc) ? StepResult::Next : StepResult::Finished; }
     Fault package_Fault(ZanDicDiagnosticCode code) const;
+    Fault request_Fault(ZanDicDiagnosticCode code) const;
 
     LoadRun& _Run;
     PackageRequest _Request;

@@ -152,7 +152,7 @@ inline constexpr std::string_view kNameDiffersFrom = " differs from the name ask
 inline constexpr std::string_view kUseRing = "-*** ERROR *** Package ";
 inline constexpr std::string_view kUseRingOf =
     " is used by a Package that it uses, which is not supported yet";
-inline constexpr std::string_view kUnsupportedTag = "-*** ERROR *** Unsupported tag:";
+inline constexpr std::string_view kUnsupportedTag = "-*** ERROR *** Tag ";
 inline constexpr std::string_view kNotSupportedYet = "] is not supported yet";
 inline constexpr std::string_view kUnsupported = "not supported yet";
 inline constexpr std::string_view kRefusedValue = "*** ERROR *** Refused value: ";
