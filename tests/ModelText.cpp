@@ -170,7 +170,8 @@ private:
         Common(attribute);
         Held<OXMIDicElement> type;
         attribute.GetType(type.Out());
-        const Held<OXMIDicPrimitive> primitive = type ? As<OXMIDicPrimitive>(*type) : Held<OXMIDicPrimitive>();
+        const Held<OXMIDicPrimitive> primitive =
+            type ? As<OXMIDicPrimitive>(*type) : Held<OXMIDicPrimitive>();
         const int kind = primitive ? primitive->Primitive() : 0;
         Line("type", primitive ? std::to_string(kind) : type ? UuidOf(*type) : "");
         Value("access", attribute, &OXMIDicAttribute::GetAccessMode);

@@ -129,8 +129,9 @@ TEST_F(OxmDicToEXPRESSTest, StoredNumbersWithoutWordHaveNoWord) {
     relationship->SetScope(static_cast<OXMDicSCOPE>(0));
     relationship->SetAggregationMode(static_cast<OXMDicAGGREGATION>(0));
 
-    EXPECT_THAT(ExpressText("P"), HasSubstr("    S                                 :  [ 0: ? ] OF  ; \n"
-                                            "    R                                 : OPTIONAL unknown target  ;\n"));
+    EXPECT_THAT(ExpressText("P"),
+                HasSubstr("    S                                 :  [ 0: ? ] OF  ; \n"
+                          "    R                                 : OPTIONAL unknown target  ;\n"));
 }
 
 TEST_F(OxmDicToEXPRESSTest, ChangesNothing) {
@@ -160,7 +161,8 @@ TEST_F(OxmDicToEXPRESSTest, RefusesNamesThatNoSchemaCanBear) {
 
         EXPECT_EQ(Export(name, directory.Path()), E_FAIL);
 
-        EXPECT_EQ(WrittenErrors(), "ERROR : no schema can be named after Package " + std::string(name) + "\n");
+        EXPECT_EQ(WrittenErrors(),
+                  "ERROR : no schema can be named after Package " + std::string(name) + "\n");
     }
     EXPECT_TRUE(std::filesystem::is_empty(directory.Path()));
 }

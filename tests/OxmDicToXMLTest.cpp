@@ -125,8 +125,9 @@ TEST_F(OxmDicToXMLTest, RefusesNamesThatNoDocumentCanBear) {
 
         EXPECT_EQ(Save(name, directory.Path()), E_FAIL) << name;
 
-        EXPECT_EQ(Written(), "OxmDicToXML:OxmDicToXML -- *** ERROR *** No document can be named after Package " +
-                                 std::string(name) + ".\n");
+        EXPECT_EQ(Written(),
+                  "OxmDicToXML:OxmDicToXML -- *** ERROR *** No document can be named after Package " +
+                      std::string(name) + ".\n");
     }
     EXPECT_TRUE(std::filesystem::is_empty(directory.Path()));
 }
@@ -145,8 +146,8 @@ TEST_F(OxmDicToXMLTest, TellsAFailedWriteByALineOnly) {
 
     EXPECT_EQ(Save("P", directory.Path("none")), S_OK);
 
-    EXPECT_EQ(Written(), "OxmDicToXML:OxmDicToXML -- *** ERROR *** Could not write " + directory.Path("none") +
-                             "\\P.metadata: No such file or directory.\n");
+    EXPECT_EQ(Written(), "OxmDicToXML:OxmDicToXML -- *** ERROR *** Could not write " +
+                             directory.Path("none") + "\\P.metadata: No such file or directory.\n");
 }
 
 TEST_F(OxmDicToXMLTest, TracesItsSteps) {
@@ -252,16 +253,16 @@ TEST_F(OxmDicToXMLTest, StoredNumbersWithoutWordAreLeftOut) {
     simple->SetVisibility(static_cast<OXMDicVISIBILITY>(4));
     simple->SetMultiValuated(1);
 
-    EXPECT_THAT(SavedText("P"), HasSubstr("<Simple Name=\"S\" Uuid=\"00000000-0000-0000-0000000000000003\" "
-                                          "Type=\"String\" Mandatory=\"No\" MultiValuated=\"Yes\" Lower=\"0\" "
-                                          "Upper=\"0\" Sensitive=\"No\"/>"));
+    EXPECT_THAT(SavedText("P"),
+                HasSubstr("<Simple Name=\"S\" Uuid=\"00000000-0000-0000-0000000000000003\" "
+                          "Type=\"String\" Mandatory=\"No\" MultiValuated=\"Yes\" Lower=\"0\" "
+                          "Upper=\"0\" Sensitive=\"No\"/>"));
 }
 
 TEST_F(OxmDicToXMLTest, AnAttributeWithoutTypeFailsAloneAndItsRestIsWritten) {
     const Held<OXMIDicPackage> package = MakePackage("P");
     const Held<OXMIDicClass> element = MakeClass(*package, "C", 2);
-    const Held<OXMIDicSimple> first =
-        MakeSimple(*element, "First", 3, static_cast<OXMDicPRIMITIVEType>(0));
+    const Held<OXMIDicSimple> first = MakeSimple(*element, "First", 3, static_cast<OXMDicPRIMITIVEType>(0));
     const Held<OXMIDicSimple> second = MakeSimple(*element, "Second", 4, OXMDicPRIMITIVEType_Integer);
     TraceFromNow(1);
 
@@ -304,11 +305,14 @@ TEST_F(OxmDicToXMLTest, FreeAttributesThatWouldNotReadBackAsSuchAreLeftOutWithAW
 
 TEST_F(OxmDicToXMLTest, CharactersThatXMLDoesNotAllowAreReplacedWithAWarning) {
     const Held<OXMIDicPackage> package = MakePackage("P");
-    const ZELUnicodeString alias("a\x01" "b\x80");
+    const ZELUnicodeString alias(
+        "a\x01"
+        "b\x80");
     package->SetAlias(&alias);
     ClearWritten();
 
-    EXPECT_THAT(SavedText("P"), HasSubstr("Alias=\"a\xef\xbf\xbd" "b\xef\xbf\xbd\""));
+    EXPECT_THAT(SavedText("P"), HasSubstr("Alias=\"a\xef\xbf\xbd"
+                                          "b\xef\xbf\xbd\""));
 
     EXPECT_EQ(Written(),
               "OxmDicToXML:DisplayPackage -- *** WARNING *** Package P, attribute Alias: characters that XML "
@@ -327,11 +331,12 @@ TEST_F(OxmDicToXMLTest, UsedPackagesThatCannotStandInAListAreLeftOutWithAWarning
     const std::string text = SavedText("P");
 
     EXPECT_THAT(text, HasSubstr("UseNames=\"Plain\">"));
-    EXPECT_EQ(Written(),
-              "OxmDicToXML:DisplayPackage -- *** WARNING *** Package P, attribute UseNames: this name cannot "
-              "stand in a list; left out: two words.\n"
-              "OxmDicToXML:DisplayPackage -- *** WARNING *** Package P, attribute UseScopes: this name cannot "
-              "stand in a list; left out: two words.\n");
+    EXPECT_EQ(
+        Written(),
+        "OxmDicToXML:DisplayPackage -- *** WARNING *** Package P, attribute UseNames: this name cannot "
+        "stand in a list; left out: two words.\n"
+        "OxmDicToXML:DisplayPackage -- *** WARNING *** Package P, attribute UseScopes: this name cannot "
+        "stand in a list; left out: two words.\n");
 }
 
 TEST_F(OxmDicToXMLTest, LinksToWhatIsNoLongerLoadedAreLeftOutWithOneWarningEach) {
@@ -376,7 +381,8 @@ TEST_F(OxmDicToXMLTest, LinksToWhatIsNoLongerLoadedAreLeftOutWithOneWarningEach)
               ofPackage + "UseNames" + end + ofPackage + "UseNames" + end + ofPackage + "UseScopes" + end +
                   ofClass + "SuperRef" + end + ofClass + "ReferenceRef" + end +
                   "OxmDicToXML:DisplayRelationship -- *** WARNING *** Relationship R, attribute TargetRef" +
-                  end + "OxmDicToXML:DisplaySimple -- *** WARNING *** Simple S, attribute CategoryRefs" + end);
+                  end + "OxmDicToXML:DisplaySimple -- *** WARNING *** Simple S, attribute CategoryRefs" +
+                  end);
     EXPECT_THAT(text, Not(HasSubstr("Ref=")));
     EXPECT_THAT(text, Not(HasSubstr("Refs=")));
     EXPECT_THAT(text, Not(HasSubstr("Use")));

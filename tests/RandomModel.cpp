@@ -26,10 +26,33 @@ bool Chance(int oneOf) { return Draw(oneOf) == 0; }
 
 std::string HostileText() {
     static const std::string kHuge(100'000, '&');
-    const char* const pieces[] = {"a",    "Name", " ",    "  ",   "\"",       "'",        "&",
-                                  "<",    ">",    "\t",   "\n",   "\r",       "\r\n",     "&amp;",
-                                  "]]>",  "--",   "<!--", "=",    "\xc3\xa9", "\xe2\x82\xac",
-                                  "\xf0\x9f\x98\x80", "\x7f", "0123456789abcdef", ".", "/", "\\", ":"};
+    const char* const pieces[] = {"a",
+                                  "Name",
+                                  " ",
+                                  "  ",
+                                  "\"",
+                                  "'",
+                                  "&",
+                                  "<",
+                                  ">",
+                                  "\t",
+                                  "\n",
+                                  "\r",
+                                  "\r\n",
+                                  "&amp;",
+                                  "]]>",
+                                  "--",
+                                  "<!--",
+                                  "=",
+                                  "\xc3\xa9",
+                                  "\xe2\x82\xac",
+                                  "\xf0\x9f\x98\x80",
+                                  "\x7f",
+                                  "0123456789abcdef",
+                                  ".",
+                                  "/",
+                                  "\\",
+                                  ":"};
     if (Chance(400)) return " " + kHuge + " ";
     std::string text;
     for (int count = Draw(6); count > 0; --count) text += pieces[Draw(std::size(pieces))];
@@ -120,7 +143,8 @@ private:
     }
     template <class Interface>
     Interface* Any(std::vector<Held<Interface>>& list) {
-        return list.empty() ? nullptr : list[static_cast<std::size_t>(Draw(static_cast<int>(list.size())))].Get();
+        return list.empty() ? nullptr
+                            : list[static_cast<std::size_t>(Draw(static_cast<int>(list.size())))].Get();
     }
 
     void Category(OXMIDicPackage& package) {
@@ -197,7 +221,8 @@ private:
         // A simple attribute may redefine an inherited one: these names come again and again.
         const ZELString common(Draw(2) == 0 ? "Common" : " Other common ");
         Held<OXMIDicElement> present;
-        const bool usesCommon = kind == 0 && Chance(3) && Failed(owner.GetClassElement(&common, present.Out()));
+        const bool usesCommon =
+            kind == 0 && Chance(3) && Failed(owner.GetClassElement(&common, present.Out()));
         const ZELString name = usesCommon ? common : NextName();
         if (kind == 0) Simple(package, owner, name, uuid);
         if (kind == 1) Relationship(package, owner, name, uuid);
@@ -227,7 +252,8 @@ private:
         }
     }
 
-    void Simple(OXMIDicPackage& package, OXMIDicClass& owner, const ZELString& name, const ZELDbBinary& uuid) {
+    void Simple(OXMIDicPackage& package, OXMIDicClass& owner, const ZELString& name,
+                const ZELDbBinary& uuid) {
         Held<OXMIDicSimple> simple;
         owner.CreateSimple(&name, &uuid, simple.Out());
         Attribute(package, *simple, 1);
@@ -271,7 +297,8 @@ private:
         Relation(package, Keep(_RELATIONSHIPS, std::move(made)));
     }
 
-    void Inverse(OXMIDicPackage& package, OXMIDicClass& owner, const ZELString& name, const ZELDbBinary& uuid) {
+    void Inverse(OXMIDicPackage& package, OXMIDicClass& owner, const ZELString& name,
+                 const ZELDbBinary& uuid) {
         Held<OXMIDicInverse> inverse;
         owner.CreateInverse(&name, &uuid, inverse.Out());
         Held<OXMIDicRelationship> relation;

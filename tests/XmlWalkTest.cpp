@@ -93,15 +93,25 @@ TEST_F(XmlWalkTest, WritesInterfacesMethodsAndParameters) {
     EXPECT_EQ(TextOf(element.Get()),
               "<Interface Name=\"I\" Alias=\"Al\" Uuid=" + Uuid("11") + " SuperRef=" + Uuid("10") +
                   " Free=\"f\">\n"
-                  "  <Method Name=\"M\" Uuid=" + Uuid("12") + ">\n"
-                  "    <Parameter Name=\"Plain\" Uuid=" + Uuid("13") + "/>\n"
-                  "    <Parameter Name=\"Full\" Uuid=" + Uuid("14") +
+                  "  <Method Name=\"M\" Uuid=" +
+                  Uuid("12") +
+                  ">\n"
+                  "    <Parameter Name=\"Plain\" Uuid=" +
+                  Uuid("13") +
+                  "/>\n"
+                  "    <Parameter Name=\"Full\" Uuid=" +
+                  Uuid("14") +
                   " Alias=\"Al\" Type=\"String\" Kind=\"In\" Default=\"D\" Free=\"f\"/>\n"
-                  "    <Parameter Name=\"Typed\" Uuid=" + Uuid("15") + " ClassRef=" + Uuid("10") +
-                  " TypeRef=" + Uuid("10") + " Kind=\"Return\"/>\n"
-                  "    <Parameter Name=\"Url\" Uuid=" + Uuid("16") + " Kind=\"IO\"/>\n"
+                  "    <Parameter Name=\"Typed\" Uuid=" +
+                  Uuid("15") + " ClassRef=" + Uuid("10") + " TypeRef=" + Uuid("10") +
+                  " Kind=\"Return\"/>\n"
+                  "    <Parameter Name=\"Url\" Uuid=" +
+                  Uuid("16") +
+                  " Kind=\"IO\"/>\n"
                   "  </Method>\n"
-                  "  <Method Name=\"Bare\" Alias=\"Al\" Uuid=" + Uuid("17") + "/>\n"
+                  "  <Method Name=\"Bare\" Alias=\"Al\" Uuid=" +
+                  Uuid("17") +
+                  "/>\n"
                   "</Interface>\n");
 }
 
@@ -149,16 +159,23 @@ TEST_F(XmlWalkTest, WritesRBOObjectsWithWhatTheyAreLinkedToElseWhatTheyStore) {
               "<RBOMapping Name=\"Map\" Uuid=" + Uuid("21") +
                   " Alias=\"Al\" ApplyToRBOClass=\"R\" ApplyToRBOClassRef=" + Uuid("20") +
                   " Free=\"f\">\n"
-                  "  <RBORoot Name=\"Root\" Uuid=" + Uuid("22") +
-                  " BaseClass=\"stored\" BaseClassRef=" + Uuid("99") + ">\n"
-                  "    <RBOComponent Name=\"C\" Uuid=" + Uuid("23") +
+                  "  <RBORoot Name=\"Root\" Uuid=" +
+                  Uuid("22") + " BaseClass=\"stored\" BaseClassRef=" + Uuid("99") +
+                  ">\n"
+                  "    <RBOComponent Name=\"C\" Uuid=" +
+                  Uuid("23") +
                   " Alias=\"Al\" BaseClass=\"base\" ValidityRule=\"a &lt; b\" Free=\"f\">\n"
-                  "      <RBOComponent Name=\"Inner\" Uuid=" + Uuid("25") + ">\n"
-                  "        <RBOPathExpression Name=\"Bare\" Uuid=" + Uuid("26") +
-                  " TargetName=\"t\" TargetRef=" + Uuid("98") + "/>\n"
+                  "      <RBOComponent Name=\"Inner\" Uuid=" +
+                  Uuid("25") +
+                  ">\n"
+                  "        <RBOPathExpression Name=\"Bare\" Uuid=" +
+                  Uuid("26") + " TargetName=\"t\" TargetRef=" + Uuid("98") +
+                  "/>\n"
                   "      </RBOComponent>\n"
-                  "      <RBOPathExpression Name=\"Path\" Uuid=" + Uuid("24") +
-                  " Type=\"OXMTPRelation\" SubType=\"sub\" TargetName=\"R\" TargetRef=" + Uuid("20") + "/>\n"
+                  "      <RBOPathExpression Name=\"Path\" Uuid=" +
+                  Uuid("24") +
+                  " Type=\"OXMTPRelation\" SubType=\"sub\" TargetName=\"R\" TargetRef=" + Uuid("20") +
+                  "/>\n"
                   "    </RBOComponent>\n"
                   "  </RBORoot>\n"
                   "</RBOMapping>\n");
@@ -178,11 +195,13 @@ TEST_F(XmlWalkTest, AnElementWithoutItsInterfaceFailsAloneAmongItsSiblings) {
     mapping->Own(new FakePlain(OXMDicTYPE_Command, "Command", 0x23));
     mapping->Own(new FakeRBORoot("Root", 0x24));
 
-    EXPECT_EQ(TextOf(mapping.Get()),
-              "<RBOMapping Name=\"Map\" Uuid=" + Uuid("21") + ">\n"
-                  "  <RBORoot/>\n"
-                  "  <RBORoot Name=\"Root\" Uuid=" + Uuid("24") + "/>\n"
-                  "</RBOMapping>\n");
+    EXPECT_EQ(TextOf(mapping.Get()), "<RBOMapping Name=\"Map\" Uuid=" + Uuid("21") +
+                                         ">\n"
+                                         "  <RBORoot/>\n"
+                                         "  <RBORoot Name=\"Root\" Uuid=" +
+                                         Uuid("24") +
+                                         "/>\n"
+                                         "</RBOMapping>\n");
 
     EXPECT_EQ(result, S_OK);
 }

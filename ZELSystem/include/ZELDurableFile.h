@@ -49,6 +49,15 @@ public:
         --_Room;
     }
 
+    /// Adds texts one behind the other; cheaper than one by one.
+    template <class... Texts>
+    void AppendAll(const Texts&... texts) {
+        const std::size_t size = (texts.size() + ...);
+        if (size >= _Room) return (AppendSlowly(texts), ...);
+        ((std::memcpy(_End, texts.data(), texts.size()), _End += texts.size()), ...);
+        _Room -= size;
+    }
+
     /// Makes the file durable under its final name and closes it.
     /// \returns S_OK; E_FAIL, with a reason. Only when what failed was the last step, the flush of the
     /// directory, does the final name bear the new file then, whole as well.

@@ -10,6 +10,8 @@
 
 namespace {
 
+using std::literals::operator""sv;
+
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
 constexpr std::array<char, 2 * ZELVBTXMLWriter::kMostIndented> MakeBlanks() {
@@ -118,17 +120,11 @@ void ZELVBTXMLWriter::Begin(std::string_view tag) {
 }
 
 void ZELVBTXMLWriter::PlainAttribute(std::string_view name, std::string_view value) {
-    _File.Append(' ');
-    _File.Append(name);
-    _File.Append("=\"");
-    _File.Append(value);
-    _File.Append('"');
+    _File.AppendAll(" "sv, name, "=\""sv, value, "\""sv);
 }
 
 void ZELVBTXMLWriter::Attribute(std::string_view name, std::string_view value) {
-    _File.Append(' ');
-    _File.Append(name);
-    _File.Append("=\"");
+    _File.AppendAll(" "sv, name, "=\""sv);
     Escaped(value);
     _File.Append('"');
 }

@@ -56,6 +56,7 @@ void ZanDicLinkBase::Lose() noexcept {
     ++places[kLostPlace].links;
     Reset();
     _Place = kLostPlace;
+    ++lostCount;
 }
 
 void ZanDicLinkBase::Drop() noexcept {

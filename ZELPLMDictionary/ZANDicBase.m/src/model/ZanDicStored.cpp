@@ -26,13 +26,18 @@ const ZanDicAttribute::Mode& ModeOf(StoredMode mode) {
 
 }  // namespace
 
-int StoredModeOf(const IUnknown& attribute, StoredMode mode) {
+StoredAttribute::StoredAttribute(const IUnknown& attribute) : _Attribute(nullptr) {
     const ZanDicObj* const object = ImplementationOf(&attribute);
-    if (object == nullptr || object->get_type() != ZanDicObj::_type_Attribute) return 0;
-    return static_cast<const ZanDicAttribute*>(object)->stored_Mode(ModeOf(mode));
+    if (object == nullptr || object->get_type() != ZanDicObj::_type_Attribute) return;
+    _Attribute = static_cast<const ZanDicAttribute*>(object);
+}
+
+int StoredAttribute::Mode(StoredMode mode) const {
+    return _Attribute != nullptr ? _Attribute->stored_Mode(ModeOf(mode)) : 0;
 }
 
 int LostLinksOf(const IUnknown& object, ZanDicObj::LinkName link) {
+    if (ZanDicLinkBase::LostCount() == 0) return 0;  // nothing was ever lost
     const ZanDicObj* const implementation = ImplementationOf(&object);
     return implementation != nullptr ? implementation->lost_Links(link) : 0;
 }

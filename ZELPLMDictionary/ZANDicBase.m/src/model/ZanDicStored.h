@@ -8,13 +8,27 @@
 #include "ZanDicObj.h"
 
 class IUnknown;
+class ZanDicAttribute;
 
 /// The enumerated properties of an attribute.
 enum class StoredMode { Aggregation, Access, Case, Scope, Facet, Collection };
 
-/// \returns the number that the attribute behind \p attribute stores; 0, which is no property's word, for an
-/// object that is no attribute of this library.
-int StoredModeOf(const IUnknown& attribute, StoredMode mode);
+/// The attribute behind an interface, for those who ask for several numbers of it. No reference is taken.
+class StoredAttribute {
+public:
+    explicit StoredAttribute(const IUnknown& attribute);
+
+    /// \returns the stored number; 0, which is no property's word, for what is no attribute of this library.
+    int Mode(StoredMode mode) const;
+
+private:
+    const ZanDicAttribute* _Attribute;  ///< not owning; null for what is no attribute of this library
+};
+
+/// The same for one number.
+inline int StoredModeOf(const IUnknown& attribute, StoredMode mode) {
+    return StoredAttribute(attribute).Mode(mode);
+}
 
 /// \returns how many links of that name the object behind \p object has lost.
 int LostLinksOf(const IUnknown& object, ZanDicObj::LinkName link);

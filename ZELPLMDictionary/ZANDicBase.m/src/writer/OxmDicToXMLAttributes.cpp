@@ -52,7 +52,7 @@ HRESULT Collection(XmlNode& node, OXMIDicAttribute& attribute) {
     node.Number(word::kLower, lower);
     node.Number(word::kUpper, upper);
     node.Word(word::kCollectionType,
-              WordOf(kCollectionWords, StoredModeOf(attribute, StoredMode::Collection)));
+              WordOf(kCollectionWords, node.Stored(attribute, StoredMode::Collection)));
     return S_OK;
 }
 template <class Interface>

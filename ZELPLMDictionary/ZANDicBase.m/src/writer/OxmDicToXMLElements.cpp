@@ -215,5 +215,6 @@ constexpr XmlKind kCategoryKind{OXMDicTYPE_Category, writer::kDisplayCategory, F
 constexpr XmlKind kEnumKind{OXMDicTYPE_Enum, writer::kDisplayEnum, FixedTag<tag::kEnum>,
                             WriteRows<OXMIDicEnum, kEnumRows>,
                             ListChildren<OXMIDicEnum, &OXMIDicEnum::GetEnumerators>};
-constexpr XmlKind kEnumeratorKind{OXMDicTYPE_Enumerator, writer::kDisplayEnumerator, FixedTag<tag::kEnumerator>,
-                                  WriteRows<OXMIDicEnumerator, kEnumeratorRows>, nullptr};
+constexpr XmlKind kEnumeratorKind{OXMDicTYPE_Enumerator, writer::kDisplayEnumerator,
+                                  FixedTag<tag::kEnumerator>, WriteRows<OXMIDicEnumerator, kEnumeratorRows>,
+                                  nullptr};

@@ -2,6 +2,7 @@
 #ifndef XML_NODE_H
 #define XML_NODE_H
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -46,6 +47,12 @@ public:
     /// Writes a warning line about an attribute. \param more may be empty.
     void Warn(std::string_view word, std::string_view reason, std::string_view more = {});
 
+    /// \returns the number that the attribute behind \p element, which is that of the node, stores.
+    int Stored(const IUnknown& element, StoredMode mode) {
+        if (!_Stored) _Stored.emplace(element);
+        return _Stored->Mode(mode);
+    }
+
     std::string_view Tag() const { return _Tag; }
     const ZanDicTraceScope& Trace() const { return _Trace; }
     ZELVBTXMLWriter& Document() { return _Document; }
@@ -61,6 +68,7 @@ private:
     const ZanDicTraceScope& _Trace;
     std::string_view _Tag;
     const ZELString& _Name;
+    std::optional<StoredAttribute> _Stored;  ///< known once it was asked for
 };
 
 #endif

@@ -72,7 +72,7 @@ HRESULT Word(XmlNode& node, Interface& element, std::string_view word) {
 /// The word of a stored number, whose getter would end the process where the table has none.
 template <StoredMode mode, const auto& Words, class Interface>
 HRESULT StoredWord(XmlNode& node, Interface& element, std::string_view word) {
-    node.Word(word, ZANDicFormat::WordOf(Words, StoredModeOf(element, mode)));
+    node.Word(word, ZANDicFormat::WordOf(Words, node.Stored(element, mode)));
     return S_OK;
 }
 
