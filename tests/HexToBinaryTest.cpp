@@ -154,6 +154,16 @@ RC_GTEST_PROP(HexToBinaryProperty, EveryUuidComesBackFromEachFormOfItsText, ()) 
     RC_ASSERT(Binary("-" + WithoutDashes(text)) == bytes);
 }
 
+RC_GTEST_PROP(HexToBinaryProperty, AViewIsReadAsTheStringOfItsText, (const std::string& text)) {
+    const ZELDbBinary fromView = UuidFromText(text);
+    ZELString string{std::string_view(text)};
+    ZELDbBinary fromString;
+    UuidHexToBinary(&string, &fromString);
+
+    RC_ASSERT(fromView == fromString);
+    RC_ASSERT(UuidFromText({}).Length() == 16);
+}
+
 RC_GTEST_PROP(HexToBinaryProperty, AnyTextGivesSixteenBytes, (const std::string& text)) {
     RC_ASSERT(Binary(text).size() == 16U);
 }

@@ -12,6 +12,7 @@
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
 #include "ReaderFixture.h"
+#include "ZANDicTags.h"
 
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -455,6 +456,47 @@ TEST_F(OxmDicFromXMLFillTest, TheLabelOfARelationshipsHandlerEndsInADash) {
 
     EXPECT_THAT(Written(), HasSubstr("OxmDicFromXML:FillRelation -- === start ===.\n"));
     EXPECT_THAT(Written(), HasSubstr("OxmDicFromXML:FillRelation -- === exit === RC=OK.\n"));
+}
+
+// The vocabulary.
+
+/// A tag with every attribute that the vocabulary gives it but the references, whose targets do not exist.
+std::string TagWithAllAttributes(std::string_view tagName, const std::string& identity) {
+    std::string text("<");
+    text.append(tagName).append(identity);
+    for (const ZANDicFormat::AttributeRow& row :
+         ZANDicFormat::FindTag(ZANDicFormat::kTags, tagName)->attributes) {
+        using enum ZANDicFormat::AttributeForm;
+        if (row.name == ZANDicFormat::word::kName || row.form == Uuid || row.form == Reference) continue;
+        std::string_view value = "";
+        if (row.form == Flag) value = ZANDicFormat::value::kYes;
+        if (row.form == Integer) value = "1";
+        if (row.form == Word) value = row.words.front().word;
+        text.append(" ").append(row.name).append("=\"").append(value).append("\"");
+    }
+    return text.append(">");
+}
+
+TEST_F(OxmDicFromXMLFillTest, EveryWordOfTheVocabularyIsKnown) {
+    FaultCollector faults;
+    std::string members;
+    for (const char* const tagName : {"Simple", "Relationship", "Inverse", "Unique"}) {
+        const auto number = static_cast<unsigned>(members.size()) + 100;
+        members.append(TagWithAllAttributes(tagName, Id(tagName, number)))
+            .append("</")
+            .append(tagName)
+            .append(">");
+    }
+    std::string body = TagWithAllAttributes("Class", Id("C", 1));
+    body.append(members).append("</Class>");
+    body.append(TagWithAllAttributes("Instance", Id("I", 2))).append("</Instance>");
+    body.append(TagWithAllAttributes("Enum", Id("E", 3)));
+    body.append(TagWithAllAttributes("Enumerator", Id("V", 4))).append("</Enumerator></Enum>");
+    body.append(TagWithAllAttributes("Category", Id("K", 5))).append("</Category>");
+
+    EXPECT_EQ(LoadBody(body), S_OK);
+
+    EXPECT_EQ(faults.Summary(), "");
 }
 
 // Uniques, enumerations and categories.

@@ -77,4 +77,17 @@ TEST_F(ZanDicCategoryTest, IsDetachedFromObjectsOnceItIsGone) {
     EXPECT_EQ(part->AddCategory(category.Get()), E_FAIL);
 }
 
+TEST_F(ZanDicCategoryTest, AnObjectThatIsGoneHasNoCategories) {
+    const auto package = Package("Items");
+    const auto part = Class(*package, "Part");
+    const auto category = Category(*package, "Weight");
+    unsigned char isCategory = 2;
+    EXPECT_EQ(part->AddCategory(category.Get()), S_OK);
+
+    EXPECT_EQ(package->RemoveElement(Named("Part")), S_OK);
+
+    EXPECT_EQ(part->IsCategory(Named("Weight"), &isCategory), E_FAIL);
+    EXPECT_EQ(isCategory, 2);
+}
+
 }  // namespace

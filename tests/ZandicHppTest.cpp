@@ -95,9 +95,11 @@ TEST_F(ZandicHppTest, ADetachedReferenceIsTheCallers) {
 }
 
 TEST_F(ZandicHppTest, AHandleTakesWhatACallHandsOut) {
-    auto element = ClassNamed("BomPart");
+    const auto element = ClassNamed("BomAssembly");
+    auto super = ClassNamed("BomUsage");  // given back when another one comes
 
-    EXPECT_EQ(element->GetSuperClass(element.Out()), S_OK);
+    EXPECT_EQ(element->GetSuperClass(super.Out()), S_OK);
+    EXPECT_EQ(zandic::Name(*super).View(), "BomPart");
 }
 
 TEST_F(ZandicHppTest, AsAsksForAnotherInterface) {

@@ -30,7 +30,7 @@ public:
     }
 
     std::string make_usage(const CLI::App* app, std::string) const override {
-        const std::string_view command = app->get_parent() != nullptr ? app->get_name() : "COMMAND";
+        const std::string command = app->get_parent() != nullptr ? app->get_name() : "COMMAND";
         return fmt::format("\nUsage: zandic [OPTIONS] {} NAME...\n", command);
     }
 };

@@ -3,6 +3,7 @@
 #define HEX_TO_BINARY_H
 
 #include <string>
+#include <string_view>
 
 #include "ZELDbBinary.h"
 #include "ZELString.h"
@@ -20,6 +21,9 @@ ZANDICBASE_API void UuidBinToHexa_V2(unsigned char* bytes, int length, unsigned 
 /// Never refuses: a byte with an invalid or missing digit becomes 0xFF. Of \p text the first 64
 /// characters count. A null argument ends the process.
 ZANDICBASE_API void UuidHexToBinary(ZELString* text, ZELDbBinary* bytes);
+
+/// The same for text that need not end with a zero. \returns the 16 bytes.
+ZANDICBASE_API ZELDbBinary UuidFromText(std::string_view text);
 
 /// \returns the text of a UUID as documents and dumps show it; "UNDEFINED" for one without bytes.
 ZANDICBASE_API std::string UuidText(const ZELDbBinary& uuid);

@@ -92,7 +92,8 @@ public:
     /// Hands the reference over to the caller.
     [[nodiscard]] T* Detach() noexcept { return std::exchange(_Pointer, nullptr); }
 
-    /// For out arguments: gives the reference back, then takes over what the call writes.
+    /// For out arguments of another object's operations: gives the reference back at once, then takes over
+    /// what the call writes.
     T** Out() noexcept {
         Reset();
         return &_Pointer;

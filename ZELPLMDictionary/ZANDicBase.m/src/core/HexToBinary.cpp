@@ -1,6 +1,5 @@
 #include "HexToBinary.h"
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -58,13 +57,11 @@ void UuidBinToHexa_V2(unsigned char* bytes, int length, unsigned char* text, int
     *text = 0;
 }
 
-void UuidHexToBinary(ZELString* text, ZELDbBinary* bytes) {
-    if (text == nullptr) ZELFatalError("AssertionFailed:Hex", "HexToBinary", 122);
-
+ZELDbBinary UuidFromText(std::string_view text) {
     // The zeros behind a short text are no digits, so decoding needs no test of the end. The most that it
     // reads is a dash before each of 16 pairs and one after the last.
     unsigned char buffer[kBufferSize] = {};
-    std::memcpy(buffer, text->View().data(), std::min(text->View().size(), kBufferSize));
+    text.copy(reinterpret_cast<char*>(buffer), kBufferSize);
 
     const unsigned char* next = buffer;
     if (*next == '-') ++next;
@@ -74,10 +71,15 @@ void UuidHexToBinary(ZELString* text, ZELDbBinary* bytes) {
         next += 2;
         if (*next == '-') ++next;
     }
+    return {decoded, kUuidBytes};
+}
 
+void UuidHexToBinary(ZELString* text, ZELDbBinary* bytes) {
+    if (text == nullptr) ZELFatalError("AssertionFailed:Hex", "HexToBinary", 122);
+    const ZELDbBinary decoded = UuidFromText(text->View());
     // Deliberate: tested only after the decoding (HexToBinaryDeathTest.EndsTheProcessWithoutAnOutput).
     if (bytes == nullptr) ZELFatalError("AssertionFailed:Bin", "HexToBinary", 164);
-    *bytes = ZELDbBinary(decoded, kUuidBytes);
+    *bytes = decoded;
 }
 
 std::string UuidText(const ZELDbBinary& uuid) {

@@ -243,7 +243,7 @@ HRESULT ZanDicObj::GetAllOtherAttributes(ZELListValZELUnicodeString& names,
 }
 
 HRESULT ZanDicObj::AddCategory(const OXMIDicCategory* category) {
-    constexpr ZanDicTraceScope trace("ZanDicObj::AddCategory");
+    static constexpr ZanDicTraceScope trace("ZanDicObj::AddCategory");
     trace.Start("=== start === ");
     if (auto line = trace.Line(TraceLevel::Detail)) line << "_Name=" << _Name;
     if (category == nullptr) {
@@ -339,7 +339,9 @@ void ZanDicObj::mark_Gone() {
 
 void ZanDicObj::take_Owned(std::vector<ZanDicObj*>& /*owned*/) {}
 
-void ZanDicObj::drop_Links() {}
+void ZanDicObj::drop_Links() {
+    if (_Rare) _Rare->categories.reset();
+}
 
 std::unique_ptr<ZanDicRareFields> ZanDicObj::new_RareFields() const {
     return std::make_unique<ZanDicRareFields>();

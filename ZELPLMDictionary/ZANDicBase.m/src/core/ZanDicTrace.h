@@ -35,7 +35,16 @@ namespace ZanDicTrace {
 /// listed, so that the common case is decided by this comparison alone.
 extern constinit int threshold;
 
-/// The whole test, reached when the comparison passes.
+/// The first half of the test: whether any operation's line of this level might be written.
+inline bool MayWrite([[maybe_unused]] TraceLevel level) {
+#ifdef ZANDIC_WITHOUT_TRACE  // for measuring what the tests of the trace cost
+    return false;
+#else
+    return static_cast<int>(level) <= threshold;
+#endif
+}
+
+/// The second half, reached when the first passes.
 [[gnu::cold]] bool IsWritten(int level, std::string_view operation);
 
 /// Reads the settings from the environment, once per process; later calls only say what they are.
@@ -111,13 +120,8 @@ public:
         : _Operation(operation), _ExitWord(exitWord) {}
 
     /// Whether a line of this level is written.
-    bool On([[maybe_unused]] TraceLevel level) const {
-#ifdef ZANDIC_WITHOUT_TRACE  // for measuring what the tests of the trace cost
-        return false;
-#else
-        return static_cast<int>(level) <= ZanDicTrace::threshold &&
-               ZanDicTrace::IsWritten(static_cast<int>(level), _Operation);
-#endif
+    bool On(TraceLevel level) const {
+        return ZanDicTrace::MayWrite(level) && ZanDicTrace::IsWritten(static_cast<int>(level), _Operation);
     }
 
     /// Starts a line of the given level.

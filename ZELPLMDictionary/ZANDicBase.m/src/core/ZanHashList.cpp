@@ -147,16 +147,22 @@ private:
     }
 
     int FindEntry(const ZELString& key) const {
+        const std::uint32_t hash = key.ComputeHashKey();  // a name keeps it: cheaper than comparing texts
         if (index.Size() == 0) {
-            int at = first;
-            while (at < End() && (entries[at].object == nullptr || !(entries[at].key == key))) ++at;
-            return at < End() ? at : kNone;
+            for (int at = first; at < End(); ++at) {
+                if (Is(at, hash, key)) return at;
+            }
+            return kNone;
         }
-        const std::uint32_t hash = key.ComputeHashKey();
         for (int slot = Home(hash); index[slot].entry != kNone; slot = Next(slot)) {
             if (index[slot].hash == hash && entries[index[slot].entry].key == key) return index[slot].entry;
         }
         return kNone;
+    }
+
+    bool Is(int at, std::uint32_t hash, const ZELString& key) const {
+        const Entry& entry = entries[at];
+        return entry.object != nullptr && entry.key.ComputeHashKey() == hash && entry.key == key;
     }
 
     int Mask() const { return index.Size() - 1; }
@@ -226,7 +232,7 @@ int ZanHashList::Size() const {
 }
 
 HRESULT ZanHashList::Append(ZanDicObj* object) {
-    constexpr ZanDicTraceScope trace("ZanHashList::Append");
+    static constexpr ZanDicTraceScope trace("ZanHashList::Append");
     trace.Start();
     if (object == nullptr) {
         trace.Error("*** ERROR *** Input argument is NULL");
@@ -244,7 +250,7 @@ HRESULT ZanHashList::Append(ZanDicObj* object) {
 }
 
 HRESULT ZanHashList::Append(const ZanHashList& other) {
-    constexpr ZanDicTraceScope trace("ZanHashList::Append(ZanHashList)");
+    static constexpr ZanDicTraceScope trace("ZanHashList::Append(ZanHashList)");
     trace.Start();
     HRESULT rc = S_OK;
     const int count = other.Size();  // a list may be appended to itself
@@ -253,10 +259,10 @@ HRESULT ZanHashList::Append(const ZanHashList& other) {
 }
 
 HRESULT ZanHashList::Remove(const ZELString& name) {
-    constexpr ZanDicTraceScope trace("ZanHashList::Remove");
+    static constexpr ZanDicTraceScope trace("ZanHashList::Remove");
     trace.Start("=== start === ");
     std::optional<ZanDicObj> probe;  // lives until the exit line is written
-    if (ZanDicObj::shows_Probe()) probe.emplace().SetName(&name);
+    if (ZanDicTrace::MayWrite(TraceLevel::Call) && ZanDicObj::shows_Probe()) probe.emplace().SetName(&name);
 
     const int at = _STORE->Find(name);
     ZanDicObj* const object = at != kNone ? _STORE->entries[at].object : nullptr;
@@ -266,7 +272,7 @@ HRESULT ZanHashList::Remove(const ZELString& name) {
 }
 
 HRESULT ZanHashList::RemoveAll() {
-    constexpr ZanDicTraceScope trace("ZanHashList::RemoveAll");
+    static constexpr ZanDicTraceScope trace("ZanHashList::RemoveAll");
     const auto sizes = [this] {
         const std::string size = std::to_string(Size());
         return "_HASH.Size()=" + size + ", _LISTP.Size()=" + size;
@@ -282,7 +288,7 @@ HRESULT ZanHashList::RemoveAll() {
 }
 
 HRESULT ZanHashList::Search(const ZELString& name, ZanDicObj** found) const {
-    if (ZanDicObj::shows_Probe()) ZanDicObj::make_SharedProbe();
+    if (ZanDicTrace::MayWrite(TraceLevel::Call) && ZanDicObj::shows_Probe()) ZanDicObj::make_SharedProbe();
     const int at = _STORE->Find(name);
     if (at == kNone || found == nullptr) return E_FAIL;
     *found = _STORE->entries[at].object;

@@ -39,8 +39,8 @@ ZELString PackageNameOf(const ZanDicObj& object) {
 /// The trace of what enters and leaves the registry.
 class RegistryTrace {
 public:
-    RegistryTrace(std::string_view operation, const ZanDictionary& manager)
-        : _Scope(operation, kExitWord), _Manager(manager) {
+    RegistryTrace(const ZanDicTraceScope& scope, const ZanDictionary& manager)
+        : _Scope(scope), _Manager(manager) {
         if (auto line = _Scope.Line(TraceLevel::Call)) {
             line << "=== start === _OBJECTS.Size()=" << _Manager.count_Objs();
         }
@@ -75,7 +75,7 @@ public:
     }
 
 private:
-    ZanDicTraceScope _Scope;
+    const ZanDicTraceScope& _Scope;
     const ZanDictionary& _Manager;
 };
 
@@ -118,7 +118,7 @@ ZELMetaClass& ZanDictionary::ClassMeta() {
 }
 
 HRESULT ZanDictionary::Init(int /*reserved*/) {
-    constexpr ZanDicTraceScope trace("ZanDictionary::Init", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::Init", kExitWord);
     trace.Start();
     static const bool isOff = ZELGetEnv("VALKOR_META") == "OFF";
     if (isOff) _LoadingMode = OXMDicPERSISTENT_None;
@@ -126,7 +126,7 @@ HRESULT ZanDictionary::Init(int /*reserved*/) {
 }
 
 HRESULT ZanDictionary::Create() {
-    constexpr ZanDicTraceScope trace("ZanDictionary::Create", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::Create", kExitWord);
     trace.Start();
     if (_PRIMITIVES[0] == nullptr) {
         for (int index = 0; index < kPrimitiveCount; ++index) {
@@ -138,7 +138,7 @@ HRESULT ZanDictionary::Create() {
 }
 
 HRESULT ZanDictionary::End() {
-    constexpr ZanDicTraceScope trace("ZanDictionary::End", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::End", kExitWord);
     trace.Start();
     const std::vector<ZanDicObj*> objects = take_All();
     for (ZanDicObj* const object : objects) object->mark_Gone();
@@ -224,7 +224,8 @@ ZanDicObj* ZanDictionary::find_Obj(const ZELDbBinary& uuid) const {
 }
 
 HRESULT ZanDictionary::Insert(ZanDicObj* object) {
-    const RegistryTrace trace("ZanDictionary::Insert", *this);
+    static constexpr ZanDicTraceScope scope("ZanDictionary::Insert", kExitWord);
+    const RegistryTrace trace(scope, *this);
     if (object == nullptr) return trace.Exit(E_FAIL);
     trace.Say(*object);
     // What is gone has given its owner's reference back, and a primitive's is the manager's: neither may
@@ -240,7 +241,8 @@ HRESULT ZanDictionary::Insert(ZanDicObj* object) {
 }
 
 HRESULT ZanDictionary::Delete(ZanDicObj* object) {
-    const RegistryTrace trace("ZanDictionary::Delete", *this);
+    static constexpr ZanDicTraceScope scope("ZanDictionary::Delete", kExitWord);
+    const RegistryTrace trace(scope, *this);
     if (object == nullptr) return trace.Exit(E_FAIL);
     trace.Say(*object);
     if (!_OBJECTS.RemoveKey(object->Uuid().ComputeHashKey(), object)) return trace.Exit(E_FAIL);
@@ -259,7 +261,7 @@ bool ZanDictionary::keeps_Obj(const ZanDicObj& object) const {
 
 HRESULT ZanDictionary::search_Obj(const ZELDbBinary* uuid, ZanDicObj** object) {
     std::optional<ZanDicObj> probe;
-    if (ZanDicObj::shows_Probe()) probe.emplace();
+    if (ZanDicTrace::MayWrite(TraceLevel::Call) && ZanDicObj::shows_Probe()) probe.emplace();
     if (object == nullptr) return E_FAIL;
     *object = uuid != nullptr ? find_Obj(*uuid) : nullptr;
     return *object != nullptr ? S_OK : E_FAIL;

@@ -25,7 +25,7 @@ ZanDicPackage* ZanDictionary::find_Package(const ZELString& name) const {
 }
 
 HRESULT ZanDictionary::GetPackages(const ZELString* domain, ZELListPtrIUnknown* packages) {
-    constexpr ZanDicTraceScope trace("ZanDictionary::GetPackages (2) - ", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::GetPackages (2) - ", kExitWord);
     if (domain == nullptr || packages == nullptr) return E_FAIL;
     for (int position = 1; position <= _PACKAGES.Size(); ++position) {
         const auto& package = static_cast<const ZanDicPackage&>(*_PACKAGES[position]);
@@ -48,7 +48,7 @@ HRESULT ZanDictionary::GetPackages(ZELListPtrIUnknown* packages) {
 }
 
 HRESULT ZanDictionary::GetPackage(const ZELString* name, OXMIDicPackage** package) {
-    constexpr ZanDicTraceScope trace("ZanDictionary::GetPackage", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::GetPackage", kExitWord);
     if (auto line = trace.Line(TraceLevel::Call)) line << "=== start === Name=" << name;
     HRESULT rc = E_FAIL;
     if (name != nullptr && package != nullptr) {
@@ -71,7 +71,7 @@ HRESULT ZanDictionary::GetPackage(const ZELString* name, OXMIDicPackage** packag
 
 HRESULT ZanDictionary::CreatePackage(const ZELString* name, const ZELDbBinary* uuid, const ZELString* domain,
                                      OXMIDicPackage** package) {
-    constexpr ZanDicTraceScope trace("ZanDictionary::CreatePackage", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::CreatePackage", kExitWord);
     if (auto line = trace.Line(TraceLevel::Call)) line << "=== start === iPackageName=" << name;
     const bool isComplete = name != nullptr && uuid != nullptr && domain != nullptr && package != nullptr;
     if (!isComplete || find_Package(*name) != nullptr) return trace.Exit(E_FAIL);
@@ -109,7 +109,7 @@ HRESULT ZanDictionary::CreatePackage(const ZELString* name, OXMIDicPackage** pac
 }
 
 HRESULT ZanDictionary::RemovePackage(const ZELString* name) {
-    constexpr ZanDicTraceScope trace("ZanDictionary::RemovePackage", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::RemovePackage", kExitWord);
     if (auto line = trace.Line(TraceLevel::Call)) line << "=== start === iName=" << name;
     if (name == nullptr) return trace.Exit(E_FAIL);
 

@@ -56,7 +56,7 @@ HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTEN
 
 HRESULT ZanDictionary::LoadPackage(const ZELString* packageName, OXMDicPERSISTENT mode,
                                    OXMDicCONTENT content) {
-    constexpr ZanDicTraceScope trace("ZanDictionary::LoadPackage", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::LoadPackage", kExitWord);
     trace.Start();
     if (auto line = trace.Line(TraceLevel::Information)) {
         line << "iPackName=" << packageName << ", iMode=" << mode;
@@ -97,7 +97,7 @@ HRESULT ZanDictionary::LoadPackageFromDir(const char* directory, const ZELString
 
 HRESULT ZanDictionary::LoadPackageFromDir(const char* directory, const ZELString* packageName,
                                           OXMDicPERSISTENT mode, OXMDicCONTENT content) {
-    constexpr ZanDicTraceScope trace("ZanDictionary::LoadPackageFromDir", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::LoadPackageFromDir", kExitWord);
     trace.Start();
     SayNames(trace, packageName, directory);
     if (mode < OXMDicPERSISTENT_None || packageName == nullptr) return trace.Exit(E_FAIL);
@@ -110,7 +110,7 @@ HRESULT ZanDictionary::LoadPackageFromDir(const char* directory, const ZELString
 }
 
 HRESULT ZanDictionary::LoadXml(const char* directory, const ZELString* packageName, OXMDicCONTENT content) {
-    constexpr ZanDicTraceScope trace(kLoadXml, kExitWord);
+    static constexpr ZanDicTraceScope trace(kLoadXml, kExitWord);
     trace.Start();
     SayNames(trace, packageName, directory);
     Create();  // a caller who forgot Init gets typed attributes all the same
@@ -134,7 +134,7 @@ HRESULT ZanDictionary::SavePackage(const ZELString* packageName, OXMDicPERSISTEN
 
 HRESULT ZanDictionary::SavePackageToDir(const char* directory, const ZELString* packageName,
                                         OXMDicPERSISTENT mode) {
-    constexpr ZanDicTraceScope trace("ZanDictionary::SavePackageToDir", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::SavePackageToDir", kExitWord);
     trace.Start();
     if (auto line = trace.Line(TraceLevel::Information)) line << "iDirName=" << directory;
     if (auto line = trace.Line(TraceLevel::Information)) line << "iPackName=" << packageName;
@@ -163,7 +163,7 @@ HRESULT ZanDictionary::SavePackageToDir(const char* directory, const ZELString* 
 }
 
 HRESULT ZanDictionary::SaveXml(const char* directory, const ZELString* packageName) {
-    constexpr ZanDicTraceScope trace("ZanDictionary::SaveXml", kExitWord);
+    static constexpr ZanDicTraceScope trace("ZanDictionary::SaveXml", kExitWord);
     trace.Start();
     if (auto line = trace.Line(TraceLevel::Information)) {
         line << "iPackName=" << packageName << ", iDirName=" << directory;

@@ -1,5 +1,6 @@
 #include "OxmDicFromXMLCheck.h"
 
+#include "HexToBinary.h"
 #include "OXMIDicRelationship.h"
 #include "ReaderTexts.h"
 #include "Reading.h"
@@ -93,7 +94,7 @@ private:
 
     bool is_LeftOut(const ZELVBTXMLNode& node) const {
         const auto uuid = node.getAttributeValue(word::kUuid);
-        return !uuid || _Reading.leftOut.Has(UuidOf(*uuid));
+        return !uuid || _Reading.leftOut.Has(UuidFromText(*uuid));
     }
 
     HRESULT ReportWrongTarget(const ZELVBTXMLNode& node, std::string_view target,

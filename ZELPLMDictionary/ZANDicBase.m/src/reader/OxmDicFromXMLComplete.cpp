@@ -3,6 +3,7 @@
 #include <span>
 #include <utility>
 
+#include "HexToBinary.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
 #include "OXMIDicInverse.h"
@@ -138,7 +139,7 @@ HRESULT Resolve(const ReferenceSpot& spot, std::string_view uuidText, const Targ
     using enum ZanDicDiagnosticCode;
 
     Reading& reading = spot.reading;
-    const ZELDbBinary uuid = UuidOf(uuidText);
+    const ZELDbBinary uuid = UuidFromText(uuidText);
     if (reading.leftOut.Has(uuid)) return S_OK;
     ZanDicRef<OXMIDicElementH> found;
     if (Failed(reading.manager.Search(&uuid, found.Out())) || !found) {

@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "AttributeWord.h"
+#include "HexToBinary.h"
 #include "IntegerText.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
@@ -488,7 +489,7 @@ HRESULT FillMember(Reading& reading, const ZanDicTraceScope& trace, const ZELVBT
         return S_OK;
     }
     reading.references = {};
-    return row->read({reading, trace, node, owner, reading.texts.Text(name), UuidOf(*uuid)});
+    return row->read({reading, trace, node, owner, reading.texts.Text(name), UuidFromText(*uuid)});
 }
 
 /// The flag cannot be left out, and has two words only.
@@ -525,7 +526,7 @@ HRESULT FillEnumeratorOf(Reading& reading, const ZanDicTraceScope& trace, const 
     if (Failed(result)) return result;
 
     const ZELString name = reading.texts.Text(nameText);
-    const ZELDbBinary uuid = UuidOf(*uuidText);
+    const ZELDbBinary uuid = UuidFromText(*uuidText);
     ZanDicRef<OXMIDicEnumerator> enumerator;
     if (Failed(owner.CreateEnumerator(&name, &uuid, enumerator.Out())) || !enumerator) {
         ZanDicRef<OXMIDicEnumerator> other;

@@ -4,11 +4,11 @@
 #include <cstdlib>
 #include <utility>
 
-#include "OXMIDicCategory.h"
-#include "OXMIDicEnum.h"
+#include "HexToBinary.h"
 #include "OxmBuildFileName.h"
 #include "OxmDicFromXMLCheck.h"
 #include "OxmDicFromXMLComplete.h"
+#include "OxmDicFromXMLElements.h"
 #include "OxmDicFromXMLFill.h"
 #include "ReaderTexts.h"
 #include "WordList.h"
@@ -40,119 +40,6 @@ std::string FindFile(const char* dirNames, const ZELString& package, const ZELSt
     const std::unique_ptr<char, decltype(&std::free)> owner(fullName, &std::free);
     if (result != nullptr) *result = rc;
     return Succeeded(rc) && fullName != nullptr ? std::string(fullName) : std::string();
-}
-
-// Children of the package.
-
-/// A child of the package on its way to an element.
-struct ElementTag {
-    Reading& reading;
-    const ZELVBTXMLNode& node;
-    ZELString name;
-    ZELDbBinary uuid;
-};
-
-template <class Face>
-using Factory = HRESULT (OXMIDicPackage::*)(const ZELString*, const ZELDbBinary*, Face**);
-
-/// Makes an element by one of the package's factories. \returns E_FAIL when it was not made and registered.
-template <class Face>
-HRESULT CreateElement(const ElementTag& tag, Factory<Face> factory, ZanDicRef<Face>& element) {
-    OXMIDicPackage& package = *tag.reading.package;
-    const HRESULT rc = (package.*factory)(&tag.name, &tag.uuid, element.Out());
-    if (Succeeded(rc) && element) return S_OK;
-
-    ZanDicRef<OXMIDicElement> other;
-    const bool isNameTaken = Succeeded(package.GetElement(&tag.name, other.Out()));
-    return ReportNotCreated(tag.reading, kTrace, tag.node, static_cast<bool>(element), isNameTaken,
-                            Joined({text::kCouldNotCreate, tag.node.getTag(), " ", tag.name.View()}));
-}
-
-/// The line of a handler that failed; its faults are told already.
-void TraceFillFailed(std::string_view kind, std::string_view name) {
-    if (auto line = kTrace.Error()) {
-        line << text::kFillFailed << kind;
-        if (!name.empty()) line << text::kFor << name;
-        line << text::kFailed;
-    }
-}
-
-template <unsigned char IsInstance>
-HRESULT ReadClass(const ElementTag& tag) {
-    ElementNote note{tag.node.Index()};
-    HRESULT rc = CreateElement<OXMIDicClass>(tag, &OXMIDicPackage::CreateClass, note.element);
-    if (Failed(rc)) return rc;
-    note.element->SetInstance(IsInstance);
-    rc = FillClass(tag.reading, tag.node, *note.element, note);
-    tag.reading.elements.push_back(std::move(note));
-    if (Failed(rc)) TraceFillFailed(tag::kClass, tag.name.View());
-    return rc;
-}
-
-HRESULT ReadEnum(const ElementTag& tag) {
-    ZanDicRef<OXMIDicEnum> element;
-    HRESULT rc = CreateElement<OXMIDicEnum>(tag, &OXMIDicPackage::CreateEnum, element);
-    if (Failed(rc)) return rc;
-    rc = FillEnum(tag.reading, tag.node, *element);
-    if (Failed(rc)) TraceFillFailed(tag::kEnum, {});
-    return rc;
-}
-
-HRESULT ReadCategory(const ElementTag& tag) {
-    ZanDicRef<OXMIDicCategory> element;
-    HRESULT rc = CreateElement<OXMIDicCategory>(tag, &OXMIDicPackage::CreateCategory, element);
-    if (Failed(rc)) return rc;
-    rc = FillCategory(tag.reading, tag.node, *element);
-    if (Failed(rc)) TraceFillFailed(tag::kCategory, {});
-    return rc;
-}
-
-HRESULT Refuse(const ElementTag& tag, ZanDicDiagnosticCode code, std::string_view before,
-               std::string_view behind) {
-    Fault fault = FaultOf(tag.reading, code, tag.node);
-    fault.lines.push_back({kTrace, Joined({before, tag.node.getTag(), "[", tag.name.View(), behind})});
-    const HRESULT rc = tag.reading.faults.Report(fault);
-    if (!tag.reading.faults.IsStopped()) tag.reading.leftOut.AddAll(tag.node);
-    return rc;
-}
-
-HRESULT RefuseDeprecated(const ElementTag& tag) {
-    return Refuse(tag, DeprecatedTag, text::kDeprecatedTag, text::kNotSupportedAnyMore);
-}
-
-HRESULT RefuseUnsupported(const ElementTag& tag) {
-    return Refuse(tag, UnsupportedTag, text::kUnsupportedTag, text::kNotSupportedYet);
-}
-
-struct ElementRow {
-    std::string_view name;
-    HRESULT (*read)(const ElementTag&);  ///< null for what no pass looks at
-};
-
-constexpr ElementRow kElementRows[] = {
-    {tag::kClass, ReadClass<0>},
-    {tag::kInstance, ReadClass<1>},
-    {tag::kEnum, ReadEnum},
-    {tag::kCategory, ReadCategory},
-    {tag::kCommand, RefuseDeprecated},
-    {tag::kBObject, RefuseDeprecated},
-    {tag::kExtension, RefuseUnsupported},
-    {tag::kInterface, RefuseUnsupported},
-    {tag::kRBOClass, RefuseUnsupported},
-    {tag::kRBOMapping, RefuseUnsupported},
-    {tag::kComment, nullptr},
-    {tag::kKVAComment, nullptr},
-};
-
-const ElementRow* FindElementRow(std::string_view tagName) {
-    for (const ElementRow& row : kElementRows) {
-        if (row.name == tagName) return &row;
-    }
-    return nullptr;
-}
-
-std::string UnknownTagMessage(const ZELVBTXMLNode& node) {
-    return Joined({text::kUnknownTag, node.getTag(), "[", NameOf(node), text::kSkippingTag});
 }
 
 /// What a later pass meets, at the level of tags.
@@ -393,7 +280,7 @@ void PackageLoad::read_Name() {
 
 void PackageLoad::read_Uuid() {
     if (const auto uuid = _Node.getAttributeValue(word::kUuid)) {
-        _Uuid = UuidOf(*uuid);
+        _Uuid = UuidFromText(*uuid);
         return;
     }
     Fault fault = package_Fault(MissingAttribute);
@@ -537,40 +424,11 @@ PackageLoad::StepResult PackageLoad::add_Commands() { return next_After(Complete
 PackageLoad::StepResult PackageLoad::fill_Elements() {
     for (const ZELVBTXMLNode child : _Node.Children()) {
         TraceTag(0, child);
-        if (!goes_On(fill_Element(child))) return StepResult::Finished;
+        if (!goes_On(FillElement(*_Reading, child))) return StepResult::Finished;
     }
     _NAMES = read_Names(word::kUseScopes, false);
     _NextName = 0;
     return StepResult::Next;
-}
-
-HRESULT PackageLoad::fill_Element(const ZELVBTXMLNode& node) {
-    const ElementRow* const row = FindElementRow(node.getTag());
-    if (row != nullptr && row->read == nullptr) return S_OK;
-
-    HRESULT result = S_OK;
-    const std::string_view name = NameOf(node);
-    const auto uuid = node.getAttributeValue(word::kUuid);
-    for (const std::string_view attribute : {word::kName, word::kUuid}) {
-        if (attribute == word::kName ? !name.empty() : uuid.has_value()) continue;
-        Fault fault = FaultOf(*_Reading, MissingAttribute, node);
-        fault.attributeName = attribute;
-        fault.lines.push_back({kTrace, Joined({text::kCouldNotFindMandatory, attribute})});
-        if (!_Run.faults.GoesOn(_Run.faults.Report(fault), result)) return result;
-    }
-    if (Failed(result)) {
-        _Run.leftOut.AddAll(node);
-        return result;
-    }
-    if (row != nullptr) return row->read({*_Reading, node, _Reading->texts.Text(name), UuidOf(*uuid)});
-
-    Fault fault = FaultOf(*_Reading, UnknownTag, node);
-    fault.severity = ZanDicSeverity::Warning;
-    fault.lines.push_back({kTrace, UnknownTagMessage(node)});
-    _Run.faults.Report(fault);
-    _Reading->elements.push_back({node.Index()});
-    _Reading->elements.back().isUnknown = true;
-    return S_OK;
 }
 
 PackageLoad::StepResult PackageLoad::complete_Elements() {

@@ -90,7 +90,6 @@ private:
     bool is_Self(std::string_view packageName) const;
     StepResult need_Package(std::string_view attributeName, const ZELString& name);
     bool add_Package(std::string_view attributeName, const ZELString& name, bool isScope);
-    HRESULT fill_Element(const ZELVBTXMLNode& node);
     HRESULT complete_Element(const ElementNote& note);
     HRESULT check_Element(const ElementNote& note);
     void read_Tuning();

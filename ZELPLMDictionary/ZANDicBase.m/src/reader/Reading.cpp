@@ -7,14 +7,6 @@
 
 using namespace ZANDicFormat;
 
-ZELDbBinary UuidOf(std::string_view text) {
-    constexpr std::size_t kLongest = 64;  // what is behind does not count
-    ZELString copy(text.substr(0, kLongest));
-    ZELDbBinary uuid;
-    UuidHexToBinary(&copy, &uuid);
-    return uuid;
-}
-
 std::string QualifiedName(OXMIDicElementH& object) {
     std::string qualified;
     ZanDicRef<OXMIDicElement> element;
@@ -42,7 +34,7 @@ void LeftOut::AddAll(const ZELVBTXMLNode& node) {
     while (!open.empty()) {
         const ZELVBTXMLNode next = open.back();
         open.pop_back();
-        if (const auto uuid = next.getAttributeValue(word::kUuid)) Add(UuidOf(*uuid));
+        if (const auto uuid = next.getAttributeValue(word::kUuid)) Add(UuidFromText(*uuid));
         for (const ZELVBTXMLNode child : next.Children()) open.push_back(child);
     }
 }
@@ -79,7 +71,7 @@ HRESULT ReportNotCreated(Reading& reading, const ZanDicTraceScope& trace, const 
                           node);
     if (isHandedOut) {
         fault.attribute = node.getAttribute(word::kUuid);
-        const ZELDbBinary uuid = UuidOf(fault.attribute.Value());
+        const ZELDbBinary uuid = UuidFromText(fault.attribute.Value());
         ZanDicRef<OXMIDicElementH> registered;
         if (Succeeded(reading.manager.Search(&uuid, registered.Out()))) {
             fault.otherParty = QualifiedName(*registered);

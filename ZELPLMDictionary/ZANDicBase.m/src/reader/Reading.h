@@ -19,9 +19,6 @@
 #include "ZELVBTXMLNode.h"
 #include "ZanDicRef.h"
 
-/// \returns the UUID that a text of a document stands for; never refused.
-ZELDbBinary UuidOf(std::string_view text);
-
 /// \returns "Package::Class::attribute" as far as the object has these.
 std::string QualifiedName(OXMIDicElementH& object);
 
