@@ -24,6 +24,7 @@
 template <class Interface>
 class FakeElement : public Interface {
 public:
+    using Interface::GetType;
     FakeElement(OXMDicTYPE type, const char* name, unsigned number)
         : _Type(type), _Name(name), _Uuid(TestUuid(number)) {}
     virtual ~FakeElement() {

@@ -2,7 +2,6 @@
 #define ZELDURABLEFILE_H
 
 #include <cstddef>
-#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -39,8 +38,7 @@ public:
     /// Adds \p bytes at the end. A failure shows when the file is committed.
     void Append(std::string_view bytes) {
         if (bytes.size() >= _Room) return AppendSlowly(bytes);
-        std::memcpy(_End, bytes.data(), bytes.size());
-        _End += bytes.size();
+        _End += bytes.copy(_End, bytes.size());
         _Room -= bytes.size();
     }
     void Append(char byte) {
@@ -54,7 +52,7 @@ public:
     void AppendAll(const Texts&... texts) {
         const std::size_t size = (texts.size() + ...);
         if (size >= _Room) return (AppendSlowly(texts), ...);
-        ((std::memcpy(_End, texts.data(), texts.size()), _End += texts.size()), ...);
+        ((_End += texts.copy(_End, texts.size())), ...);
         _Room -= size;
     }
 

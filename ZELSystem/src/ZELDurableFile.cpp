@@ -235,8 +235,7 @@ void ZELDurableFile::AppendSlowly(std::string_view bytes) {
     while (IsOpen() && _Error == 0 && !bytes.empty()) {
         if (_Room == 0) Flush();
         const std::string_view part = bytes.substr(0, _Room);
-        std::memcpy(_End, part.data(), part.size());
-        _End += part.size();
+        _End += part.copy(_End, part.size());
         _Room -= part.size();
         bytes.remove_prefix(part.size());
     }
