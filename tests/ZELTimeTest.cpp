@@ -38,4 +38,22 @@ TEST(ZELTimeTest, ThePresentLiesBetweenTwoReadingsOfTheClock) {
     EXPECT_TRUE(inOrder(local, latest));
 }
 
+TEST(ZELTimeTest, ABuildHasTheMomentThatTheEnvironmentGivesInUniversalTime) {
+    setenv("TZ", "XYZ-2", 1);
+    setenv("SOURCE_DATE_EPOCH", "951827696", 1);
+    EXPECT_EQ(ZELTime::OfBuild(), (ZELTime{2000, 2, 29, 12, 34, 56}));
+
+    unsetenv("SOURCE_DATE_EPOCH");
+    EXPECT_GT(ZELTime::OfBuild().year, 2000);
+}
+
+TEST(ZELTimeTest, ABuildPassesOverWhatIsNoNumberOfSeconds) {
+    for (const char* const value : {"", "soon", "12 ", "-1", "99999999999999999999", "253402300800"}) {
+        setenv("SOURCE_DATE_EPOCH", value, 1);
+        EXPECT_GT(ZELTime::OfBuild().year, 2000) << value;
+        EXPECT_LT(ZELTime::OfBuild().year, 9999) << value;
+    }
+    unsetenv("SOURCE_DATE_EPOCH");
+}
+
 }  // namespace

@@ -364,21 +364,3 @@ TEST_F(ZanDictionaryStorageTest, SaveXmlNeedsAPath) {
     EXPECT_EQ(Manager().SaveXml(nullptr, &name), E_FAIL);
     EXPECT_EQ(Written(), "ZanDictionary::SaveXml- *** ERROR *** Could not get file path.\n");
 }
-
-TEST_F(ZanDictionaryStorageTest, SaveXmlSaysThatItIsNotThereYet) {
-    MakeDocument();
-    Load("Items");
-
-    EXPECT_EQ(Save(Directory(), "Items", OXMDicPERSISTENT_Xml), E_FAIL);
-    EXPECT_EQ(Written(), "ZanDictionary::SaveXml- *** WARNING *** Functionnality not implemented yet..\n");
-}
-
-TEST_F(ZanDictionaryStorageTest, SaveExpressFailsInSilence) {
-    MakeDocument();
-    Load("Items");
-    const ZELString name = "Items";
-
-    EXPECT_EQ(Manager().SaveExpress(nullptr, &name), E_FAIL);
-    EXPECT_EQ(Save(Directory(), "Items", OXMDicPERSISTENT_Express), E_FAIL);
-    EXPECT_EQ(Written(), "");
-}

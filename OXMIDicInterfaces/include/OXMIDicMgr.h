@@ -96,8 +96,10 @@ public:
     virtual HRESULT SetLoadingMode(OXMDicPERSISTENT mode) = 0;
     virtual HRESULT GetLoadingMode(OXMDicPERSISTENT* mode) = 0;
 
-    /// Writes a loaded package as an EXPRESS schema, or as a package document.
-    /// \returns E_FAIL: not available yet.
+    /// Writes a loaded package as an EXPRESS schema, or as a package document of the content kind that it was
+    /// loaded from. Without a directory the file goes where the package's document is on the search path.
+    /// \returns E_FAIL when the package is not loaded or there is no directory; SaveExpress also when the
+    /// file could not be written. SaveXml tells that by an error line only.
     virtual HRESULT SaveExpress(const char* directory, const ZELString* packageName) = 0;
     virtual HRESULT SaveXml(const char* directory, const ZELString* packageName) = 0;
 

@@ -25,6 +25,11 @@ struct ZELSYSTEM_API ZELTime {
     static ZELTime UtcOf(std::int64_t seconds) noexcept;
     static ZELTime LocalOf(std::int64_t seconds) noexcept;
 
+    /// \returns the moment that the environment variable SOURCE_DATE_EPOCH gives, as seconds after the start
+    /// of 1970, in universal time, so that what bears a date can be made twice the same; where it is not set,
+    /// or is no such number, the present moment in local time.
+    static ZELTime OfBuild();
+
     friend bool operator==(const ZELTime&, const ZELTime&) noexcept = default;
 };
 

@@ -131,6 +131,7 @@ public:
     static constexpr Mode kCollection{17, 4, 4, 52};
     /// \returns the stored number, whatever it is.
     int stored_Mode(const Mode& mode) const;
+    int lost_Links(LinkName link) const override;
 
 protected:
     /// For kinds that may be copied: type, origin and inverses are shared, the scope is a copy.
@@ -138,7 +139,6 @@ protected:
     ZanDicAttribute& operator=(const ZanDicAttribute&) = default;
 
     void drop_Links() override;
-    int count_LostLinks() const override;
     std::unique_ptr<ZanDicRareFields> new_RareFields() const override;
 
 private:

@@ -80,7 +80,7 @@ public:
     /// Marks the block as described. \returns false when it is already, or has a name or attributes.
     bool begin_Description();
 
-    int count_LostLinks() const override;
+    int lost_Links(LinkName link) const override;
 
 protected:
     void drop_Links() override;

@@ -221,10 +221,10 @@ public:
     /// \returns the visible block of a root; null when there is none.
     ZanDicAttributeBlock* find_BlockOfRoot(const ZanDicAttributeBlock& root);
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    int lost_Links(LinkName link) const override;
 
 protected:
     void drop_Links() override;
-    int count_LostLinks() const override;
     std::unique_ptr<ZanDicRareFields> new_RareFields() const override;
 
 private:

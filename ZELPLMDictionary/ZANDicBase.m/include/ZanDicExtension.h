@@ -31,7 +31,7 @@ public:
 
 protected:
     void drop_Links() override;
-    int count_LostLinks() const override;
+    int lost_Links(LinkName link) const override;
 
 private:
     bool _ScopesMade = false;             ///< whether a scope was ever added

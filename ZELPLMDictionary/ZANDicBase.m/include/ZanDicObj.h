@@ -119,6 +119,32 @@ public:
 
     // What follows is for the library itself.
 
+    /// The links that callers set. What the library derives from them (subclasses, answers that it keeps) is
+    /// none.
+    enum class LinkName {
+        SuperClass,  ///< of a class or an interface
+        Reference,   ///< of an instance
+        Type,        ///< what types an attribute or a parameter: primitive, enumeration, target class
+        Inverse,     ///< what an inverse inverts
+        InvertedBy,  ///< the inverses of a relationship
+        Scopes,
+        Members,  ///< of a unique key, of an attribute block
+        Categories,
+        UsedPackages,
+        ScopePackages,
+        Commands,
+        BlockClass,
+        BlockFather,
+        BlockRoot,
+        RBOClass,    ///< what a mapping applies to
+        BaseClass,   ///< of an RBO root or component
+        PathTarget,  ///< last: `kLinkNameCount` counts up to it
+    };
+    static constexpr int kLinkNameCount = static_cast<int>(LinkName::PathTarget) + 1;
+    /// \returns how many links of that name were set and have lost their object since; 0 for a kind of object
+    /// without such a link. Each kind answers for its own links and asks its base for the others.
+    virtual int lost_Links(LinkName link) const;
+
     /// Whether the object was taken out of the dictionary for good.
     bool is_Gone() const { return _Gone; }
     /// Makes links to this object read null, and drops its own links and package (`drop_Links`).
@@ -140,9 +166,6 @@ public:
 protected:
     /// Drops every link that this object holds to others; run when it goes.
     virtual void drop_Links();
-    /// How many of the links that callers set have lost their object. What the library derives from them
-    /// (subclasses, answers that it keeps) does not count. Each kind adds its own to its base's.
-    virtual int count_LostLinks() const;
     /// Makes the rare fields of this kind.
     virtual std::unique_ptr<ZanDicRareFields> new_RareFields() const;
     ZanDicRareFields* rare() const { return _Rare.get(); }

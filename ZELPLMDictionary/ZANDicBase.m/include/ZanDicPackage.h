@@ -130,6 +130,7 @@ public:
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
     /// The last step of the computation of blocks: looks for attributes and names that a class has twice.
     HRESULT check_Blocks() const;
+    int lost_Links(LinkName link) const override;
 
     /// The content kind that the package was loaded from, under which it is saved; metadata unless the reader
     /// says otherwise.
@@ -138,7 +139,6 @@ public:
 
 protected:
     void drop_Links() override;
-    int count_LostLinks() const override;
 
 private:
     template <class Element, class Interface>

@@ -53,7 +53,7 @@ public:
 
 protected:
     void drop_Links() override;
-    int count_LostLinks() const override;
+    int lost_Links(LinkName link) const override;
 
 private:
     ZanDicLink<ZanDicRBOClass> _ApplyToRBOClass;  ///< not owning

@@ -48,7 +48,7 @@ protected:
     ZanDicRBONode(const ZELString& name, const ZELDbBinary& uuid);
 
     void drop_Links() override;
-    int count_LostLinks() const override;
+    int lost_Links(LinkName link) const override;
     const ZanHashList& components() const { return _COMPONENTS; }
     /// The components as the list that the teardown walks. \param operation as the trace names it.
     ZanDicOwnedList components_AsOwned(std::string_view operation) {

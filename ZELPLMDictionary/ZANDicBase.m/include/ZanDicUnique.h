@@ -25,10 +25,10 @@ public:
     /// Appends interfaces, one reference each. \returns the last query's result, S_OK for none; E_FAIL for a
     /// null list.
     HRESULT GetElements(ZELListPtrIUnknown* elements) const;
+    int lost_Links(LinkName link) const override;
 
 protected:
     void drop_Links() override;
-    int count_LostLinks() const override;
 
 private:
     ZanHashList _ELEMENTS;  ///< not owning

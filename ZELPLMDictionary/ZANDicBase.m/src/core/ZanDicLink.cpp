@@ -57,6 +57,7 @@ void ZanDicLinkBase::Lose() noexcept {
     Drop();
     _Place = kLostPlace;
     ++places[kLostPlace].links;
+    ++lostCount;
 }
 
 void ZanDicLinkBase::Drop() noexcept {

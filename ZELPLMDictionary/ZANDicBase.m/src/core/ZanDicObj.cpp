@@ -298,12 +298,13 @@ HRESULT ZanDicObj::GetCategories(ZELListPtrIUnknown* categories) const {
 
 HRESULT ZanDicObj::GetLostLinks(int* count) const {
     if (count == nullptr) return E_FAIL;
-    *count = count_LostLinks();
+    *count = 0;
+    for (int link = 0; link < kLinkNameCount; ++link) *count += lost_Links(static_cast<LinkName>(link));
     return S_OK;
 }
 
-int ZanDicObj::count_LostLinks() const {
-    return _Rare && _Rare->categories ? _Rare->categories->LostCount() : 0;
+int ZanDicObj::lost_Links(LinkName link) const {
+    return link == LinkName::Categories && _Rare && _Rare->categories ? _Rare->categories->LostCount() : 0;
 }
 
 HRESULT ZanDicObj::bind_Interface(OXMDicTYPE type, void** out) const {

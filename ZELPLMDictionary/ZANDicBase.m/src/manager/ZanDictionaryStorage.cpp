@@ -6,9 +6,12 @@
 #include "OXMIDicMgr.h"
 #include "OXMIDicPackage.h"
 #include "OxmDicFromXML.h"
+#include "OxmDicToEXPRESS.h"
+#include "OxmDicToXML.h"
 #include "ZELEnvironment.h"
 #include "ZanDicProfiling.h"
 #include "ZanDicRef.h"
+#include "ZanDicSavePlace.h"
 #include "ZanDicTrace.h"
 #include "ZanDictionary.h"
 
@@ -27,7 +30,7 @@ void SayNames(const ZanDicTraceScope& trace, const ZELString* packageName, const
 /// The directory that the caller gave, or the search path.
 std::optional<std::string> PathOf(const char* directory) {
     if (directory != nullptr) return directory;
-    return ZELGetEnv("ZELDictionaryPath");
+    return ZELGetEnv(kSearchPathVariable);
 }
 
 /// What loading and saving need: the path and the manager. Says which of them is missing.
@@ -166,10 +169,13 @@ HRESULT ZanDictionary::SaveXml(const char* directory, const ZELString* packageNa
         line << "iPackName=" << packageName << ", iDirName=" << directory;
     }
     const Storage storage(trace, directory);
-    if (storage) trace.Warning("*** WARNING *** Functionnality not implemented yet.");
-    return trace.Exit(E_FAIL);
+    if (!storage) return trace.Exit(E_FAIL);
+    // Of a search path the writer takes one directory: the path as a whole is no place for a file.
+    return trace.Exit(OxmDicToXML(storage.manager.Get(), packageName, directory));
 }
 
-HRESULT ZanDictionary::SaveExpress(const char* /*directory*/, const ZELString* /*packageName*/) {
-    return E_FAIL;
+HRESULT ZanDictionary::SaveExpress(const char* directory, const ZELString* packageName) {
+    ZanDicRef<OXMIDicMgr> manager;
+    if (!PathOf(directory) || Failed(GetOXMIDicMgr(manager.Out()))) return E_FAIL;
+    return OxmDicToEXPRESS(manager.Get(), packageName, directory);
 }

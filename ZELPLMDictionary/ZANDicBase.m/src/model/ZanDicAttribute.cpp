@@ -38,6 +38,18 @@ ZanDicAttributeFields& ZanDicAttribute::make_Fields() {
     return static_cast<ZanDicAttributeFields&>(make_Rare());
 }
 
+int ZanDicAttribute::lost_Links(LinkName link) const {
+    if (link == LinkName::Type) return _TypeElement.IsLost() ? 1 : 0;
+    if (fields() == nullptr) return ZanDicElement::lost_Links(link);
+    if (link == LinkName::Inverse) return fields()->inverseOf.IsLost() ? 1 : 0;
+    if (link == LinkName::Scopes) return fields()->scope ? fields()->scope->Classes().LostCount() : 0;
+    if (link != LinkName::InvertedBy) return ZanDicElement::lost_Links(link);
+    int count = fields()->inversesLost;
+    for (const ZanDicLink<ZanDicAttribute>& inverse : fields()->inversedBy)
+        count += static_cast<int>(inverse.IsLost());
+    return count;
+}
+
 void ZanDicAttribute::drop_Links() {
     ZanDicElement::drop_Links();
     ZanDicHierarchy::Changed();
@@ -50,15 +62,6 @@ void ZanDicAttribute::drop_Links() {
     links.inversedBy.clear();
     links.inversesLost = 0;
     links.scope.Reset();
-}
-
-int ZanDicAttribute::count_LostLinks() const {
-    int count = ZanDicElement::count_LostLinks() + static_cast<int>(_TypeElement.IsLost());
-    if (fields() == nullptr) return count;
-    count += static_cast<int>(fields()->inverseOf.IsLost()) + fields()->inversesLost;
-    for (const ZanDicLink<ZanDicAttribute>& link : fields()->inversedBy)
-        count += static_cast<int>(link.IsLost());
-    return fields()->scope ? count + fields()->scope->Classes().LostCount() : count;
 }
 
 HRESULT ZanDicAttribute::SetName(const ZELString* name) {

@@ -240,11 +240,13 @@ bool ZanDicAttributeBlock::begin_Description() {
     return isFirst;
 }
 
-int ZanDicAttributeBlock::count_LostLinks() const {
+int ZanDicAttributeBlock::lost_Links(LinkName link) const {
+    if (link == LinkName::BlockClass) return _Class.IsLost() ? 1 : 0;
+    if (link == LinkName::BlockFather) return _Father.IsLost() ? 1 : 0;
+    if (link == LinkName::BlockRoot) return _Root.IsLost() ? 1 : 0;
     // Inherited attributes are the links of the block that they come from.
-    return ZanDicObj::count_LostLinks() + static_cast<int>(_Class.IsLost()) +
-           static_cast<int>(_Father.IsLost()) + static_cast<int>(_Root.IsLost()) +
-           (_ATTRIBUTES != nullptr ? _ATTRIBUTES->own.LostCount() : 0);
+    if (link == LinkName::Members) return _ATTRIBUTES != nullptr ? _ATTRIBUTES->own.LostCount() : 0;
+    return ZanDicObj::lost_Links(link);
 }
 
 void ZanDicAttributeBlock::drop_Links() {

@@ -70,6 +70,12 @@ void ZanDicClass::take_Owned(std::vector<ZanDicObj*>& owned) {
     members.removed.RemoveAll();
 }
 
+int ZanDicClass::lost_Links(LinkName link) const {
+    if (link == LinkName::SuperClass) return _SuperClass.IsLost() ? 1 : 0;
+    if (link == LinkName::Reference) return _Reference.IsLost() ? 1 : 0;
+    return ZanDicElement::lost_Links(link);
+}
+
 void ZanDicClass::drop_Links() {
     ZanDicElement::drop_Links();
     ZanDicHierarchy::Changed();
@@ -82,11 +88,6 @@ void ZanDicClass::drop_Links() {
     _ALLATTRIBUTES.reset();
     if (rare() != nullptr) make_Fields().blocks.reset();
     forget_Relations();
-}
-
-int ZanDicClass::count_LostLinks() const {
-    return ZanDicElement::count_LostLinks() + static_cast<int>(_SuperClass.IsLost()) +
-           static_cast<int>(_Reference.IsLost());
 }
 
 HRESULT ZanDicClass::Create(const ZELString* name, const ZELDbBinary* uuid, OXMDicTYPE type,

@@ -53,4 +53,7 @@ void ZanDicExtension::drop_Links() {
     _ScopesMade = false;
 }
 
-int ZanDicExtension::count_LostLinks() const { return ZanDicClass::count_LostLinks() + _SCOPES.LostCount(); }
+int ZanDicExtension::lost_Links(LinkName link) const {
+    if (link == LinkName::Scopes) return _SCOPES.LostCount();
+    return ZanDicClass::lost_Links(link);
+}

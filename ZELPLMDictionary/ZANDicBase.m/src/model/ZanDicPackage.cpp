@@ -312,9 +312,11 @@ void ZanDicPackage::take_Owned(std::vector<ZanDicObj*>& owned) {
     _BLOCKS.RemoveAll();
 }
 
-int ZanDicPackage::count_LostLinks() const {
-    return ZanDicObj::count_LostLinks() + _COMMANDS.LostCount() + _USEDPACKAGES.LostCount() +
-           _SCOPEPACKAGES.LostCount();
+int ZanDicPackage::lost_Links(LinkName link) const {
+    if (link == LinkName::UsedPackages) return _USEDPACKAGES.LostCount();
+    if (link == LinkName::ScopePackages) return _SCOPEPACKAGES.LostCount();
+    if (link == LinkName::Commands) return _COMMANDS.LostCount();
+    return ZanDicObj::lost_Links(link);
 }
 
 void ZanDicPackage::drop_Links() {

@@ -41,6 +41,7 @@ void ZanDicParameter::drop_Links() {
     _TypeElement.Reset();
 }
 
-int ZanDicParameter::count_LostLinks() const {
-    return ZanDicElement::count_LostLinks() + static_cast<int>(_TypeElement.IsLost());
+int ZanDicParameter::lost_Links(LinkName link) const {
+    if (link == LinkName::Type) return _TypeElement.IsLost() ? 1 : 0;
+    return ZanDicElement::lost_Links(link);
 }

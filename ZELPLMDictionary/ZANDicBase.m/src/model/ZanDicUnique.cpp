@@ -34,7 +34,9 @@ HRESULT ZanDicUnique::GetElements(ZELListPtrIUnknown* elements) const {
     return AppendInterfaces(_ELEMENTS, elements);
 }
 
-int ZanDicUnique::count_LostLinks() const { return ZanDicElement::count_LostLinks() + _ELEMENTS.LostCount(); }
+int ZanDicUnique::lost_Links(LinkName link) const {
+    return link == LinkName::Members ? _ELEMENTS.LostCount() : ZanDicElement::lost_Links(link);
+}
 
 void ZanDicUnique::drop_Links() {
     ZanDicElement::drop_Links();

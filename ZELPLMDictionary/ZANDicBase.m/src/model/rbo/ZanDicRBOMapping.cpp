@@ -83,6 +83,7 @@ void ZanDicRBOMapping::drop_Links() {
     DropTaken(owned);
 }
 
-int ZanDicRBOMapping::count_LostLinks() const {
-    return ZanDicElement::count_LostLinks() + static_cast<int>(_ApplyToRBOClass.IsLost());
+int ZanDicRBOMapping::lost_Links(LinkName link) const {
+    if (link == LinkName::RBOClass) return _ApplyToRBOClass.IsLost() ? 1 : 0;
+    return ZanDicElement::lost_Links(link);
 }

@@ -61,6 +61,7 @@ void ZanDicRBONode::drop_Links() {
     DropTaken(owned);
 }
 
-int ZanDicRBONode::count_LostLinks() const {
-    return ZanDicElement::count_LostLinks() + static_cast<int>(_BaseClass.IsLost());
+int ZanDicRBONode::lost_Links(LinkName link) const {
+    if (link == LinkName::BaseClass) return _BaseClass.IsLost() ? 1 : 0;
+    return ZanDicElement::lost_Links(link);
 }

@@ -76,6 +76,7 @@ void ZanDicRBOPathExpression::drop_Links() {
     _Target.Reset();
 }
 
-int ZanDicRBOPathExpression::count_LostLinks() const {
-    return ZanDicElement::count_LostLinks() + static_cast<int>(_Target.IsLost());
+int ZanDicRBOPathExpression::lost_Links(LinkName link) const {
+    if (link == LinkName::PathTarget) return _Target.IsLost() ? 1 : 0;
+    return ZanDicElement::lost_Links(link);
 }

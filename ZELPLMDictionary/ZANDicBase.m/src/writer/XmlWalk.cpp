@@ -1,0 +1,83 @@
+#include "XmlWalk.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "WriterTexts.h"
+
+namespace {
+
+constexpr HRESULT kNoElement = -1;
+
+constexpr const XmlKind* kKinds[] = {
+    &kPackageKind,   &kClassKind,        &kExtensionKind,         &kSimpleKind,   &kRelationshipKind,
+    &kInverseKind,   &kUniqueKind,       &kCategoryKind,          &kEnumKind,     &kEnumeratorKind,
+    &kInterfaceKind, &kMethodKind,       &kParameterKind,         &kRBOClassKind, &kRBOMappingKind,
+    &kRBORootKind,   &kRBOComponentKind, &kRBOPathExpressionKind,
+};
+
+/// The kinds by type code; null where a code has none. Made once.
+const XmlKind* KindOf(OXMDicTYPE type) {
+    static const auto kinds = [] {
+        std::array<const XmlKind*, OXMDicTYPE_RBOPathExpression + 1> table{};
+        for (const XmlKind* const kind : kKinds) table[static_cast<std::size_t>(kind->type)] = kind;
+        return table;
+    }();
+    const auto index = static_cast<std::size_t>(type);
+    return index < kinds.size() ? kinds[index] : nullptr;
+}
+
+constexpr ZanDicTraceScope kTrace(writer::kDisplayElement);
+
+}  // namespace
+
+HRESULT XmlWalk::Write(OXMIDicElementH* element) {
+    Enter(element);
+    HRESULT rc = S_OK;
+    while (!_LEVELS.empty()) {
+        Level& level = _LEVELS.back();
+        if (level.next <= level.children.Size()) {
+            const int position = level.next++;
+            if (position > 1) level.children.Drop(position - 1);
+            Enter(static_cast<OXMIDicElementH*>(level.children[position]));
+            continue;
+        }
+        if (level.hasNode) _Document.End();
+        rc = kTrace.Exit(level.rc);
+        _LEVELS.pop_back();
+    }
+    return rc;
+}
+
+/// Begins an element: its attributes are written and its children known after that.
+void XmlWalk::Enter(OXMIDicElementH* element) {
+    kTrace.Start(writer::kStart);
+    Level level;
+    level.hasNode = false;
+    if (element == nullptr) {
+        kTrace.Error(writer::kNullElement);
+        level.rc = kNoElement;
+    } else {
+        ZELString name;
+        OXMDicTYPE type = OXMDicTYPE_UNDEFINED;
+        element->GetName(&name);
+        element->GetType(&type);
+        if (const XmlKind* const kind = KindOf(type)) {
+            WriteNode(*kind, *element, name, level);
+        } else if (auto line = kTrace.Warning()) {
+            line << writer::kUnknownElement << type << writer::kElementName << name;
+        }
+    }
+    _LEVELS.push_back(std::move(level));
+}
+
+void XmlWalk::WriteNode(const XmlKind& kind, OXMIDicElementH& element, const ZELString& name, Level& level) {
+    const ZanDicTraceScope trace(kind.operation);
+    trace.Start();
+    XmlNode node(_Document, _Scratch, trace, kind.tag(element), name);
+    level.rc = kind.write(node, element);
+    level.hasNode = true;
+    if (kind.listChildren != nullptr) kind.listChildren(element, level.children.Out());
+    trace.Exit(level.rc);
+}
