@@ -3,8 +3,8 @@
 
 #include <cstddef>
 
-#include "../tools/zandic/DumpJson.h"
 #include "DictionaryFixture.h"
+#include "DumpJson.h"
 #include "zandic.hpp"
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -48,15 +48,7 @@ protected:
         }
     }
 
-    static std::string Dump() {
-        testing::internal::CaptureStdout();
-        {
-            tool::Output output;
-            tool::DumpJson(zandic::Dictionary::Open(), output);
-            output.Flush();
-        }
-        return testing::internal::GetCapturedStdout();
-    }
+    static std::string Dump() { return tool::DumpText(zandic::Dictionary::Open()); }
 };
 
 TEST_F(ReloadTest, AThousandLoadsGiveTheSameModelAndMemoryStaysFlat) {

@@ -1,6 +1,7 @@
 #include "DumpJson.h"
 
 #include "DumpFields.h"
+#include "MemberNames.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnumerator.h"
 #include "OXMIDicExtension.h"
@@ -274,6 +275,7 @@ constexpr Field<OXMIDicPackage> kPackageFields[] = {
 
 void DumpJson(const zandic::Dictionary& dictionary, Output& output) {
     AskForAllAttributes(dictionary);
+    ForgetMembers();  // of a dump before, when something else was loaded
 
     JsonWriter json(output);
     json.BeginObject();
@@ -287,6 +289,14 @@ void DumpJson(const zandic::Dictionary& dictionary, Output& output) {
     json.EndArray();
     json.EndObject();
     json.End();
+}
+
+std::string DumpText(const zandic::Dictionary& dictionary) {
+    std::string text;
+    Output output(text);
+    DumpJson(dictionary, output);
+    output.Flush();
+    return text;
 }
 
 }  // namespace tool

@@ -1,5 +1,7 @@
 #include "MemberNames.h"
 
+#include <optional>
+
 #include "Model.h"
 #include "OXMIDicInterface.h"
 #include "OXMIDicMethod.h"
@@ -73,9 +75,21 @@ ZELDbBinary MemberNames::OwnerOf(const ZELDbBinary& uuid) const {
     return _ENTRIES[_ENTRIES[found->second].owner].uuid;
 }
 
-const MemberNames& Members() {
-    static const MemberNames names(zandic::Dictionary::Open());
+namespace {
+
+std::optional<MemberNames>& CurrentMembers() {
+    static std::optional<MemberNames> names;
     return names;
 }
+
+}  // namespace
+
+const MemberNames& Members() {
+    std::optional<MemberNames>& names = CurrentMembers();
+    if (!names) names.emplace(zandic::Dictionary::Open());
+    return *names;
+}
+
+void ForgetMembers() { CurrentMembers().reset(); }
 
 }  // namespace tool

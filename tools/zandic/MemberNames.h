@@ -51,6 +51,9 @@ private:
 /// \returns the names of the process, made when they are asked for first: once everything is loaded.
 const MemberNames& Members();
 
+/// Lets the names be made anew when they are asked for next: something else is loaded now.
+void ForgetMembers();
+
 }  // namespace tool
 
 #endif

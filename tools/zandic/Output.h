@@ -7,11 +7,15 @@
 
 namespace tool {
 
-/// Standard output, which carries the tool's data and nothing else: gathered in a buffer, written in large
-/// pieces. After a write that fails everything else is dropped, and the reason is kept.
+/// Standard output, which carries the tool's data and nothing else, or a text in memory in its place:
+/// gathered in a buffer, passed on in large pieces. After a write that fails everything else is dropped, and
+/// the reason is kept.
 class Output {
 public:
     Output() { _Buffer.reserve(kCapacity + kCapacity / 4); }
+
+    /// Appends to \p text, which outlives this; it is complete after a Flush.
+    explicit Output(std::string& text) : _Text(&text) {}
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
 
@@ -29,6 +33,7 @@ public:
 private:
     static constexpr std::size_t kCapacity = 1U << 18U;
 
+    std::string* _Text = nullptr;  ///< null: standard output
     std::string _Buffer;
     std::optional<std::string> _Fault;
 };
