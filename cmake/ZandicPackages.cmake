@@ -20,19 +20,16 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libzandicbase${ZANDIC_SOVERSION})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "Data dictionary of packages, classes and attributes
- Loads packages of classes, attributes, relationships and enumerations from XML
+set(CPACK_DEBIAN_LIBRARY_DESCRIPTION " Loads packages of classes, attributes, relationships and enumerations from XML
  documents, checks them, and answers questions about them.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libzandicbase-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libzandicbase${ZANDIC_SOVERSION} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
-set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "Data dictionary of packages, classes and attributes (development files)
- Headers, and the files by which CMake and pkg-config find the libraries.")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION " Headers, and the files by which CMake and pkg-config find the libraries.")
 set(CPACK_DEBIAN_TOOL_PACKAGE_NAME zandic)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "libzandicbase${ZANDIC_SOVERSION} (= ${PROJECT_VERSION})")
-set(CPACK_DEBIAN_TOOL_DESCRIPTION "Command line tool of the ZANDicBase data dictionary
- Loads, shows, dumps, saves and exports packages.")
+set(CPACK_DEBIAN_TOOL_DESCRIPTION " The command line tool: loads, shows, dumps, saves and exports packages.")
 
 include(CPack)
