@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
@@ -83,6 +84,12 @@ ToolRun ToolTest::OnSample(std::vector<std::string> arguments) const {
 
 ToolRun ToolTest::OnOwn(std::vector<std::string> arguments) const {
     return Run(Joined({"--path", _Own.Path()}, arguments));
+}
+
+int ToolTest::Shell(const std::string& line) {
+    const std::string command = "export TOOL='" ZANDIC_TOOL "' SAMPLES='" ZANDIC_SAMPLES "'; " + line;
+    const int status = std::system(command.c_str());  // NOLINT(concurrency-mt-unsafe,cert-env33-c)
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 void ToolTest::MakePackage(std::string_view name, std::string_view attributes,

@@ -31,6 +31,10 @@ protected:
     /// Run with this test's own documents as the path.
     ToolRun OnOwn(std::vector<std::string> arguments) const;
 
+    /// Runs a line of the shell, with the tool as "$TOOL" and the sample as "$SAMPLES". \returns its exit
+    /// status.
+    static int Shell(const std::string& line);
+
     /// Makes a document of this test: the package tag with the given attributes, around \p content.
     void MakePackage(std::string_view name, std::string_view attributes, std::string_view content) const;
 

@@ -1,8 +1,4 @@
 // Which lines go to which stream, and what becomes of the tool when nobody takes them.
-#include <sys/wait.h>
-
-#include <cstdlib>
-
 #include "ToolRunner.h"
 
 namespace {
@@ -12,13 +8,6 @@ constexpr const char* kUnknownAttribute =
 
 class ToolStreamsTest : public ToolTest {
 protected:
-    /// Runs a line of the shell with the tool as "$TOOL". \returns its exit status.
-    static int Shell(const std::string& line) {
-        const std::string command = "export TOOL='" ZANDIC_TOOL "' SAMPLES='" ZANDIC_SAMPLES "'; " + line;
-        const int status = std::system(command.c_str());  // NOLINT(concurrency-mt-unsafe,cert-env33-c)
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-
     static std::string Data(const ToolRun& run) { return WithoutTimes(run.out); }
 };
 

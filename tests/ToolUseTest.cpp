@@ -41,6 +41,8 @@ TEST_F(ToolUseTest, EachCommandHasItsHelp) {
     EXPECT_EQ(Run({"show", "--help"}).out, ExpectedOutput("help-show.txt"));
     EXPECT_EQ(Run({"blocks", "--help"}).out, ExpectedOutput("help-blocks.txt"));
     EXPECT_EQ(Run({"dump", "-h"}).out, ExpectedOutput("help-dump.txt"));
+    EXPECT_EQ(Run({"save", "--help"}).out, ExpectedOutput("help-save.txt"));
+    EXPECT_EQ(Run({"express", "--help"}).out, ExpectedOutput("help-express.txt"));
     EXPECT_EQ(Run({"dump", "-h"}).status, kDone);
 }
 
@@ -109,6 +111,20 @@ TEST_F(ToolUseTest, DumpWantsToBeAskedForJson) {
     ExpectWrongUse({"dump", "BomItems"}, "dump needs --json (see 'zandic dump --help')");
 }
 
+TEST_F(ToolUseTest, SaveWantsADirectory) {
+    ExpectWrongUse({"save", "BomItems"}, "save needs --to (see 'zandic save --help')");
+    ExpectWrongUse({"save", "--to", "nowhere"}, "NAME is missing (see 'zandic save --help')");
+    ExpectWrongUse({"save", "BomItems", "--to"}, "--to needs a value (see 'zandic save --help')");
+    ExpectWrongUse({"save", "BomItems", "--stdout"},
+                   "there is no option '--stdout' (see 'zandic save --help')");
+}
+
+TEST_F(ToolUseTest, ASchemaGoesToOnePlace) {
+    ExpectWrongUse({"express", "BomItems", "--to", ".", "--stdout"},
+                   "--to and --stdout exclude each other (see 'zandic express --help')");
+    ExpectWrongUse({"load", "BomItems", "--to", "."}, "there is no option '--to' (see 'zandic load --help')");
+}
+
 TEST_F(ToolUseTest, InBelongsToShow) {
     ExpectWrongUse({"load", "BomItems", "--in", "BomPeople"},
                    "load does not know --in (see 'zandic load --help')");
@@ -127,6 +143,8 @@ TEST_F(ToolUseTest, ATuningDocumentIsNotLoadedByItself) {
     ExpectWrongName({"show", "BomItems.tuning"}, "BomItems.tuning" + why);
     ExpectWrongName({"show", "BomItems.tuning::BomPart"}, "BomItems.tuning::BomPart" + why);
     ExpectWrongName({"dump", "--json", "BomItems.tuning"}, "BomItems.tuning" + why);
+    ExpectWrongName({"save", "BomItems.tuning", "--to", Own().Path()}, "BomItems.tuning" + why);
+    ExpectWrongName({"express", "BomItems.tuning", "--stdout"}, "BomItems.tuning" + why);
 }
 
 TEST_F(ToolUseTest, AnElementIsNotLoadedByItself) {

@@ -10,6 +10,13 @@
 
 namespace tool {
 
+/// Where a command writes its files to.
+enum class Files {
+    None,
+    ToDirectory,  ///< --to, which is needed
+    ToAnywhere,   ///< --to, --stdout, or else the present directory
+};
+
 /// One command of the tool. The command line, its help and the dispatch are made from the rows.
 struct Command {
     std::string_view name;
@@ -18,6 +25,7 @@ struct Command {
     std::string_view details;   ///< the rest of its help
     bool takesIn;               ///< knows --in
     bool needsJson;             ///< writes JSON, and must be asked for it
+    Files files;
     void (*run)(Session& session, const Options& options, Output& output);
 };
 
@@ -29,6 +37,8 @@ void RunLoad(Session& session, const Options& options, Output& output);
 void RunShow(Session& session, const Options& options, Output& output);
 void RunBlocks(Session& session, const Options& options, Output& output);
 void RunDump(Session& session, const Options& options, Output& output);
+void RunSave(Session& session, const Options& options, Output& output);
+void RunExpress(Session& session, const Options& options, Output& output);
 
 }  // namespace tool
 

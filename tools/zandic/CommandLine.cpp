@@ -50,21 +50,33 @@ void AddOptions(CLI::App& app, Options& options) {
         ->type_name("NAME")
         ->expected(1, -1);
     app.add_flag("--json", options.json, "JSON: the form in which 'dump' writes");
-    app.add_option("--trace-level", options.traceLevel,
-                   "how much of its work the dictionary tells: 0 errors,\n"
-                   "1 operations, 2 reading, 4 tags, 5 everything")
+    app.add_option("--trace-level", options.traceLevel, "how much the dictionary tells, from 0, errors, to 5")
         ->type_name("N")
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-    app.add_option("--trace-methods", options.traceMethods,
-                   "a list of operations, one a line, to be told of\nwhatever the level")
+    app.add_option("--trace-methods", options.traceMethods, "a list of operations to be told of at any level")
         ->type_name("FILE")
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     app.add_flag("--quiet", options.quiet, "nothing from the dictionary on standard error");
 }
 
+/// The options of commands that write files; they stand behind the command.
+void AddFileOptions(CLI::App& command, Files files, Options& options) {
+    if (files == Files::None) return;
+    const char* const help = files == Files::ToDirectory
+                                 ? "the directory for the documents"
+                                 : "the directory for the schemas, else the present one";
+    command.add_option("--to", options.to, help)
+        ->type_name("DIR")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    if (files == Files::ToAnywhere) {
+        command.add_flag("--stdout", options.toOutput, "write the schemas to standard output");
+    }
+}
+
 void AddCommand(CLI::App& app, const Command& command, Options& options) {
     CLI::App* const added = app.add_subcommand(Text(command.name), Text(command.summary));
     added->add_option("NAME", options.names, Text(command.subjects))->type_name("")->expected(1, -1);
+    AddFileOptions(*added, command.files, options);
     added->group("Commands")->set_help_flag("-h,--help", "show this help and exit");
     added->footer(Text(command.details) + "\nOptions of every command: see 'zandic --help'.");
 }
@@ -92,6 +104,8 @@ std::string WrongOptions(const Command& command, const Options& options) {
         return fmt::format("--trace-level cannot be '{}'", *options.traceLevel);
     }
     if (options.names.empty()) return "NAME is missing";
+    if (command.files == Files::ToDirectory && !options.to) return fmt::format("{} needs --to", command.name);
+    if (options.to && options.toOutput) return "--to and --stdout exclude each other";
     if (command.needsJson && !options.json) return fmt::format("{} needs --json", command.name);
     return "";
 }

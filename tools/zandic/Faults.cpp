@@ -30,6 +30,10 @@ std::string FaultLine(const Fault& fault) {
     return line + "error: " + fault.text;
 }
 
+std::string WarningLine(std::string_view subject, std::string_view text) {
+    return fmt::format("zandic: {}: warning: {}", subject, text);
+}
+
 bool FaultObserver::OnDiagnostic(const ZanDicDiagnostic& diagnostic) {
     PassOn(diagnostic);
     if (diagnostic.Severity() == ZanDicSeverity::Error && !_FirstError) {

@@ -21,6 +21,9 @@ struct Fault {
 /// parts that there are not.
 std::string FaultLine(const Fault& fault);
 
+/// \returns the same form for something that may go on: "zandic: SUBJECT: warning: TEXT".
+std::string WarningLine(std::string_view subject, std::string_view text);
+
 /// Is told the faults of documents. Keeps the first error of a load, which ends it, and passes on what the
 /// trace settings do not let through: a user hears of every fault, once.
 class FaultObserver final : public ZanDicDiagnosticObserver {

@@ -11,6 +11,18 @@ zandic::Handle<OXMIDicPackage> FindPackage(Session& session, const Target& targe
     return package;
 }
 
+std::vector<AskedPackage> FindPackages(Session& session, const std::vector<std::string>& names) {
+    std::vector<AskedPackage> packages;
+    for (const std::string& name : names) {
+        if (auto wrong = WrongPackageName(name)) {
+            session.RejectUse(name, *wrong);
+        } else {
+            packages.push_back({name, FindPackage(session, {name, {}, name, {}, {}})});
+        }
+    }
+    return packages;
+}
+
 zandic::Handle<OXMIDicElement> FindElement(Session& session, OXMIDicPackage& package, const Target& target) {
     auto element = zandic::Find(package, &OXMIDicPackage::GetElement, target.element);
     if (!element) {

@@ -21,6 +21,8 @@ struct Options {
     std::vector<std::string> path;            ///< directories, each maybe several separated by ":"
     std::optional<std::string> traceLevel;    ///< a number
     std::optional<std::string> traceMethods;  ///< a file
+    std::optional<std::string> to;            ///< the directory for files
+    bool toOutput = false;                    ///< standard output takes them
     bool json = false;
     bool quiet = false;
 

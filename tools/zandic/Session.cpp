@@ -98,8 +98,13 @@ void Session::RejectUse(std::string subject, std::string text) {
 
 void Session::Note(const Fault& fault, ExitStatus status) {
     _Status = std::max(_Status, status);
+    Tell(FaultLine(fault));
+}
+
+void Session::Warn(std::string_view subject, std::string_view text) { Tell(WarningLine(subject, text)); }
+
+void Session::Tell(std::string line) {
     // A document that several others need is refused as often, and told once.
-    std::string line = FaultLine(fault);
     if (_TOLD.insert(line).second) _LINES.push_back(std::move(line));
 }
 

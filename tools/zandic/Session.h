@@ -56,11 +56,18 @@ public:
     void Refuse(std::string subject, std::string text);
     void RejectUse(std::string subject, std::string text);
 
+    /// Notes what the user should know though it was done.
+    void Warn(std::string_view subject, std::string_view text);
+
+    /// \returns whether all went well so far.
+    bool IsClean() const { return _Status == ExitStatus::Done; }
+
     /// Unloads everything, then writes a line for each fault: the last lines of the process.
     ExitStatus Close();
 
 private:
     void Note(const Fault& fault, ExitStatus status);
+    void Tell(std::string line);
 
     zandic::Dictionary _Dictionary;
     FaultObserver _Observer;
@@ -69,7 +76,7 @@ private:
     std::string _TraceMethods;
     std::set<std::string, std::less<>> _LOADED;   ///< names asked for that are there
     std::set<std::string, std::less<>> _REFUSED;  ///< names asked for that are not
-    std::vector<std::string> _LINES;              ///< one for each fault
+    std::vector<std::string> _LINES;              ///< one for each fault and warning
     std::set<std::string, std::less<>> _TOLD;     ///< the same
     ExitStatus _Status = ExitStatus::Done;
 };

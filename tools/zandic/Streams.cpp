@@ -6,17 +6,24 @@
 namespace tool {
 namespace {
 
-bool IsFaultOfDocument(const ZELLine& line) {
-    return line.fromDocument &&
-           (line.severity == ZELLineSeverity::Warning || line.severity == ZELLineSeverity::Error);
+bool Passes(const ZELLine& line, LineRule rule) {
+    if (rule == LineRule::All) return true;
+    const bool isError = line.severity == ZELLineSeverity::Error;
+    if (!isError && line.severity != ZELLineSeverity::Warning) return false;
+    switch (rule) {
+        case LineRule::FromDocuments:
+            return line.fromDocument;
+        case LineRule::Errors:
+            return line.fromDocument || isError;
+        default:
+            return rule == LineRule::Faults;
+    }
 }
 
 }  // namespace
 
 void LineFilter::Write(const ZELLine& line) {
-    const bool passes =
-        _Rule == LineRule::All || (_Rule == LineRule::FromDocuments && IsFaultOfDocument(line));
-    if (passes) WriteErrorLine(line.text);
+    if (Passes(line, _Rule)) WriteErrorLine(line.text);
 }
 
 LineFilter& Lines() {

@@ -12,6 +12,8 @@ namespace tool {
 enum class LineRule {
     None,
     FromDocuments,  ///< errors and warnings that the content of a document caused
+    Errors,         ///< these, and all other errors
+    Faults,         ///< these, and all other errors and warnings
     All,
 };
 
@@ -30,6 +32,20 @@ private:
 /// \returns the one filter of the process. It outlives the libraries, whose last lines come when they are
 /// unloaded.
 LineFilter& Lines();
+
+/// While one lives, lines pass by \p rule that are otherwise only passed where documents caused them.
+class LineScope {
+public:
+    explicit LineScope(LineRule rule) : _Before(Lines().Rule()) {
+        if (_Before == LineRule::FromDocuments) Lines().SetRule(rule);
+    }
+    ~LineScope() { Lines().SetRule(_Before); }
+    LineScope(const LineScope&) = delete;
+    LineScope& operator=(const LineScope&) = delete;
+
+private:
+    LineRule _Before;
+};
 
 /// Writes \p line and a newline to standard error.
 void WriteErrorLine(std::string_view line);
