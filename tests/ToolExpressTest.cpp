@@ -77,6 +77,19 @@ TEST_F(ToolExpressTest, RedefinitionsAreMarkedThoughNobodyAskedBefore) {
     EXPECT_NE(run.out.find("    (* -- Specialization : "), run.out.npos);
 }
 
+TEST_F(ToolExpressTest, TheSampleAgreesWithItsDumpByAnIndependentReading) {
+    const std::string names =
+        "BomDocuments BomEffectivity BomItems BomPeople BomServices BomStorage.rbodef BomStorageMap.rbomap "
+        "BomWorkshop";
+
+    EXPECT_EQ(Shell("cd '" + There() + "' && \"$TOOL\" --quiet --path \"$SAMPLES\" express " + names +
+                    " > ../out 2> ../err && \"$TOOL\" --quiet --path \"$SAMPLES\" dump --json " + names +
+                    " > ../dump && \"$SAMPLES/../scripts/check_express\" ../dump *.express > ../checked"),
+              0);
+
+    EXPECT_EQ(LinesIn(TextOf(Own().Path("checked"))), 8) << TextOf(Own().Path("checked"));
+}
+
 TEST_F(ToolExpressTest, ASchemaIsWrittenUnderTheNameOfThePackage) {
     Own().MakeFile("File.metadata", "<Package Name=\"Own\" " + std::string(kPackageUuid) + "/>\n");
 
