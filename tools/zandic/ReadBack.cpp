@@ -65,10 +65,10 @@ std::string FirstDifference(std::string_view saved, std::string_view readBack) {
 }
 
 std::optional<std::string> WrongReadBack(const std::vector<std::string>& names, const std::string& path,
-                                         std::string_view dump, bool mayRefuse) {
+                                         std::string dump, bool mayRefuse) {
     std::vector<std::string> arguments{"--quiet", "--path=" + path, "dump", "--json", "--"};
     arguments.insert(arguments.end(), names.begin(), names.end());
-    const SecondRun run = RunAgain(arguments);
+    SecondRun run = RunAgain(arguments);
     if (!run.isStarted) return "what was saved could not be read back: " + run.err;
     if (!IsEnd(run.status, mayRefuse)) {
         const std::string why = OwnLine(run.err);
@@ -76,10 +76,10 @@ std::optional<std::string> WrongReadBack(const std::vector<std::string>& names, 
                (why.empty() ? fmt::format("exit status {}", run.status) : why);
     }
     if (run.out == dump) return std::nullopt;
-    const std::string saved = Normalised(dump);
-    const std::string readBack = Normalised(run.out);
-    if (saved == readBack) return std::nullopt;
-    return "what was saved reads back as another model: " + FirstDifference(saved, readBack);
+    dump = Normalised(dump);
+    run.out = Normalised(run.out);
+    if (run.out == dump) return std::nullopt;
+    return "what was saved reads back as another model: " + FirstDifference(dump, run.out);
 }
 
 }  // namespace tool

@@ -13,7 +13,7 @@ namespace tool {
 /// \param mayRefuse whether some of the names are known to be refused.
 /// \returns what is wrong, in one line; none when nothing is.
 std::optional<std::string> WrongReadBack(const std::vector<std::string>& names, const std::string& path,
-                                         std::string_view dump, bool mayRefuse);
+                                         std::string dump, bool mayRefuse);
 
 /// \returns where two dumps that differ do so first: the object, and its two lines.
 std::string FirstDifference(std::string_view saved, std::string_view readBack);

@@ -120,12 +120,12 @@ void RunSave(Session& session, const Options& options, Output& output) {
     std::vector<Request> requests;
     for (AskedPackage& each : FindPackages(session, options.names)) requests.push_back({std::move(each), {}});
     const bool mayRefuse = !session.IsClean();
-    const std::string model = DumpText(session.Dictionary());
+    std::string model = DumpText(session.Dictionary());
     const std::vector<std::string> written = SaveAll(session, requests, directory);
     if (written.empty()) return;
 
     const std::string path = directory + ":" + session.Path();
-    if (const auto wrong = WrongReadBack(NamesOf(requests), path, model, mayRefuse)) {
+    if (const auto wrong = WrongReadBack(NamesOf(requests), path, std::move(model), mayRefuse)) {
         return session.Refuse(directory, *wrong);
     }
     for (const std::string& file : written) output.Write(file + "\n");
