@@ -99,6 +99,7 @@ std::vector<std::string> SaveAll(Session& session, std::vector<Request>& request
 /// \returns what a process asks for that is to get the same model from the documents.
 std::vector<std::string> NamesOf(const std::vector<Request>& requests) {
     std::vector<std::string> names;
+    names.reserve(requests.size());
     for (const Request& each : requests) names.push_back(each.document.empty() ? each.asked : each.document);
     return names;
 }

@@ -67,6 +67,7 @@ int Spawn(const std::vector<std::string>& arguments, const Pipe& out, const Pipe
     std::vector<std::string> texts{"zandic"};
     texts.insert(texts.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts) pointers.push_back(text.data());
     pointers.push_back(nullptr);
 
