@@ -24,6 +24,12 @@ protected:
     SaveFixture() { ::setenv("SOURCE_DATE_EPOCH", "951827696", 1); }
     ~SaveFixture() override { ::unsetenv("SOURCE_DATE_EPOCH"); }
 
+    /// \returns the name of a package's document, which is metadata unless \p packageName ends with a "." and
+    /// another content word.
+    static std::string DocumentName(const std::string& packageName) {
+        return packageName.find('.') == std::string::npos ? packageName + ".metadata" : packageName;
+    }
+
     /// Loads a package of the test data.
     HRESULT LoadGood(const char* packageName) { return LoadFrom(ZANDIC_TEST_DATA "/good", packageName); }
 
@@ -36,7 +42,7 @@ protected:
     std::string SavedText(const char* packageName) {
         const ZELString name(packageName);
         EXPECT_EQ(Manager().SaveXml(directory.Path().c_str(), &name), S_OK);
-        return FileText(directory.Path(std::string(packageName) + ".metadata"));
+        return FileText(directory.Path(DocumentName(packageName)));
     }
 
     /// \returns the schema that the export of the package gives.
