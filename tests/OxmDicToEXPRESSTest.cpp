@@ -62,6 +62,13 @@ TEST_F(OxmDicToEXPRESSTest, WritesEveryFormOfLine) {
     EXPECT_EQ(WrittenErrors(), FullNameLine("ExpressPackage"));
 }
 
+TEST_F(OxmDicToEXPRESSTest, ExtensionsAreEntitiesAndOtherKindsAreNone) {
+    ASSERT_EQ(LoadGood("ExpressKinds"), S_OK);
+
+    EXPECT_EQ(ExpressText("ExpressKinds"), Expected("ExpressKinds"));
+    EXPECT_EQ(WrittenErrors(), FullNameLine("ExpressKinds"));
+}
+
 TEST_F(OxmDicToEXPRESSTest, MarksNoRedefinitionThatNobodyAskedFor) {
     ASSERT_EQ(LoadGood("ExpressPackage"), S_OK);
 
