@@ -106,7 +106,9 @@ private:
 TEST_F(OxmDicToXMLRoundTripTest, RandomModelsReadBackAsTheyWere) {
     rc::check([&] {
         StartAnew();
-        MakeRandomModel(Manager());
+        MakeRandomModel(Manager(), [](int count) {
+            return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(0, count));
+        });
         const std::string made = Dump();
         SaveAll(First());
 
