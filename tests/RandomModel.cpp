@@ -1,11 +1,13 @@
 #include "RandomModel.h"
 
 #include <iterator>
+#include <random>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "DictionaryFixture.h"
+#include "HostileText.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicClass.h"
 #include "OXMIDicEnum.h"
@@ -73,46 +75,7 @@ private:
     bool Lose(Loss loss) { return _Drawn == loss && Chance(2); }
 
     std::string HostileText() {
-        static const std::string kHuge(100'000, '&');
-        const char* const pieces[] = {"a",
-                                      "Name",
-                                      " ",
-                                      "  ",
-                                      "\"",
-                                      "'",
-                                      "&",
-                                      "<",
-                                      ">",
-                                      "\t",
-                                      "\n",
-                                      "\r",
-                                      "\r\n",
-                                      "&amp;",
-                                      "&#10;",
-                                      "]]>",
-                                      "--",
-                                      "<!--",
-                                      "<?",
-                                      "=",
-                                      "%",
-                                      "\x7f",
-                                      "\xc2\x85",
-                                      "\xc3\xa9",
-                                      "\xe2\x80\xa8",
-                                      "\xe2\x82\xac",
-                                      "\xef\xbb\xbf",
-                                      "\xf0\x9f\x98\x80",
-                                      "0123456789abcdef",
-                                      ".",
-                                      "/",
-                                      "\\",
-                                      ":",
-                                      ";",
-                                      "{",
-                                      "\\n"};
-        if (Chance(400)) return " " + kHuge + " ";
-        std::string text;
-        for (int count = Draw(6); count > 0; --count) text += pieces[Draw(std::size(pieces))];
+        std::string text = DrawHostileText(_Choice);
         if (Lose(Loss::ForbiddenCharacter)) text += Chance(2) ? "\x01" : "\x80";
         return text;
     }
@@ -181,7 +144,7 @@ private:
         if (Chance(3)) package.SetOtherAttribute("Version", "7");
         int weights = 0;
         for (const KindRow& row : kKinds) weights += row.weight;
-        for (int count = Draw(8); count > 0; --count) {
+        for (int count = Draw(14); count > 0; --count) {
             int place = Draw(weights);
             const KindRow* row = kKinds;
             for (; place >= row->weight; ++row) place -= row->weight;
@@ -349,7 +312,7 @@ private:
         const char* const common[] = {"Common", " Other common "};
         ZELString name = NextName();
         if (kind == 0 && Chance(3)) name = ZELString(common[Draw(2)]);
-        const bool isTarget = kind == 1 && Chance(3);
+        const bool isTarget = kind == 1 && Chance(2);
         if (isTarget) name = ZELString("Target");
         Held<OXMIDicElement> member;
         if (Succeeded(owner.GetClassElement(&name, member.Out()))) return;
@@ -622,11 +585,17 @@ private:
 };
 
 constexpr RandomModel::KindRow RandomModel::kKinds[7] = {
-    {2, &RandomModel::Category},  {2, &RandomModel::Enum},      {6, &RandomModel::Class},
+    {2, &RandomModel::Category},  {2, &RandomModel::Enum},      {8, &RandomModel::Class},
     {3, &RandomModel::Extension}, {2, &RandomModel::Interface}, {1, &RandomModel::RBOClass},
     {2, &RandomModel::RBOMapping}};
 
 }  // namespace
+
+Choice SeededChoice(unsigned seed) {
+    return [numbers = std::minstd_rand(seed)](int count) mutable {
+        return static_cast<int>(numbers() % static_cast<unsigned>(count));
+    };
+}
 
 void MakeRandomModel(OXMIDicMgr& manager, const Choice& choice, std::optional<Loss> drawn) {
     RandomModel(manager, choice, drawn).Make();

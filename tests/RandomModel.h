@@ -11,6 +11,9 @@
 /// Draws a number from 0 to its argument - 1.
 using Choice = std::function<int(int)>;
 
+/// \returns choices that are the same for the same \p seed.
+Choice SeededChoice(unsigned seed);
+
 /// Makes three packages in an initialised, empty dictionary: "Base", "Scope", and "Top", which uses the first
 /// and scopes the second and refers to elements of both; at times "Scope" uses "Base", and "Base" uses "Top"
 /// and refers to elements of it. They have elements of every kind. Names and texts are hostile to writers.
