@@ -6,8 +6,11 @@
 #include <filesystem>
 #include <string>
 
+#include "FakeClass.h"
+#include "FakeDictionary.h"
 #include "HexToBinary.h"
 #include "KindsFixture.h"
+#include "OxmDicToXML.h"
 #include "SaveFixture.h"
 
 namespace {
@@ -254,6 +257,35 @@ TEST_F(OxmDicToXMLLinksTest, ADocumentIsSavedUnderTheNameThatItGivesItsPackage) 
 }
 
 // what only a caller makes
+
+TEST_F(OxmDicToXMLLinksTest, OtherKindsAreToldAndNotWrittenAndInterfacesComeLast) {
+    const Held<FakePlain> block(new FakePlain(OXMDicTYPE_AttributeBlock, "Block", 2));
+    const Held<FakePlain> primitive(new FakePlain(OXMDicTYPE_Primitive, "Primitive", 3));
+    const Held<FakePlain> command(new FakePlain(OXMDicTYPE_Command, "Command", 4));
+    const Held<FakeInterface> element(new FakeInterface("I", 5));
+    const Held<FakeClass> owner(new FakeClass(OXMDicTYPE_Class, "C", 6));
+    FakeManager manager;
+    manager.package.interfaces = {element.Get()};
+    manager.package.elements = {block.Get(), primitive.Get(), command.Get(), owner.Get()};
+    const ZELString name("P");
+    ClearWritten();
+
+    EXPECT_EQ(OxmDicToXML(&manager, &name, directory.Path().c_str()), S_OK);
+
+    const std::string line = "OxmDicToXML:DisplayElement- *** WARNING *** unknown element: type=";
+    EXPECT_EQ(Written(),
+              line + "21, name=Block.\n" + line + "1, name=Primitive.\n" + line + "16, name=Command.\n");
+    const std::string uuid = "\" Uuid=\"00000000-0000-0000-000000000000000";
+    EXPECT_THAT(FileText(directory.Path("P.metadata")),
+                HasSubstr("</Comment>\n"
+                          "  <Class Name=\"C" +
+                          uuid +
+                          "6\" Persistent=\"Yes\" Abstract=\"No\" LateType=\"\"/>\n"
+                          "  <Interface Name=\"I" +
+                          uuid +
+                          "5\"/>\n"
+                          "</Package>\n"));
+}
 
 TEST_F(OxmDicToXMLLinksTest, APrimitiveThatAParameterCannotNameIsLeftOutAndTheDocumentLoads) {
     const Held<OXMIDicInterface> element = Interface(*package, "I");
