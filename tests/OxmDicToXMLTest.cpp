@@ -26,7 +26,9 @@ constexpr const char* kExpected = ZANDIC_TEST_DATA "/expected/xml";
 /// Each document of the test data, saved, gives the expected text.
 class OxmDicToXMLGoldenTest : public SaveFixture, public testing::WithParamInterface<const char*> {
 protected:
-    static std::string Expected() { return FileText(std::string(kExpected) + "/" + DocumentName(GetParam())); }
+    static std::string Expected() {
+        return FileText(std::string(kExpected) + "/" + DocumentName(GetParam()));
+    }
 };
 
 TEST_P(OxmDicToXMLGoldenTest, WritesTheExpectedText) {

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "DictionaryFixture.h"
-#include "HostileText.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicClass.h"
 #include "OXMIDicEnum.h"
@@ -27,6 +26,7 @@
 #include "OXMIDicRelationship.h"
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
+#include "RandomDraws.h"
 #include "ZANDicTags.h"
 
 namespace {
@@ -34,10 +34,10 @@ namespace {
 namespace tag = ZANDicFormat::tag;
 namespace word = ZANDicFormat::word;
 
-class RandomModel {
+class RandomModel : private RandomDraws {
 public:
     RandomModel(OXMIDicMgr& manager, const Choice& choice, std::optional<Loss> drawn)
-        : _Manager(manager), _Choice(choice), _Drawn(drawn) {}
+        : RandomDraws(choice, drawn), _Manager(manager) {}
 
     void Make() {
         _Domain = Lose(Loss::Domain) ? "OTHER" : Chance(4) ? "DUVRA" : "VALKOR";
@@ -65,21 +65,6 @@ private:
         void (RandomModel::*make)(OXMIDicPackage& package);
     };
     static const KindRow kKinds[7];
-
-    // Choices.
-
-    /// \returns a number from 0 to \p count - 1.
-    int Draw(int count) { return _Choice(count); }
-    bool Chance(int oneOf) { return Draw(oneOf) == 0; }
-    /// Whether the model is to have a loss here.
-    bool Lose(Loss loss) { return _Drawn == loss && Chance(2); }
-
-    std::string HostileText() {
-        std::string text = DrawHostileText(_Choice);
-        if (Lose(Loss::ForbiddenCharacter)) text += Chance(2) ? "\x01" : "\x80";
-        return text;
-    }
-    ZELUnicodeString HostileUnicode() { return ZELUnicodeString(HostileText()); }
 
     ZELDbBinary NextUuid() { return TestUuid(++_Number); }
     /// A hostile name that nothing else has.
@@ -153,37 +138,6 @@ private:
     }
 
     // Properties.
-
-    template <class Interface>
-    void Free(std::string_view tagName, Interface& element) {
-        if (!IsSaved(tagName, kFreeProperty)) return;
-        const char* const names[] = {"Owner", "x:y", "\xc3\xa9t\xc3\xa9", "_a", "Z.1", "NAME"};
-        for (int count = Draw(3); count > 0; --count) {
-            element.SetOtherAttribute(ZELUnicodeString(names[Draw(std::size(names))]), HostileUnicode());
-        }
-        if (Lose(Loss::FreeName)) element.SetOtherAttribute(Chance(2) ? "Uuid" : "no name", "x");
-    }
-
-    template <class Interface, class Base>
-    void Text(Interface& element, HRESULT (Base::*setter)(const ZELUnicodeString*)) {
-        if (Chance(2)) return;
-        const ZELUnicodeString text = HostileUnicode();
-        (element.*setter)(&text);
-    }
-    template <class Interface, class Base>
-    void Flag(Interface& element, HRESULT (Base::*setter)(unsigned char)) {
-        if (Chance(2)) (element.*setter)(static_cast<unsigned char>(Draw(2)));
-    }
-    /// A number from \p lowest to \p highest.
-    template <class Word, class Interface, class Base>
-    void Code(Interface& element, HRESULT (Base::*setter)(Word), int highest, int lowest = 1) {
-        if (Chance(2)) (element.*setter)(static_cast<Word>(lowest + Draw(highest - lowest + 1)));
-    }
-    template <class Interface, class Base>
-    void Number(Interface& element, HRESULT (Base::*setter)(int)) {
-        const int numbers[] = {-2147483647 - 1, -1, 0, 1, 2, 250, 2147483647};
-        if (Chance(2)) (element.*setter)(numbers[Draw(std::size(numbers))]);
-    }
 
     /// What every element may have, as far as it is saved.
     void Common(std::string_view tagName, OXMIDicPackage& package, OXMIDicElement& element) {
@@ -567,8 +521,6 @@ private:
     }
 
     OXMIDicMgr& _Manager;
-    const Choice& _Choice;
-    std::optional<Loss> _Drawn;
     const char* _Domain = "";
     unsigned _Number = 0;
     bool _Uses[kPlaces][kPlaces] = {};
