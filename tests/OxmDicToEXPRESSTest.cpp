@@ -7,6 +7,8 @@
 #include <string>
 
 #include "FailingFileCalls.h"
+#include "FakeClass.h"
+#include "FakeDictionary.h"
 #include "OXMIDicClass.h"
 #include "OXMIDicPackage.h"
 #include "OXMIDicPrimitive.h"
@@ -60,6 +62,13 @@ TEST_F(OxmDicToEXPRESSTest, WritesEveryFormOfLine) {
 
     EXPECT_EQ(ExpressText("ExpressPackage"), Expected("ExpressPackage"));
     EXPECT_EQ(WrittenErrors(), FullNameLine("ExpressPackage"));
+}
+
+TEST_F(OxmDicToEXPRESSTest, ExtensionsAreEntitiesAndOtherKindsAreNone) {
+    ASSERT_EQ(LoadGood("ExpressKinds"), S_OK);
+
+    EXPECT_EQ(ExpressText("ExpressKinds"), Expected("ExpressKinds"));
+    EXPECT_EQ(WrittenErrors(), FullNameLine("ExpressKinds"));
 }
 
 TEST_F(OxmDicToEXPRESSTest, MarksNoRedefinitionThatNobodyAskedFor) {
@@ -165,6 +174,40 @@ TEST_F(OxmDicToEXPRESSTest, RefusesNamesThatNoSchemaCanBear) {
                   "ERROR : no schema can be named after Package " + std::string(name) + "\n");
     }
     EXPECT_TRUE(std::filesystem::is_empty(directory.Path()));
+}
+
+TEST_F(OxmDicToEXPRESSTest, TakesAContentWordInTheNameAndWritesThePackagesOwn) {
+    const Held<OXMIDicPackage> package = MakePackage("P");
+
+    EXPECT_EQ(Export("P.metadata", directory.Path()), S_OK);
+
+    EXPECT_THAT(FileText(directory.Path("P.express")), HasSubstr("SCHEMA P ; \n"));
+}
+
+TEST_F(OxmDicToEXPRESSTest, UsedPackagesThatAreGoneAreLeftOut) {
+    const Held<OXMIDicPackage> package = MakePackage("P");
+    package->AddUsedPackage(MakePackage("Gone", 2).Get());
+    package->AddUsedPackage(MakePackage("Kept", 3).Get());
+    const ZELString gone("Gone");
+    ASSERT_EQ(Manager().RemovePackage(&gone), S_OK);
+
+    EXPECT_THAT(ExpressText("P"), HasSubstr("SCHEMA P ; \n\nUSE FROM Kept ;\n\nEND_SCHEMA ;\n"));
+}
+
+TEST_F(OxmDicToEXPRESSTest, ANullUniqueFailsTheExportAndLeavesNoSchema) {
+    const Held<FakeClass> first(new FakeClass(OXMDicTYPE_Class, "First", 2));
+    const Held<FakeClass> second(new FakeClass(OXMDicTYPE_Class, "Second", 3));
+    FakeManager manager;
+    manager.package.classes = {first.Get(), second.Get()};
+    const ZELString name("P");
+    ASSERT_EQ(OxmDicToEXPRESS(&manager, &name, directory.Path().c_str()), S_OK);
+    const std::string whole = FileText(directory.Path("P.express"));
+    second->uniques = {nullptr};
+
+    EXPECT_EQ(OxmDicToEXPRESS(&manager, &name, directory.Path().c_str()), E_FAIL);
+
+    EXPECT_EQ(FileText(directory.Path("P.express")), whole);
+    EXPECT_EQ(WrittenErrors(), FullNameLine("P") + FullNameLine("P"));
 }
 
 TEST_F(OxmDicToEXPRESSTest, AFileThatCannotBeOpenedIsAFailureWithALine) {

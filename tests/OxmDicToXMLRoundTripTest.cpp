@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <string>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "Normalised.h"
 #include "RandomModel.h"
 #include "SaveFixture.h"
+#include "ZANDicValueWords.h"
 #include "ZANDicWords.h"
 #include "zandic.hpp"
 
@@ -106,7 +108,9 @@ private:
 TEST_F(OxmDicToXMLRoundTripTest, RandomModelsReadBackAsTheyWere) {
     rc::check([&] {
         StartAnew();
-        MakeRandomModel(Manager());
+        MakeRandomModel(Manager(), [](int count) {
+            return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(0, count));
+        });
         const std::string made = Dump();
         SaveAll(First());
 
@@ -124,6 +128,49 @@ TEST_F(OxmDicToXMLRoundTripTest, RandomModelsReadBackAsTheyWere) {
         RC_ASSERT(FilesIn(Second()) == FilesIn(First()));
     });
 }
+
+/// Makes the metadata of a package a document of another content kind, and the others ask for that. Their
+/// lists have one name.
+void ChangeContent(const std::string& where, const std::string& package, const std::string& content) {
+    fs::rename(where + "/" + package + ".metadata", where + "/" + package + "." + content);
+    for (const auto& [name, text] : FilesIn(where)) {
+        std::string changed = text;
+        for (const char* const list : {" UseNames=\"", " UseScopes=\""}) {
+            const std::string named = list + package;
+            const std::size_t place = changed.find(named + "\"");
+            if (place != changed.npos) changed.insert(place + named.size(), "." + content);
+        }
+        std::ofstream(where + "/" + name, std::ios::binary) << changed;
+    }
+}
+
+class OxmDicToXMLContentTest : public OxmDicToXMLRoundTripTest,
+                               public testing::WithParamInterface<const char*> {};
+
+TEST_P(OxmDicToXMLContentTest, DocumentsStayOfTheirKind) {
+    for (unsigned seed = 1; seed <= 20; ++seed) {
+        for (const std::string& where : {First(), Second()}) {
+            fs::remove_all(where);
+            fs::create_directory(where);
+        }
+        StartAnew();
+        MakeRandomModel(Manager(), SeededChoice(seed));
+        const std::string made = Dump();
+        SaveAll(First());
+        ChangeContent(First(), "Base", GetParam());
+        ChangeContent(First(), "Scope", GetParam());
+
+        StartAnew();
+        ClearWritten();
+        ASSERT_EQ(LoadFrom(First(), "Top"), S_OK) << Written();
+        EXPECT_EQ(tool::Normalised(Dump()), tool::Normalised(made));
+        SaveAll(Second());
+        EXPECT_EQ(FilesIn(Second()), FilesIn(First()));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, OxmDicToXMLContentTest, testing::Values("rbodef", "rbomap", "metaplm"),
+                         [](const auto& content) { return std::string(content.param); });
 
 TEST_F(OxmDicToXMLRoundTripTest, TheSampleReadsBackAsItWas) {
     ExpectRoundTrip(ZANDIC_SAMPLES, {"BomEffectivity", "BomServices", "BomStorageMap.rbomap", "BomWorkshop"});

@@ -2,16 +2,24 @@
 #ifndef RANDOM_MODEL_H
 #define RANDOM_MODEL_H
 
+#include <functional>
+#include <optional>
+
 #include "OXMIDicMgr.h"
+#include "SaveLosses.h"
+
+/// Draws a number from 0 to its argument - 1.
+using Choice = std::function<int(int)>;
+
+/// \returns choices that are the same for the same \p seed.
+Choice SeededChoice(unsigned seed);
 
 /// Makes three packages in an initialised, empty dictionary: "Base", "Scope", and "Top", which uses the first
-/// and scopes the second and refers to elements of both. Names and texts are hostile to writers. To be called
-/// in a property of RapidCheck, which draws the choices.
+/// and scopes the second and refers to elements of both; at times "Scope" uses "Base", and "Base" uses "Top"
+/// and refers to elements of it. They have elements of every kind. Names and texts are hostile to writers.
 ///
-/// Left out is what documents have no word for: empty names, characters that XML does not allow, visibility
-/// of what is no class or attribute, exposition levels of enumerations, categories and keys, stored numbers
-/// without word, an access mode None and scopes of an inverse, inversions that are set on one side, an
-/// injective flag set after the target, free attributes of relationships.
-void MakeRandomModel(OXMIDicMgr& manager);
+/// Properties that IsSaved denies and what LossRows lists are left out, apart from \p drawn: that loss the
+/// model may have, most often in several places.
+void MakeRandomModel(OXMIDicMgr& manager, const Choice& choice, std::optional<Loss> drawn = {});
 
 #endif

@@ -18,41 +18,50 @@ inline std::string FileText(const std::string& path) {
     return text.str();
 }
 
-/// Saved documents are of 29 February 2000, 12:34:56.
-class SaveFixture : public DictionaryFixture {
+/// Adds to a fixture what saving needs. Saved documents are of 29 February 2000, 12:34:56.
+template <class Fixture>
+class SavingFixture : public Fixture {
 protected:
-    SaveFixture() { ::setenv("SOURCE_DATE_EPOCH", "951827696", 1); }
-    ~SaveFixture() override { ::unsetenv("SOURCE_DATE_EPOCH"); }
+    SavingFixture() { ::setenv("SOURCE_DATE_EPOCH", "951827696", 1); }
+    ~SavingFixture() override { ::unsetenv("SOURCE_DATE_EPOCH"); }
+
+    /// \returns the name of a package's document, which is metadata unless \p packageName ends with a "." and
+    /// another content word.
+    static std::string DocumentName(const std::string& packageName) {
+        return packageName.find('.') == std::string::npos ? packageName + ".metadata" : packageName;
+    }
 
     /// Loads a package of the test data.
     HRESULT LoadGood(const char* packageName) { return LoadFrom(ZANDIC_TEST_DATA "/good", packageName); }
 
     HRESULT LoadFrom(const std::string& path, const char* packageName) {
         const ZELString name(packageName);
-        return Manager().LoadPackageFromDir(path.c_str(), &name, OXMDicPERSISTENT_Xml);
+        return this->Manager().LoadPackageFromDir(path.c_str(), &name, OXMDicPERSISTENT_Xml);
     }
 
     /// \returns the document that saving the package gives.
     std::string SavedText(const char* packageName) {
         const ZELString name(packageName);
-        EXPECT_EQ(Manager().SaveXml(directory.Path().c_str(), &name), S_OK);
-        return FileText(directory.Path(std::string(packageName) + ".metadata"));
+        EXPECT_EQ(this->Manager().SaveXml(directory.Path().c_str(), &name), S_OK);
+        return FileText(directory.Path(DocumentName(packageName)));
     }
 
     /// \returns the schema that the export of the package gives.
     std::string ExpressText(const char* packageName) {
         const ZELString name(packageName);
-        EXPECT_EQ(Manager().SaveExpress(directory.Path().c_str(), &name), S_OK);
+        EXPECT_EQ(this->Manager().SaveExpress(directory.Path().c_str(), &name), S_OK);
         return FileText(directory.Path(std::string(packageName) + ".express"));
     }
 
     /// Empties the dictionary.
     void StartAnew() {
-        Manager().End();
-        Manager().Init(0);
+        this->Manager().End();
+        this->Manager().Init(0);
     }
 
     TestDirectory directory;
 };
+
+using SaveFixture = SavingFixture<DictionaryFixture>;
 
 #endif

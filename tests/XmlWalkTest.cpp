@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "FakeClass.h"
 #include "FakeElements.h"
 #include "OXMIDicPrimitive.h"
 #include "SaveFixture.h"
@@ -13,7 +14,9 @@
 
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 /// UUID texts end with the number of the element.
 std::string Uuid(const char* number) {
@@ -204,6 +207,42 @@ TEST_F(XmlWalkTest, AnElementWithoutItsInterfaceFailsAloneAmongItsSiblings) {
                                          "</RBOMapping>\n");
 
     EXPECT_EQ(result, S_OK);
+}
+
+TEST_F(XmlWalkTest, TheInterfacesOfAClassStandBehindItsFreeAttributes) {
+    const Held<FakeInterface> first(new FakeInterface("I", 0x31));
+    const Held<FakeInterface> second(new FakeInterface("J", 0x32));
+    const Held<FakeClass> element(new FakeClass(OXMDicTYPE_Class, "C", 0x30));
+    element->interfaces = {first.Get(), nullptr, second.Get()};
+    element->free = {{"Free", "f"}, {"InterfaceRefs", "x"}};
+    element->Own(new FakePlain(OXMDicTYPE_Enum, "E", 0x33));
+
+    EXPECT_EQ(TextOf(element.Get()), "<Class Name=\"C\" Uuid=" + Uuid("30") +
+                                         " Persistent=\"Yes\" Abstract=\"No\" LateType=\"\" Free=\"f\" "
+                                         "InterfaceRefs=\"00000000-0000-0000-0000000000000031 "
+                                         "00000000-0000-0000-0000000000000032\">\n"
+                                         "  <Enum/>\n"
+                                         "</Class>\n");
+}
+
+TEST_F(XmlWalkTest, AnExtensionIsToldByItsInterfaceAndAnInstanceByItsFlag) {
+    const Held<FakeClass> element(new FakeClass(OXMDicTYPE_Extension, "C", 0x30));
+
+    EXPECT_THAT(TextOf(element.Get()), StartsWith("<Class "));
+    element->instance = 1;
+    EXPECT_THAT(TextOf(element.Get()), StartsWith("<Instance "));
+    element->instance = 2;
+    EXPECT_THAT(TextOf(element.Get()), StartsWith("<Class "));
+}
+
+TEST_F(XmlWalkTest, ANullAmongTheChildrenIsToldAndPassedOver) {
+    const Held<FakeClass> element(new FakeClass(OXMDicTYPE_Class, "C", 0x30));
+    element->uniques = {nullptr};
+
+    EXPECT_THAT(TextOf(element.Get()), EndsWith("LateType=\"\"/>\n"));
+
+    EXPECT_EQ(result, S_OK);
+    EXPECT_EQ(Written(), "OxmDicToXML:DisplayElement- *** ERROR *** input argument is NULL.\n");
 }
 
 TEST_F(XmlWalkTest, NestsAsDeepAsTheModelDoes) {

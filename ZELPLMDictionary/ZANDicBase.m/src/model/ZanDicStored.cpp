@@ -36,6 +36,8 @@ int StoredAttribute::Mode(StoredMode mode) const {
     return _Attribute != nullptr ? _Attribute->stored_Mode(ModeOf(mode)) : 0;
 }
 
+bool IsOfThisLibrary(const IUnknown& object) { return ImplementationOf(&object) != nullptr; }
+
 int LostLinksOf(const IUnknown& object, ZanDicObj::LinkName link) {
     if (ZanDicLinkBase::LostCount() == 0) return 0;  // nothing was ever lost
     const ZanDicObj* const implementation = ImplementationOf(&object);

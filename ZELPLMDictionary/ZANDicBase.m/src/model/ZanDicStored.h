@@ -30,6 +30,9 @@ inline int StoredModeOf(const IUnknown& attribute, StoredMode mode) {
     return StoredAttribute(attribute).Mode(mode);
 }
 
+/// Whether the object behind \p object is one of this library's own.
+bool IsOfThisLibrary(const IUnknown& object);
+
 /// \returns how many links of that name the object behind \p object has lost.
 int LostLinksOf(const IUnknown& object, ZanDicObj::LinkName link);
 

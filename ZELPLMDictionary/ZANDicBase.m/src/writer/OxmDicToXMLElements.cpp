@@ -131,7 +131,6 @@ HRESULT ExtensionScopes(XmlNode& node, OXMIDicClass& element, std::string_view) 
     return S_OK;
 }
 
-// The interfaces of a class are not asked for: a class has none, and says so with a line of its own.
 constexpr XmlRow<OXMIDicClass> kClassRows[] = {
     {word::kName, emit::Text<&OXMIDicElementH::GetName>},
     {word::kUuid, emit::Uuid},
@@ -148,6 +147,22 @@ constexpr XmlRow<OXMIDicClass> kClassRows[] = {
     {word::kApplicationName, emit::LongText<&OXMIDicClass::GetApplicationName>},
     {word::kScopeRefs, ExtensionScopes},
 };
+
+/// Behind everything else, free attributes too: the interfaces of a class. One of this library has none, and
+/// would say so by a line of its own if it were asked.
+void WriteInterfaceRefs(XmlNode& node, IUnknown& element) {
+    const ZanDicRef<OXMIDicClass> face = As<OXMIDicClass>(element);
+    if (!face || IsOfThisLibrary(element)) return;
+    ZanDicRefList interfaces;
+    face->GetInterfaces(interfaces.Out());
+    emit::UuidList(node, interfaces, interfaces.Size(), word::kInterfaceRefs);
+}
+
+HRESULT WriteClass(XmlNode& node, IUnknown& element) {
+    const HRESULT rc = WriteRows<OXMIDicClass, kClassRows>(node, element);
+    WriteInterfaceRefs(node, element);
+    return rc;
+}
 
 std::string_view ClassTag(IUnknown& element) {
     if (As<OXMIDicExtension>(element)) return tag::kExtension;
@@ -203,10 +218,10 @@ constexpr XmlKind kPackageKind{
     OXMDicTYPE_Package, writer::kDisplayPackage, FixedTag<tag::kPackage>, WritePackage,
     ListChildren<OXMIDicPackage, &OXMIDicPackage::GetElements, &OXMIDicPackage::GetInterfaces>};
 constexpr XmlKind kClassKind{
-    OXMDicTYPE_Class, writer::kDisplayClass, ClassTag, WriteRows<OXMIDicClass, kClassRows>,
+    OXMDicTYPE_Class, writer::kDisplayClass, ClassTag, WriteClass,
     ListChildren<OXMIDicClass, &OXMIDicClass::GetClassElements, &OXMIDicClass::GetUniques>};
 constexpr XmlKind kExtensionKind{
-    OXMDicTYPE_Extension, writer::kDisplayClass, ClassTag, WriteRows<OXMIDicClass, kClassRows>,
+    OXMDicTYPE_Extension, writer::kDisplayClass, ClassTag, WriteClass,
     ListChildren<OXMIDicClass, &OXMIDicClass::GetClassElements, &OXMIDicClass::GetUniques>};
 constexpr XmlKind kUniqueKind{OXMDicTYPE_Unique, writer::kDisplayUnique, FixedTag<tag::kUnique>,
                               WriteRows<OXMIDicUnique, kUniqueRows>, nullptr};

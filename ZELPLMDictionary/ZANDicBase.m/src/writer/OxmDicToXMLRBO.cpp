@@ -14,6 +14,7 @@
 namespace {
 
 using namespace ZANDicFormat;
+using LinkName = ZanDicObj::LinkName;
 
 /// The name of what \p GetLink hands out, else the one that \p GetName gives.
 template <class Target, auto GetLink, auto GetName, class Interface>
@@ -30,8 +31,9 @@ HRESULT LinkedName(XmlNode& node, Interface& element, std::string_view word) {
     return S_OK;
 }
 
-/// The UUID of what \p GetLink hands out, else the one that \p GetRef gives.
-template <class Target, auto GetLink, auto GetRef, class Interface>
+/// The UUID of what \p GetLink hands out, else the one that \p GetRef gives, with a warning when the object
+/// is gone.
+template <class Target, auto GetLink, auto GetRef, LinkName link, class Interface>
 HRESULT LinkedRef(XmlNode& node, Interface& element, std::string_view word) {
     ZanDicRef<Target> target;
     (element.*GetLink)(target.Out());
@@ -40,6 +42,7 @@ HRESULT LinkedRef(XmlNode& node, Interface& element, std::string_view word) {
         uuid = emit::UuidOf(*target);
     } else {
         (element.*GetRef)(&uuid);
+        node.WarnLost(element, link, word, uuid.IsEmpty() ? writer::kLostLink : writer::kLostLinkKept);
     }
     node.Uuid(word, uuid);
     return S_OK;
@@ -56,14 +59,15 @@ constexpr XmlRow<OXMIDicRBOMapping> kMappingRows[] = {
     {word::kApplyToRBOClass, LinkedName<OXMIDicRBOClass, &OXMIDicRBOMapping::GetApplyToRBOClass,
                                         &OXMIDicRBOMapping::GetApplyToRBOClassName>},
     {word::kApplyToRBOClassRef, LinkedRef<OXMIDicRBOClass, &OXMIDicRBOMapping::GetApplyToRBOClass,
-                                          &OXMIDicRBOMapping::GetApplyToRBOClassRef>},
+                                          &OXMIDicRBOMapping::GetApplyToRBOClassRef, LinkName::RBOClass>},
 };
 
 /// The base class of a root or a component.
 template <class Interface>
 inline constexpr XmlRow<Interface> kBaseClassRows[] = {
     {word::kBaseClass, LinkedName<OXMIDicClass, &Interface::GetBaseClass, &Interface::GetBaseClassName>},
-    {word::kBaseClassRef, LinkedRef<OXMIDicClass, &Interface::GetBaseClass, &Interface::GetBaseClassRef>},
+    {word::kBaseClassRef,
+     LinkedRef<OXMIDicClass, &Interface::GetBaseClass, &Interface::GetBaseClassRef, LinkName::BaseClass>},
 };
 
 constexpr XmlRow<OXMIDicRBOComponent> kComponentRows[] = {
@@ -76,7 +80,7 @@ constexpr XmlRow<OXMIDicRBOPathExpression> kPathRows[] = {
     {word::kTargetName, LinkedName<OXMIDicElement, &OXMIDicRBOPathExpression::GetTarget,
                                    &OXMIDicRBOPathExpression::GetTargetName>},
     {word::kTargetRef, LinkedRef<OXMIDicElement, &OXMIDicRBOPathExpression::GetTarget,
-                                 &OXMIDicRBOPathExpression::GetTargetRef>},
+                                 &OXMIDicRBOPathExpression::GetTargetRef, LinkName::PathTarget>},
 };
 
 /// An object of that type code without the interface of its kind has its identity and says so.

@@ -43,7 +43,6 @@ inline constexpr std::string_view kNotWritten = "- *** ERROR *** Could not write
 // the walk
 inline constexpr std::string_view kStart = "=== start === ";
 inline constexpr std::string_view kNullElement = "- *** ERROR *** input argument is NULL";
-inline constexpr std::string_view kNullArgument = "- *** ERROR *** input argument is NULL.";
 inline constexpr std::string_view kUnknownElement = "- *** WARNING *** unknown element: type=";
 inline constexpr std::string_view kElementName = ", name=";
 
@@ -55,6 +54,8 @@ inline constexpr std::string_view kGetSuperInterfaceFailed = "ERROR GetSuperInte
 inline constexpr std::string_view kWarning = "- *** WARNING *** ";
 inline constexpr std::string_view kAttribute = ", attribute ";
 inline constexpr std::string_view kLostLink = ": what it named is no longer loaded; left out";
+inline constexpr std::string_view kLostLinkKept =
+    ": what it named is no longer loaded; written as it was stored";
 inline constexpr std::string_view kReplaced = ": characters that XML does not allow were replaced";
 inline constexpr std::string_view kNotFree = ": it would not be read back as a free attribute; left out";
 inline constexpr std::string_view kNotInList = ": this name cannot stand in a list; left out: ";

@@ -53,8 +53,9 @@ void XmlNode::ListItem(const ZELDbBinary& uuid) {
     if (!uuid.IsEmpty()) ListItem(UuidCharacters(uuid).View());
 }
 
-void XmlNode::WarnLost(const IUnknown& element, ZanDicObj::LinkName link, std::string_view word) {
-    for (int count = LostLinksOf(element, link); count > 0; --count) Warn(word, writer::kLostLink);
+void XmlNode::WarnLost(const IUnknown& element, ZanDicObj::LinkName link, std::string_view word,
+                       std::string_view reason) {
+    for (int count = LostLinksOf(element, link); count > 0; --count) Warn(word, reason);
 }
 
 void XmlNode::Warn(std::string_view word, std::string_view reason, std::string_view more) {

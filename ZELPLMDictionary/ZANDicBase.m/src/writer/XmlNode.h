@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "OXMDicTypes.h"
+#include "WriterTexts.h"
 #include "ZELDbBinary.h"
 #include "ZELString.h"
 #include "ZELVBTXMLWriter.h"
@@ -43,7 +44,8 @@ public:
     }
 
     /// Writes one warning line for each link of that name that \p element has lost.
-    void WarnLost(const IUnknown& element, ZanDicObj::LinkName link, std::string_view word);
+    void WarnLost(const IUnknown& element, ZanDicObj::LinkName link, std::string_view word,
+                  std::string_view reason = writer::kLostLink);
     /// Writes a warning line about an attribute. \param more may be empty.
     void Warn(std::string_view word, std::string_view reason, std::string_view more = {});
 
