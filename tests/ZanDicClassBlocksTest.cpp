@@ -332,6 +332,15 @@ TEST_F(ZanDicClassBlocksTest, AskingASubclassMakesTheDefaultBlocksAbove) {
     EXPECT_EQ(AttributesOf(*made), "length weight ");
 }
 
+TEST_F(ZanDicClassBlocksTest, ARootWithoutAttributesHasAnEmptyDefaultBlock) {
+    const auto bare = Class(*items, "Bare");
+    Held<OXMIDicAttributeBlock> block;
+
+    EXPECT_EQ(bare->GetCBlockForAtt(nullptr, 1, block.Out()), S_OK);
+
+    EXPECT_EQ(AttributesOf(*block), "");
+}
+
 TEST_F(ZanDicClassBlocksTest, WithoutNameAndCreateNothingIsMadeAndTheOutputIsNull) {
     auto* block = reinterpret_cast<OXMIDicAttributeBlock*>(this);
 
