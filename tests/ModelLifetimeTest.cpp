@@ -7,8 +7,6 @@
 
 namespace {
 
-using Rows = std::vector<Held<OXMIDicElementH>>;
-
 class ModelLifetimeTest : public KindsFixture {};
 
 TEST_F(ModelLifetimeTest, NothingIsReadAfterItsEndAndNothingStaysBehind) {
