@@ -167,6 +167,22 @@ TEST_F(ZanDicClassBlocksTest, ARootThatIsSetLaterHidesTheBlockAbove) {
     EXPECT_EQ(BlocksOf(*screw), "Own ");
 }
 
+TEST_F(ZanDicClassBlocksTest, ABlockWhoseRootIsGoneStandsForItself) {
+    const auto tools = Package("Tools");
+    const auto root = Block(*tools, "Root");
+    const auto own = BlockOf(*items, *part, "Own");
+    const auto below = BlockOf(*items, *part, "Below");
+    EXPECT_EQ(own->SetRoot(root.Get()), S_OK);
+    EXPECT_EQ(below->SetRoot(own.Get()), S_OK);
+    EXPECT_EQ(Register(*part, *own), S_OK);
+    EXPECT_EQ(Register(*part, *below), S_OK);
+    EXPECT_EQ(BlocksOf(*part), "Below Own ");
+
+    RemovePackage("Tools");
+
+    EXPECT_EQ(BlocksOf(*part), "Below ");
+}
+
 TEST_F(ZanDicClassBlocksTest, ABlockThatIsGoneIsAbsentAndItsNameFree) {
     const auto tools = Package("Tools");
     const auto root = BlockOf(*items, *part, "Geometry");
