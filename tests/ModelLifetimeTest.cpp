@@ -19,14 +19,22 @@ TEST_F(ModelLifetimeTest, NothingIsReadAfterItsEndAndNothingStaysBehind) {
         const int steps = *rc::gen::inRange(0, 400);
         for (int step = 0; step < steps; ++step) model.Step();
         model.AskEverything();
-        if (*rc::gen::inRange(0, 2) == 0) {
-            RC_ASSERT(Manager().End() == S_OK);
-            model.AskEverything();
-            for (int step = 0; step < 40; ++step) model.Step();
-            model.AskEverything();
-            model.LetGoOfAll();
-        } else {
-            model.LetGoOfAll();
+        switch (*rc::gen::inRange(0, 3)) {
+            case 0:
+                RC_ASSERT(Manager().End() == S_OK);
+                model.AskEverything();
+                for (int step = 0; step < 40; ++step) model.Step();
+                model.AskEverything();
+                model.LetGoOfAll();
+                break;
+            case 1:
+                model.RemoveAllPackages();
+                model.AskEverything();
+                model.LetGoOfAll();
+                RC_ASSERT(ZanDicObj::live_Objects() == before + model.LeftToManager());
+                break;
+            default:
+                model.LetGoOfAll();
         }
         RC_ASSERT(Manager().End() == S_OK);
         RC_ASSERT(ZanDicObj::live_Objects() == before - 9);

@@ -5,8 +5,7 @@
 
 #include <rapidcheck.h>
 
-#include <set>
-#include <string>
+#include <utility>
 #include <vector>
 
 #include "KindsFixture.h"
@@ -212,12 +211,14 @@ private:
 
     /// A block without a root stands for itself.
     static void AssertOneBlockOfEachRoot(const HeldList& blocks) {
-        std::set<OXMIDicElementH*> roots;
+        std::vector<Held<OXMIDicElementH>> roots;  // held: an interface is told by its address
         for (IUnknown* const entry : blocks) {
             const auto block = QueryFor<OXMIDicAttributeBlock>(*entry);
             Held<OXMIDicAttributeBlock> root;
-            IUnknown& standsFor = block->GetRoot(root.Out()) == S_OK ? static_cast<IUnknown&>(*root) : *entry;
-            RC_ASSERT(roots.insert(QueryFor<OXMIDicElementH>(standsFor).Get()).second);
+            const bool hasRoot = block->GetRoot(root.Out()) == S_OK;
+            auto standsFor = QueryFor<OXMIDicElementH>(hasRoot ? static_cast<IUnknown&>(*root) : *entry);
+            for (const auto& other : roots) RC_ASSERT(other.Get() != standsFor.Get());
+            roots.push_back(std::move(standsFor));
         }
     }
 

@@ -60,6 +60,16 @@ public:
 
     void LetGoOfAll() { _HELD.clear(); }
 
+    void RemoveAllPackages() {
+        for (int number = 0; number < kNames; ++number) {
+            const ZELString name = Numbered(number);
+            _Manager.RemovePackage(&name);
+        }
+    }
+
+    /// \returns how many objects of callers only the manager's End gives back.
+    int LeftToManager() const { return _LeftToManager; }
+
 private:
     /// A step, and how often it is taken compared with others.
     struct Row {
@@ -84,7 +94,9 @@ private:
     }
 
     /// Few names, so that they clash.
-    static ZELString AnyName() { return ZELString("N" + std::to_string(Below(12))); }
+    static constexpr int kNames = 12;
+    static ZELString Numbered(int number) { return ZELString("N" + std::to_string(number)); }
+    static ZELString AnyName() { return Numbered(Below(kNames)); }
     /// New ones mostly, but sometimes one that is taken.
     ZELDbBinary AnyUuid() {
         if (Below(10) != 0) ++_LastUuid;
@@ -211,6 +223,7 @@ private:
         const ZELDbBinary uuid = TestUuid(++_LastUuid);
         made->SetUuid(&uuid);
         object.Detach();
+        ++_LeftToManager;
     }
 
     void UseCommand() {
@@ -459,6 +472,7 @@ private:
     OXMIDicMgr& _Manager;
     Rows _HELD;
     unsigned _LastUuid = 1;
+    int _LeftToManager = 0;
 };
 
 #endif
