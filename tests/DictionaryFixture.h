@@ -51,6 +51,9 @@ public:
         if (T* const counted = std::exchange(_Counted, nullptr)) counted->Release();
     }
 
+    /// Leaves the reference to another holder.
+    T* Detach() { return std::exchange(_Counted, nullptr); }
+
     T* Get() const { return _Counted; }
     T* operator->() const { return _Counted; }
     T& operator*() const { return *_Counted; }

@@ -127,6 +127,38 @@ TEST_F(OxmDicFromXMLCompleteRBOTest, AnObjectThatWasNotMadeIsToldAgainWhenTheRea
                           "Mgr->Search, hrc=-2147467259.\n"));
 }
 
+TEST_F(OxmDicFromXMLCompleteRBOTest, AUuidOfAnotherKindIsToldAgainWhenTheReadingGoesOn) {
+    FaultCollector faults;
+
+    EXPECT_EQ(LoadBody(ClassTag("K", 2) + "<RBOClass" + Id("T", 1) + "/><RBOMapping" + Id("M", 3) +
+                       " ApplyToRBOClassRef=\"" + U(1) + "\">" +
+                       Tag("RBORoot", "R", 4, "",
+                           Tag("RBOComponent", "C", 5, "", Tag("RBOPathExpression", "X", 2, Target(1))) +
+                               Tag("RBOComponent", "D", 2, "")) +
+                       Tag("RBORoot", "S", 2, "") + "</RBOMapping>"),
+              E_FAIL);
+
+    EXPECT_EQ(faults.rows.size(), 3U);
+    EXPECT_EQ(LinesOf("OxmDicFromXML:CompleteRBOComponent"),
+              "OxmDicFromXML:CompleteRBOComponent-*** ERROR *** Could not get RBOPathExpression object from "
+              "EH->QueryInterface, hrc=-2147467262.\n");
+    EXPECT_THAT(LinesOf("OxmDicFromXML:CompleteRBORoot"),
+                HasSubstr("Could not get RBOComponent object from EH->QueryInterface, hrc=-2147467262.\n"));
+    EXPECT_THAT(Written(), HasSubstr("OxmDicFromXML:OxmDicFromXML-*** ERROR *** Could not get RBORoot object "
+                                     "from EH->QueryInterface, hrc=-2147467262.\n"));
+}
+
+TEST_F(OxmDicFromXMLCompleteRBOTest, ATakenUuidOfTheSameKindIsToldOnce) {
+    FaultCollector faults;
+
+    EXPECT_EQ(LoadInside(Tag("RBORoot", "R", 4, "",
+                             Tag("RBOComponent", "C", 5, "") + Tag("RBOComponent", "D", 5, ""))),
+              E_FAIL);
+
+    EXPECT_EQ(faults.rows.size(), 1U);
+    EXPECT_EQ(LinesOf("OxmDicFromXML:CompleteRBORoot"), "");
+}
+
 TEST_F(OxmDicFromXMLCompleteRBOTest, TellsStartAndExit) {
     TraceFromNow(1);
 

@@ -241,6 +241,18 @@ TEST_F(OxmDicFromXMLFillRBOTest, DocumentsOfEachContentKindMakePackages) {
     }
 }
 
+TEST_F(OxmDicFromXMLFillRBOTest, ASecondContentKindOfALoadedPackageReadsNothing) {
+    MakePackage("Q", ClassTag("C", 2));
+    Directory().MakeFile("Q.rbodef", "<Package" + Id("Q", 9) + "><RBOClass" + Id("T", 1) + "/></Package>");
+    ASSERT_EQ(Load("Q"), S_OK);
+
+    EXPECT_EQ(Load("Q.rbodef"), S_OK);
+
+    EXPECT_FALSE(Find<OXMIDicRBOClass>(1));
+    EXPECT_TRUE(Find<OXMIDicClass>(2));
+    EXPECT_EQ(Written(), "");
+}
+
 TEST_F(OxmDicFromXMLFillRBOTest, AMappingMayUseThePackageOfItsClasses) {
     Directory().MakeFile("Tables.rbodef",
                          "<Package" + Id("Tables", 8) + "><RBOClass" + Id("T", 1) + "/></Package>");

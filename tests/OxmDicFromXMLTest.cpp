@@ -4,29 +4,18 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <set>
 
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
 #include "ReaderFixture.h"
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
 namespace {
 
 const std::string kData = ZANDIC_TEST_DATA;
-
-/// The name of the package of that number in a chain.
-std::string ChainName(int number) { return std::string("P").append(std::to_string(number)); }
-
-/// The attribute by which a package of a chain uses the one before it.
-std::string UsesOneBefore(int number) {
-    return std::string("UseNames=\"").append(ChainName(number - 1)).append("\"");
-}
 
 class OxmDicFromXMLTest : public ReaderFixture {
 protected:
@@ -35,81 +24,6 @@ protected:
         return OxmDicFromXML(&Manager(), &packageName, Directory().Path().c_str(), content);
     }
 };
-
-// The faulty documents of tests/data/bad, each with its lines beside it and its corrected form.
-
-std::vector<std::string> NamesOfBadDocuments() {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(kData + "/bad")) {
-        if (entry.path().extension() == ".metadata") names.push_back(entry.path().stem().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-class BadDocumentTest : public ReaderFixture, public ::testing::WithParamInterface<std::string> {
-protected:
-    BadDocumentTest() {
-        LoadFrom(kData + "/good", "Base");
-        ClearWritten();
-    }
-
-    HRESULT LoadBad() { return LoadFrom(kDirectories, GetParam()); }
-
-    /// The lines beside the document; "{dirs}" stands for the directories.
-    std::string ExpectedLines() const {
-        std::ifstream file(kData + "/bad/" + GetParam() + ".trace");
-        std::string lines{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-        const std::string placeholder = "{dirs}";
-        if (const auto start = lines.find(placeholder); start != std::string::npos) {
-            lines.replace(start, placeholder.size(), kDirectories);
-        }
-        return lines;
-    }
-
-    const std::string kDirectories = kData + "/bad:" + kData + "/good";
-};
-
-TEST_P(BadDocumentTest, FailsWithItsLinesAndLeavesNothing) {
-    const int objectsBefore = ZanDicObj::live_Objects();
-
-    EXPECT_EQ(LoadBad(), E_FAIL);
-
-    EXPECT_EQ(DocumentLines(), ExpectedLines());
-    EXPECT_NE(DocumentLines(), "");
-    EXPECT_FALSE(IsLoaded(GetParam()));
-    EXPECT_EQ(ZanDicObj::live_Objects(), objectsBefore);
-}
-
-TEST_P(BadDocumentTest, TheCorrectedDocumentLoadsInTheSameProcess) {
-    EXPECT_EQ(LoadBad(), E_FAIL);
-
-    EXPECT_EQ(LoadFrom(kData + "/corrected:" + kData + "/good", GetParam()), S_OK);
-
-    EXPECT_TRUE(IsLoaded(GetParam()));
-}
-
-TEST_P(BadDocumentTest, AnObserverThatGoesOnIsToldEachFaultOnceAndNothingIsLeft) {
-    const int objectsBefore = ZanDicObj::live_Objects();
-    FaultCollector faults;
-
-    EXPECT_EQ(LoadBad(), E_FAIL);
-
-    std::set<std::string> summaries;
-    for (const FaultCollector::Row& row : faults.rows) {
-        EXPECT_EQ(row.severity, ZanDicSeverity::Error) << row.reason;
-        EXPECT_NE(row.reason, "");
-        EXPECT_GT(row.place.line, 0) << row.reason;
-        summaries.insert(row.file + row.reason + std::to_string(row.place.line));
-    }
-    EXPECT_EQ(faults.rows.size(), 1U) << faults.Summary();
-    EXPECT_EQ(summaries.size(), faults.rows.size());
-    EXPECT_FALSE(IsLoaded(GetParam()));
-    EXPECT_EQ(ZanDicObj::live_Objects(), objectsBefore);
-}
-
-INSTANTIATE_TEST_SUITE_P(Documents, BadDocumentTest, ::testing::ValuesIn(NamesOfBadDocuments()),
-                         [](const auto& name) { return name.param; });
 
 // Arguments and names.
 
@@ -303,130 +217,6 @@ TEST_F(OxmDicFromXMLTest, OfAnAttributeOfThePackageGivenTwiceTheFirstCounts) {
     EXPECT_EQ(alias.View(), "first");
 }
 
-// Other packages.
-
-TEST_F(OxmDicFromXMLTest, UsedPackagesAreLoadedFirstAndNoted) {
-    MakePackage("A", ClassTag("CA", 1));
-    MakePackage("B", ClassTag("CB", 2));
-    ASSERT_EQ(LoadBody("", "UseNames=\"  A   B A \""), S_OK);
-
-    HeldList used;
-    Package()->GetUsedPackages(&used);
-    EXPECT_EQ(used.Size(), 2);
-    EXPECT_TRUE(IsLoaded("A"));
-    EXPECT_TRUE(IsLoaded("B"));
-}
-
-TEST_F(OxmDicFromXMLTest, AContentWordSaysWhatToLoad) {
-    Directory().MakeFile("Map.rbodef", "<Package" + Id("Map", 9) + "/>");
-
-    ASSERT_EQ(LoadBody("", "UseNames=\"Map.rbodef Map\""), S_OK);
-
-    HeldList used;
-    Package()->GetUsedPackages(&used);
-    EXPECT_EQ(used.Size(), 1);
-}
-
-TEST_F(OxmDicFromXMLTest, APackageThatListsItselfLoadsOnceAndDoesNotUseItself) {
-    ASSERT_EQ(LoadBody(ClassTag("C", 1), "UseNames=\"P\" UseScopes=\"P\""), S_OK);
-
-    HeldList used;
-    Package()->GetUsedPackages(&used);
-    EXPECT_EQ(used.Size(), 0);
-    EXPECT_EQ(Written(), "");
-}
-
-TEST_F(OxmDicFromXMLTest, PrerequisitesStayLoadedWhenTheirUserFails) {
-    MakePackage("A", ClassTag("CA", 1));
-
-    EXPECT_EQ(LoadBody("<Class Name=\"C\"/>", "UseNames=\"A\""), E_FAIL);
-
-    EXPECT_TRUE(IsLoaded("A"));
-    EXPECT_FALSE(IsLoaded("P"));
-}
-
-TEST_F(OxmDicFromXMLTest, TheFirstPrerequisiteThatFailsEndsTheLoad) {
-    MakePackage("C", "");
-
-    EXPECT_EQ(LoadBody("", "UseNames=\"Missing C\""), E_FAIL);
-
-    EXPECT_FALSE(IsLoaded("C"));
-}
-
-TEST_F(OxmDicFromXMLTest, APrerequisiteIsFoundByTheNameAskedForToo) {
-    Directory().MakeFile("A.metadata", "<Package" + Id("Other", 9) + "/>");
-
-    EXPECT_EQ(LoadBody("", "UseNames=\"A\" UseScopes=\"A\""), S_OK);
-
-    HeldList used;
-    HeldList scopes;
-    Package()->GetUsedPackages(&used);
-    Package()->GetScopePackages(&scopes);
-    EXPECT_EQ(used.Size(), 1);
-    EXPECT_EQ(scopes.Size(), 1);
-    EXPECT_FALSE(IsLoaded("A"));
-}
-
-TEST_F(OxmDicFromXMLTest, APackageIsNotReadAgainUnderTheNameAskedFor) {
-    Directory().MakeFile("A.metadata", "<Package" + Id("Other", 9) + "/>");
-    ASSERT_EQ(Read("A"), S_OK);
-    ClearWritten();
-
-    EXPECT_EQ(Read("A"), S_OK);
-
-    EXPECT_EQ(Written(), "");
-}
-
-TEST_F(OxmDicFromXMLTest, TheNameAskedForIsForgottenWithThePackage) {
-    Directory().MakeFile("A.metadata", "<Package" + Id("Other", 9) + "/>");
-    ASSERT_EQ(Read("A"), S_OK);
-    const ZELString name("Other");
-    ASSERT_EQ(Manager().RemovePackage(&name), S_OK);
-    Directory().MakeFile("A.metadata", "<Package" + Id("A", 8) + "/>");
-
-    EXPECT_EQ(Read("A"), S_OK);
-
-    EXPECT_TRUE(IsLoaded("A"));
-    EXPECT_FALSE(IsLoaded("Other"));
-}
-
-TEST_F(OxmDicFromXMLTest, ScopePackagesAreLoadedBetweenTheFirstPassAndTheSecond) {
-    // A refers to what the first pass of P made, P's second pass to what A made.
-    MakePackage("A", ClassTag("CA", 2, "SuperRef=\"" + U(1) + "\""));
-
-    ASSERT_EQ(LoadBody(ClassTag("C", 1, "ReferenceRef=\"" + U(2) + "\""), "UseScopes=\"A\""), S_OK);
-
-    HeldList scopes;
-    Package()->GetScopePackages(&scopes);
-    EXPECT_EQ(scopes.Size(), 1);
-}
-
-TEST_F(OxmDicFromXMLTest, PackagesThatUseEachOthersScopesLoad) {
-    MakePackage("A", "", "UseScopes=\"P\"");
-
-    EXPECT_EQ(LoadBody("", "UseScopes=\"A\""), S_OK);
-
-    EXPECT_TRUE(IsLoaded("A"));
-}
-
-TEST_F(OxmDicFromXMLTest, AChainOf5000UsedPackagesLoads) {
-    MakePackage(ChainName(0), "");
-    for (int number = 1; number < 5000; ++number) MakePackage(ChainName(number), "", UsesOneBefore(number));
-
-    EXPECT_EQ(Load("P4999"), S_OK);
-
-    EXPECT_TRUE(IsLoaded("P0"));
-}
-
-TEST_F(OxmDicFromXMLTest, AChainOf5000PackagesFailsWithItsLast) {
-    for (int number = 1; number < 5000; ++number) MakePackage(ChainName(number), "", UsesOneBefore(number));
-
-    EXPECT_EQ(Load("P4999"), E_FAIL);
-
-    EXPECT_FALSE(IsLoaded("P4999"));
-    EXPECT_EQ(Lines().size(), 1U);
-}
-
 // Children of the package.
 
 TEST_F(OxmDicFromXMLTest, CommentsAreSkippedByEveryPass) {
@@ -442,6 +232,21 @@ TEST_F(OxmDicFromXMLTest, AnUnknownTagIsSkippedWithALineInEveryPass) {
     const std::string line =
         "OxmDicFromXML:OxmDicFromXML-*** ERROR *** Unkown tag:Gadget[G]; skipping to next tag....\n";
     EXPECT_EQ(Written(), line + line + line);
+    EXPECT_TRUE(Find<OXMIDicClass>(1));
+}
+
+TEST_F(OxmDicFromXMLTest, A100000LevelsOfUnknownTagsAreSkippedWithOneLine) {
+    constexpr int kDepth = 100'000;
+    std::string nest;
+    for (int level = 0; level < kDepth; ++level) nest += "<Gadget" + Id("G", 5) + ">";
+    for (int level = 0; level < kDepth; ++level) nest += "</Gadget>";
+
+    EXPECT_EQ(LoadBody(nest + ClassTag("C", 1)), S_OK);
+
+    EXPECT_EQ(LinesOf("OxmDicFromXML:").size(), 3 * std::string("OxmDicFromXML:OxmDicFromXML-*** ERROR *** "
+                                                                "Unkown tag:Gadget[G]; skipping to next "
+                                                                "tag....\n")
+                                                        .size());
     EXPECT_TRUE(Find<OXMIDicClass>(1));
 }
 
@@ -461,126 +266,6 @@ TEST_F(OxmDicFromXMLTest, InstancesAreMarkedAndClassesAreNot) {
     EXPECT_EQ(isInstance, 0);
     Find<OXMIDicClass>(2)->GetInstance(&isInstance);
     EXPECT_EQ(isInstance, 1);
-}
-
-// Tuning.
-
-TEST_F(OxmDicFromXMLTest, AFaultyTuningDocumentGivesAWarningAndTheLoadStands) {
-    Directory().MakeFile("P.tuning", "<Package/>");
-    FaultCollector faults(false);
-
-    EXPECT_EQ(LoadBody(ClassTag("C", 1)), S_OK);
-
-    EXPECT_TRUE(IsLoaded("P"));
-    EXPECT_EQ(Written(), "OxmDicFromXML:OxmDicFromXML- *** WARNING *** OxmDicFromXML_Tuning(P) failed.\n");
-    ASSERT_EQ(faults.rows.size(), 2U);
-    EXPECT_EQ(faults.rows[1].code, ZanDicDiagnosticCode::TuningFailed);
-    EXPECT_EQ(faults.rows[1].severity, ZanDicSeverity::Warning);
-    EXPECT_EQ(faults.rows[1].file, Directory().Path("P.tuning"));
-}
-
-// Trace and profiling.
-
-TEST_F(OxmDicFromXMLTest, TellsItsStepsAtLevelTwo) {
-    MakePackage("A", "");
-    MakePackage("P", "", "UseNames=\"A\"");
-    TraceFromNow(2);
-
-    ASSERT_EQ(Read("P"), S_OK);
-
-    const auto step = [](std::string_view text) {
-        return "OxmDicFromXML:OxmDicFromXML" + std::string(text) + ".\n";
-    };
-    const auto body = [&](std::string name) {
-        return step("- calling OxmDicFromXML_Tuning(" + name + ")...") +
-               step("- rc[OxmDicFromXML_Tuning(" + name + ")]=OK") +
-               step("-*** INFO *** Releasing Package handle") + step("- === exit (main) === RC=OK");
-    };
-    EXPECT_EQ(LinesOf("OxmDicFromXML:OxmDicFromXML"),
-              step("- === start ===") + step("- rc(OxmBuildFileName)=OK, P") +
-                  step("- metadata file name=" + Directory().Path("P.metadata")) +
-                  step("- calling OxmDicFromXML(A)") + step("- === start ===") +
-                  step("- rc(OxmBuildFileName)=OK, A") +
-                  step("- metadata file name=" + Directory().Path("A.metadata")) + body("A") +
-                  step("- rc(OxmDicFromXML(A))=OK") + body("P"));
-}
-
-TEST_F(OxmDicFromXMLTest, TellsItsArgumentsAtLevelFive) {
-    MakePackage("P", "");
-    TraceFromNow(5);
-
-    ASSERT_EQ(Read("P.metadata", OXMDicCONTENT_rbomap), S_OK);
-
-    EXPECT_THAT(LinesOf("OxmDicFromXML:OxmDicFromXML"),
-                HasSubstr("- PackFileName=P.metadata.\n"
-                          "OxmDicFromXML:OxmDicFromXML- DirNames=" +
-                          Directory().Path() +
-                          ".\n"
-                          "OxmDicFromXML:OxmDicFromXML- iContent=3.\n"
-                          "OxmDicFromXML:OxmDicFromXML- lenExtension=8.\n"
-                          "OxmDicFromXML:OxmDicFromXML- PackName=P.\n"
-                          "OxmDicFromXML:OxmDicFromXML- PackFileExtension=metadata.\n"));
-}
-
-TEST_F(OxmDicFromXMLTest, TellsThatItRemovesAFailedPackage) {
-    MakePackage("P", "<Class Name=\"C\"/>");
-    TraceFromNow(2);
-
-    ASSERT_EQ(Read("P"), E_FAIL);
-
-    EXPECT_THAT(Written(), HasSubstr("-*** INFO *** Removing Package P from dictionary.\n"));
-    EXPECT_THAT(Written(), HasSubstr("=== exit (main) === RC=KO.\n"));
-}
-
-TEST_F(OxmDicFromXMLTest, LinesOfTheCleanUpAreNotTheDocuments) {
-    EXPECT_EQ(LoadBody(ClassTag("C", 1) + "<Class Name=\"D\"/>"), E_FAIL);
-
-    EXPECT_EQ(DocumentLines(),
-              "OxmDicFromXML:OxmDicFromXML-*** ERROR *** Could not find mandatory attribute Uuid.\n");
-    EXPECT_GT(Lines().size(), 1U);
-}
-
-/// Notes the phases told.
-class PhaseNotes final : public ZanDicProfiler {
-public:
-    PhaseNotes() { ZanDicSetProfiler(this); }
-    ~PhaseNotes() { ZanDicSetProfiler(nullptr); }
-    PhaseNotes(const PhaseNotes&) = delete;
-    PhaseNotes& operator=(const PhaseNotes&) = delete;
-    void StepIn(std::string_view operation, std::string_view subject) override {
-        Add("in", operation, subject);
-    }
-    void StepOut(std::string_view operation, std::string_view subject) override {
-        Add("out", operation, subject);
-    }
-    void ResetAll() override {}
-
-    std::vector<std::string> notes;
-
-private:
-    void Add(std::string_view what, std::string_view operation, std::string_view subject) {
-        notes.push_back(std::string(what) + " " + std::string(operation) + " " + std::string(subject));
-    }
-};
-
-TEST_F(OxmDicFromXMLTest, ThePhaseIsClosedWhileAPrerequisiteLoads) {
-    MakePackage("A", "");
-    MakePackage("P", "", "UseNames=\"A\"");
-    const PhaseNotes phases;
-
-    ASSERT_EQ(Read("P"), S_OK);
-
-    EXPECT_THAT(phases.notes,
-                ElementsAre("in OxmDicFromXML P", "out OxmDicFromXML P", "in OxmDicFromXML A",
-                            "out OxmDicFromXML A", "in OxmDicFromXML P", "out OxmDicFromXML P"));
-}
-
-TEST_F(OxmDicFromXMLTest, AFailedLoadClosesItsPhase) {
-    const PhaseNotes phases;
-
-    EXPECT_EQ(Read("Missing"), E_FAIL);
-
-    EXPECT_THAT(phases.notes, ElementsAre("in OxmDicFromXML Missing", "out OxmDicFromXML Missing"));
 }
 
 // Going on after faults.

@@ -47,6 +47,26 @@ TEST_F(RingTuningTest, BlocksExtendEachOtherWhicheverMemberIsAskedFor) {
     }
 }
 
+// The one that is not asked for is created first, so its description stands and the other tuning fails.
+TEST_F(RingTuningTest, ABlockThatTwoMembersDescribeIsTheFirstOnes) {
+    struct {
+        const char* asked;
+        const char* visible;
+    } const rows[] = {{"RA", "Other: a1"}, {"RB", "Sheet: a1"}};
+    for (const auto& [asked, visible] : rows) {
+        Load(ZANDIC_TEST_DATA "/ring/twice", asked);
+
+        EXPECT_EQ(VisibleAttributes("RA", "Base"), visible) << asked;
+        EXPECT_EQ(WrittenErrors(), "ERROR : second valuation of the same AttributeBlock\n") << asked;
+        EXPECT_EQ(Written(),
+                  std::string("OxmDicFromXML:OxmDicFromXML- *** WARNING *** OxmDicFromXML_Tuning(") + asked +
+                      ") failed.\n");
+        Manager().End();
+        Manager().Init(0);
+        ClearWritten();
+    }
+}
+
 TEST_F(RingTuningTest, AFaultyTuningIsItsOwnPackagesFailure) {
     const TestDirectory directory;
     const std::string ring = ZANDIC_TEST_DATA "/ring";

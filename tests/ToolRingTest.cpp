@@ -38,29 +38,67 @@ Json Ordered(Json model) {
     return model;
 }
 
+std::string ClassOf(int member) { return Uuid(member * 10 + 1); }
+std::string BlockOf(int member) { return Uuid(member * 10 + 7); }
+
+/// An element without content.
+std::string Tag(const std::string& tag, const std::string& identity, const std::string& attributes) {
+    return "<" + tag + identity + " " + attributes + "/>";
+}
+std::string Tag(const std::string& tag, const std::string& identity, const std::string& attributes,
+                const std::string& content) {
+    return "<" + tag + identity + " " + attributes + ">" + content + "</" + tag + ">";
+}
+std::string Reference(const std::string& word, const std::string& uuids) {
+    return " " + word + "=\"" + uuids + "\"";
+}
+
 class ToolRingTest : public ToolTest {
 protected:
-    /// A member of a ring of \p count: it uses the next one, or has it among its scope packages; its classes
-    /// lean on those of the member before and of the one behind.
-    void MakeMember(int number, int count, const std::string& useWord) const {
+    /// A member of a ring of \p count: it uses the next one and itself, or has them among its scope packages.
+    /// Its first class C leans on those of the member before and of the one behind, and so does its block;
+    /// its second one D, with a block too, is below the C of the member before.
+    void MakeMember(int number, int count, const std::string& useWord, const std::string& others = "",
+                    const std::string& content = "") const {
         const int next = (number + 1) % count;
         const int before = (number + count - 1) % count;
+        const bool isLast = next == 0;  // where the ring of super classes and of fathers is open
         const std::string name = "M" + std::to_string(number);
-        const auto classOf = [](int member) { return Uuid(member * 10 + 1); };
-        // The ring of super classes is open between the last and the first.
-        const std::string super = next == 0 ? "" : " SuperRef=\"" + classOf(next) + "\"";
+        const auto id = [&](const std::string& text, int offset) { return Id(text, number * 10 + offset); };
+        const std::string own = std::to_string(number);
+        const std::string first =
+            Tag("Simple", id("s" + own, 2), "Type=\"String\"") +
+            Tag("Relationship", id("r" + own, 3),
+                "Injective=\"Yes\"" + Reference("TargetRef", ClassOf(next)) +
+                    Reference("ScopeRefs", ClassOf(before) + " " + ClassOf(number))) +
+            Tag("Inverse", id("i" + own, 4),
+                Reference("TargetRef", ClassOf(before)) + Reference("InverseOfRef", Uuid(before * 10 + 3)));
         Own().MakeFile(
             name + ".metadata",
-            "<Package" + Id(name, number * 10) + " " + useWord + "=\"M" + std::to_string(next) + " " + name +
-                "\">" + "<Class" + Id("C" + std::to_string(number), number * 10 + 1) +
-                " Persistent=\"Yes\" Extensible=\"Yes\"" + super + " ReferenceRef=\"" + classOf(before) +
-                "\">" + "<Simple" + Id("s", number * 10 + 2) + " Type=\"String\"/>" + "<Relationship" +
-                Id("r" + std::to_string(number), number * 10 + 3) + " Injective=\"Yes\" TargetRef=\"" +
-                classOf(next) + "\" ScopeRefs=\"" + classOf(before) + " " + classOf(number) + "\"/>" +
-                "<Inverse" + Id("i" + std::to_string(number), number * 10 + 4) + " TargetRef=\"" +
-                classOf(before) + "\" InverseOfRef=\"" + Uuid(before * 10 + 3) + "\"/></Class>" +
-                "<Extension" + Id("E" + std::to_string(number), number * 10 + 5) +
-                " Persistent=\"No\" ScopeRefs=\"" + classOf(next) + " " + classOf(before) + "\"/></Package>");
+            Tag("Package", id(name, 0), useWord + "=\"M" + std::to_string(next) + " " + name + others + "\"",
+                Tag("Class", id("C" + own, 1),
+                    "Persistent=\"Yes\" Extensible=\"Yes\"" + Reference("ReferenceRef", ClassOf(before)) +
+                        (isLast ? "" : Reference("SuperRef", ClassOf(next))),
+                    first) +
+                    Tag("Class", id("D" + own, 6),
+                        "Persistent=\"Yes\"" + Reference("SuperRef", ClassOf(before)),
+                        Tag("Simple", id("t", 8), "Type=\"String\"")) +
+                    Tag("Extension", id("E" + own, 5),
+                        "Persistent=\"No\"" + Reference("ScopeRefs", ClassOf(next) + " " + ClassOf(before))) +
+                    content));
+        const std::string block =
+            Reference("Uuid", BlockOf(number)) + Reference("AttributeUuids", Uuid(number * 10 + 2));
+        Own().MakeFile(
+            name + ".tuning",
+            Tag("Package", id(name, 0), "",
+                Tag("Class", id("C" + own, 1), "",
+                    isLast ? Tag("AttributeBlock", block, "Name=\"Sheet\"")
+                           : Tag("AttributeBlockExtension", block, Reference("Extents", BlockOf(next)))) +
+                    Tag("Class", id("D" + own, 6), "",
+                        Tag("AttributeBlockExtension", "",
+                            Reference("Uuid", Uuid(number * 10 + 9)) +
+                                Reference("AttributeUuids", Uuid(number * 10 + 8)) +
+                                Reference("Extents", BlockOf(before))))));
     }
 
     Json DumpFrom(const std::string& name) const {
@@ -70,9 +108,23 @@ protected:
         return run.status == 0 ? Ordered(Json::parse(run.out)) : Json();
     }
 
-    void ExpectOneModel(int count) const {
+    /// The attributes of the one own block of a class in a dump.
+    static Json AttributesOfBlock(const Json& dump, const std::string& package, const std::string& name) {
+        const auto named = [](const Json& list, const std::string& wanted) {
+            return *std::find_if(list.begin(), list.end(),
+                                 [&](const Json& each) { return each["name"] == wanted; });
+        };
+        return named(named(dump["packages"], package)["elements"], name)["blocks"][0]["attributes"];
+    }
+
+    /// \param count of the ring. \param others packages that it uses.
+    void ExpectOneModel(int count, std::size_t others = 0) const {
         const Json first = DumpFrom("M0");
-        EXPECT_EQ(first["packages"].size(), static_cast<std::size_t>(count));
+        EXPECT_EQ(first["packages"].size(), static_cast<std::size_t>(count) + others);
+        EXPECT_EQ(AttributesOfBlock(first, "M0", "C0").size(), static_cast<std::size_t>(count));
+        const std::string last = std::to_string(count - 1);
+        EXPECT_EQ(AttributesOfBlock(first, "M0", "D0"),
+                  Json({"M0::D0::t", "M" + last + "::C" + last + "::s" + last}));
         for (int number = 1; number < count; ++number) {
             EXPECT_EQ(DumpFrom("M" + std::to_string(number)), first) << number;
         }
@@ -102,6 +154,20 @@ TEST_F(ToolRingTest, ARingByBothGivesOneModelFromEachMember) {
         MakeMember(number, 5, number % 2 == 0 ? "UseScopes" : "UseNames");
 
     ExpectOneModel(5);
+}
+
+TEST_F(ToolRingTest, APackageUsedByTwoMembersIsLoadedOnce) {
+    Own().MakeFile("Base.metadata",
+                   Tag("Package", Id("Base", 900), "", Tag("Class", Id("B", 901), "Persistent=\"Yes\"")));
+    for (int number = 0; number < 5; ++number) {
+        const bool usesBase = number == 1 || number == 3;
+        MakeMember(number, 5, "UseNames", usesBase ? " Base" : "",
+                   usesBase ? Tag("Class", Id("K" + std::to_string(number), 910 + number),
+                                  "Persistent=\"Yes\"" + Reference("SuperRef", Uuid(901)))
+                            : "");
+    }
+
+    ExpectOneModel(5, 1);
 }
 
 TEST_F(ToolRingTest, ARingWhoseLastMemberFailsIsRefusedFromEachMember) {
@@ -171,10 +237,12 @@ TEST_P(ToolEncodingTest, CopiesOfTheSampleGiveTheSameDump) {
     }
     ASSERT_GE(copies, 5);
 
-    const ToolRun run = OnOwn({"--quiet", "dump", "--json", "BomWorkshop", "BomEffectivity"});
+    const std::vector<std::string> dump = {
+        "--quiet", "dump", "--json", "BomWorkshop", "BomEffectivity", "BomServices", "BomStorageMap.rbomap"};
+    const ToolRun run = OnOwn(dump);
 
     EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_EQ(run.out, OnSample({"--quiet", "dump", "--json", "BomWorkshop", "BomEffectivity"}).out);
+    EXPECT_EQ(run.out, OnSample(dump).out);
 }
 
 INSTANTIATE_TEST_SUITE_P(Encodings, ToolEncodingTest,

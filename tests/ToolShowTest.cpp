@@ -85,9 +85,7 @@ TEST_F(ToolShowTest, NewKindsAreFoundByTheirUuid) {
     ExpectSheet("EEFE6A11-FF83-4E80-84F5F0239E4C0F6C", "show-method.txt");
     ExpectSheet("9DD40E80-03DB-4E10-A945547C13B710EF", "show-parameter.txt");
     ExpectSheet("0D9C2CB7-35F9-40E9-8F00260B541B9AB6", "show-block.txt");
-    const ToolRun path =
-        OnSample({"--quiet", "show", "D81D83B9-57B9-4063-AE94FC47119C4C02", "--in", "BomStorageMap.rbomap"});
-    EXPECT_EQ(path.out, ExpectedOutput("show-path.txt"));
+    ExpectSheet("D81D83B9-57B9-4063-AE94FC47119C4C02", "show-path.txt");
 }
 
 TEST_F(ToolShowTest, AClassKnowsWhoExtendsMapsAndPassesIt) {
@@ -109,6 +107,30 @@ TEST_F(ToolShowTest, AUuidIsLookedForOnTheWholePath) {
     ExpectSheet("5AAF3900-5E46-4551-BB9AE4FD947B8003", "show-class-of-path.txt");
     ExpectSheet("5aaf39005e464551bb9ae4fd947b8003", "show-class-of-path.txt");
     ExpectSheet("02D26687F46448A5BF474B50D3AD637C", "show-other-domain.txt");
+}
+
+TEST_F(ToolShowTest, AUuidIsLookedForInEveryContentKind) {
+    int number = 0;
+    for (const char* content : {"metadata", "rbodef", "rbomap", "metaplm"}) {
+        const std::string uuid = "00000000-0000-0000-000000000000000" + std::to_string(++number);
+        const std::string name = std::string("P") + content;
+        Own().MakeFile(name + "." + content, "<Package Name=\"" + name + "\" Uuid=\"" + uuid + "\"/>");
+
+        const ToolRun run = OnOwn({"--quiet", "show", uuid});
+
+        EXPECT_EQ(run.status, 0) << run.err;
+        EXPECT_EQ(run.out.find("Package " + name + "\n"), 0U);
+    }
+}
+
+TEST_F(ToolShowTest, ATuningDocumentIsNoPackageOfThePath) {
+    MakePackage("P", R"(Uuid="00000000-0000-0000-0000000000000001")", "");
+    Own().MakeFile("Q.tuning", "<Package");
+
+    const ToolRun run = OnOwn({"--quiet", "show", "00000000-0000-0000-0000000000000001"});
+
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
 }
 
 TEST_F(ToolShowTest, EveryKindIsFoundByItsUuid) {
@@ -188,7 +210,7 @@ TEST_F(ToolShowTest, AnEmptyPathHasNoUuid) {
 
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(WithoutPlaces(run.err),
-              "zandic: own: error: no *.metadata document on the path\n"
+              "zandic: own: error: no package document on the path\n"
               "zandic: 00000000-0000-0000-0000000000000001: error: no object of the loaded packages has this "
               "UUID\n");
 }

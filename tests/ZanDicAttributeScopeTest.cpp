@@ -121,6 +121,16 @@ TEST_F(ZanDicAttributeScopeTest, TheExpansionWritesTwoLinesForEachSubClassOnce) 
               "nameWoodScrew\nUuid du sous-type:00000000-0000-0000-00000000000003EE\n");
 }
 
+TEST_F(ZanDicAttributeScopeTest, AClassBelowAnotherOfTheScopeIsNoFailure) {
+    const auto wood = SubClass(*items, "WoodScrew", *screw);
+    EXPECT_EQ(maker->AddScope(screw.Get()), S_OK);
+    EXPECT_EQ(maker->AddScope(part.Get()), S_OK);
+
+    EXPECT_EQ(InScope(*wood), "10");
+    EXPECT_EQ(InScope(*part), "10");
+    EXPECT_EQ(InScope(*person), "01");
+}
+
 TEST_F(ZanDicAttributeScopeTest, ANewSubClassIsSeenOnlyAfterTheScopeHasChanged) {
     EXPECT_EQ(maker->AddScope(part.Get()), S_OK);
     EXPECT_EQ(InScope(*part), "10");

@@ -167,6 +167,22 @@ TEST_F(ZanDicClassBlocksTest, ARootThatIsSetLaterHidesTheBlockAbove) {
     EXPECT_EQ(BlocksOf(*screw), "Own ");
 }
 
+TEST_F(ZanDicClassBlocksTest, ABlockWhoseRootIsGoneStandsForItself) {
+    const auto tools = Package("Tools");
+    const auto root = Block(*tools, "Root");
+    const auto own = BlockOf(*items, *part, "Own");
+    const auto below = BlockOf(*items, *part, "Below");
+    EXPECT_EQ(own->SetRoot(root.Get()), S_OK);
+    EXPECT_EQ(below->SetRoot(own.Get()), S_OK);
+    EXPECT_EQ(Register(*part, *own), S_OK);
+    EXPECT_EQ(Register(*part, *below), S_OK);
+    EXPECT_EQ(BlocksOf(*part), "Below Own ");
+
+    RemovePackage("Tools");
+
+    EXPECT_EQ(BlocksOf(*part), "Below ");
+}
+
 TEST_F(ZanDicClassBlocksTest, ABlockThatIsGoneIsAbsentAndItsNameFree) {
     const auto tools = Package("Tools");
     const auto root = BlockOf(*items, *part, "Geometry");
@@ -330,6 +346,15 @@ TEST_F(ZanDicClassBlocksTest, AskingASubclassMakesTheDefaultBlocksAbove) {
     Held<OXMIDicAttributeBlock> made;
     EXPECT_EQ(part->GetCBlockForAtt(nullptr, 0, made.Out()), S_OK);
     EXPECT_EQ(AttributesOf(*made), "length weight ");
+}
+
+TEST_F(ZanDicClassBlocksTest, ARootWithoutAttributesHasAnEmptyDefaultBlock) {
+    const auto bare = Class(*items, "Bare");
+    Held<OXMIDicAttributeBlock> block;
+
+    EXPECT_EQ(bare->GetCBlockForAtt(nullptr, 1, block.Out()), S_OK);
+
+    EXPECT_EQ(AttributesOf(*block), "");
 }
 
 TEST_F(ZanDicClassBlocksTest, WithoutNameAndCreateNothingIsMadeAndTheOutputIsNull) {

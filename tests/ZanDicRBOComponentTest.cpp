@@ -59,6 +59,24 @@ TEST_F(ZanDicRBOComponentTest, ARootHasABaseClassToo) {
     EXPECT_EQ(linked.Get(), part.Get());
 }
 
+TEST_F(ZanDicRBOComponentTest, RefusesNull) {
+    EXPECT_EQ(cell->SetBaseClass(nullptr), E_FAIL);
+    EXPECT_EQ(cell->GetBaseClass(nullptr), E_FAIL);
+    EXPECT_EQ(cell->SetBaseClassRef(nullptr), E_FAIL);
+    EXPECT_EQ(cell->GetBaseClassRef(nullptr), E_FAIL);
+    EXPECT_EQ(cell->SetBaseClassName(nullptr), E_FAIL);
+    EXPECT_EQ(cell->GetBaseClassName(nullptr), E_FAIL);
+    EXPECT_EQ(cell->GetValidityRule(nullptr), E_FAIL);
+    EXPECT_EQ(cell->CreateRBOComponent(nullptr, nullptr, nullptr), E_FAIL);
+    EXPECT_EQ(cell->CreateRBOPathExpression(nullptr, nullptr, nullptr), E_FAIL);
+    EXPECT_EQ(root->GetBaseClass(nullptr), E_FAIL);
+    EXPECT_EQ(root->SetBaseClassRef(nullptr), E_FAIL);
+    EXPECT_EQ(root->GetBaseClassRef(nullptr), E_FAIL);
+    EXPECT_EQ(root->SetBaseClassName(nullptr), E_FAIL);
+    EXPECT_EQ(root->GetBaseClassName(nullptr), E_FAIL);
+    EXPECT_EQ(root->CreateRBOComponent(nullptr, nullptr, nullptr), E_FAIL);
+}
+
 TEST_F(ZanDicRBOComponentTest, ABaseClassThatIsGoneReadsAsNeverSet) {
     OXMIDicClass* linked = nullptr;
     EXPECT_EQ(cell->SetBaseClass(part.Get()), S_OK);

@@ -51,6 +51,8 @@ TEST_F(ZanDicRBOMappingTest, GettersOfWhatIsUnsetFail) {
     EXPECT_EQ(mapping->GetApplyToRBOClass(nullptr), E_FAIL);
     EXPECT_EQ(mapping->SetApplyToRBOClassRef(nullptr), E_FAIL);
     EXPECT_EQ(mapping->SetApplyToRBOClassName(nullptr), E_FAIL);
+    EXPECT_EQ(mapping->GetApplyToRBOClassRef(nullptr), E_FAIL);
+    EXPECT_EQ(mapping->GetApplyToRBOClassName(nullptr), E_FAIL);
     EXPECT_EQ(linked, nullptr);
 }
 

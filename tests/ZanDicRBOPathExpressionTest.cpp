@@ -78,6 +78,17 @@ TEST_F(ZanDicRBOPathExpressionTest, SettersRefuseAnEmptyTextAndKeepThePreviousOn
     EXPECT_EQ(kept, text);
 }
 
+TEST_F(ZanDicRBOPathExpressionTest, RefusesNull) {
+    EXPECT_EQ(way->GetTarget(nullptr), E_FAIL);
+    EXPECT_EQ(way->SetTargetRef(nullptr), E_FAIL);
+    EXPECT_EQ(way->GetTargetRef(nullptr), E_FAIL);
+    EXPECT_EQ(way->GetTargetName(nullptr), E_FAIL);
+    EXPECT_EQ(way->SetPathExprType(nullptr), E_FAIL);
+    EXPECT_EQ(way->GetPathExprType(nullptr), E_FAIL);
+    EXPECT_EQ(way->SetPathExprSubType(nullptr), E_FAIL);
+    EXPECT_EQ(way->GetPathExprSubType(nullptr), E_FAIL);
+}
+
 TEST_F(ZanDicRBOPathExpressionTest, AnEmptyTypeIsAFailureToGet) {
     ZELUnicodeString text("before");
 

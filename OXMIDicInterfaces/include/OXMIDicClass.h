@@ -120,7 +120,7 @@ public:
     virtual HRESULT GetAllElements(ZELListPtrIUnknown* attributes) = 0;
 
     /// Appends the injective relationships that point at a super class, nearest first, then those that
-    /// point at this class. \returns S_OK.
+    /// point at this class. Cost: one look-up for each super class, and the result. \returns S_OK.
     virtual HRESULT GetInjectivesPointingOnMe(ZELListPtrIUnknown& relationships) = 0;
 
     /// Plain flags: a byte, of which only 1 means yes. Persistent is 1 at first, the others 0.

@@ -14,7 +14,7 @@ constexpr Command kCommands[] = {
      "A MEMBER is an attribute, a unique key, a block, an enumerator, a method or a\n"
      "root. The name may go on: METHOD::PARAMETER, ROOT::COMPONENT::COMPONENT.\n"
      "A UUID has 32 digits of either case, with or without dashes. It is looked for in\n"
-     "the packages that --in names, else in every *.metadata document of the path.",
+     "the packages that --in names, else in every package document of the path.",
      true, false, Files::None, RunShow},
     {"blocks", "show the attribute blocks of a class or of a package",
      "PACKAGE or PACKAGE::CLASS, the package maybe\nwith a content word",

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <set>
 #include <system_error>
 
@@ -13,7 +14,6 @@
 namespace tool {
 namespace {
 
-constexpr std::string_view kMetadata = ZANDicFormat::kContentWords[OXMDicCONTENT_metadata].word;
 constexpr std::string_view kTuning = ZANDicFormat::kContentWords[OXMDicCONTENT_tuning].word;
 constexpr std::size_t kShortestUuidMistake = 20;  // digits; a name may well be a short number
 
@@ -39,8 +39,17 @@ bool IsMeantForUuid(std::string_view text) {
            static_cast<std::size_t>(digits + dashes) == text.size();
 }
 
+/// Whether \p test holds for a content word of packages: all but that of tuning documents.
+template <class Test>
+bool OfAnyContent(const Test& test) {
+    return std::any_of(std::begin(ZANDicFormat::kContentWords), std::end(ZANDicFormat::kContentWords),
+                       [&](const auto& row) { return row.word != kTuning && test(row.word); });
+}
+
 bool HasDocument(std::string_view path, std::string_view name) {
-    return ZELFindPath(path, std::string(name) + "." + std::string(kMetadata)).has_value();
+    return OfAnyContent([&](std::string_view content) {
+        return ZELFindPath(path, std::string(name).append(".").append(content)).has_value();
+    });
 }
 
 void AddDocumentsOf(const std::string& directory, std::set<std::string>& names) {
@@ -49,7 +58,9 @@ void AddDocumentsOf(const std::string& directory, std::set<std::string>& names) 
          entry.increment(fault)) {
         const std::string name = entry->path().filename().string();
         std::error_code none;
-        if (EndsInContentWord(name, kMetadata) && entry->is_regular_file(none)) names.insert(name);
+        const bool isPackage =
+            OfAnyContent([&](std::string_view content) { return EndsInContentWord(name, content); });
+        if (isPackage && entry->is_regular_file(none)) names.insert(name);
     }
 }
 

@@ -31,7 +31,8 @@ std::optional<std::string> WrongPackageName(std::string_view name);
 /// wrong as well, unless there is a document of that name on \p path.
 std::optional<std::string> WrongTarget(const Target& target, std::string_view path);
 
-/// \returns the file names of the *.metadata documents in the directories of \p path, sorted, each once.
+/// \returns the file names of the package documents, of every content word, in the directories of \p path:
+/// sorted, each once.
 std::vector<std::string> DocumentsOf(std::string_view path);
 
 }  // namespace tool

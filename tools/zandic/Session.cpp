@@ -84,7 +84,7 @@ std::vector<Session::LoadTime> Session::LoadTimes() const {
 
 void Session::LoadWholePath() {
     const std::vector<std::string> documents = DocumentsOf(_Path);
-    if (documents.empty()) Refuse(_Path, "no *.metadata document on the path");
+    if (documents.empty()) Refuse(_Path, "no package document on the path");
     for (const std::string& document : documents) Load(document);
 }
 

@@ -49,7 +49,7 @@ public:
     /// \returns whether it is there; else the fault is noted, on the first try.
     bool Load(const std::string& name);
 
-    /// Loads every *.metadata document of the path, in the order of their names.
+    /// Loads every package document of the path, in the order of their names.
     void LoadWholePath();
 
     /// Note what could not be done, and what must not be asked for.

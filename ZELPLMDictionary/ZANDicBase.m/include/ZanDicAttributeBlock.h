@@ -94,8 +94,8 @@ private:
     std::shared_ptr<ZanDicBlockPart> _ATTRIBUTES;  ///< links; the father's are shared; null for none
     bool _Complete = false;                        ///< the father's attributes are among them
     bool _IsFather = false;                        ///< some block had this one as its father
-    bool _Listed = false;                          ///< by a class
-    bool _Described = false;                       ///< by a document
+    bool _Listed = false;     ///< what is visible in classes hangs on it: a class lists it, or it is a root
+    bool _Described = false;  ///< by a document
 };
 
 #endif

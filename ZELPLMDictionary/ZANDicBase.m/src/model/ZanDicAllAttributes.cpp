@@ -41,6 +41,13 @@ ZanDicAllAttributes::List ZanDicAllAttributes::Listed() const {
     return listed;
 }
 
+ZanDicAllAttributes::List ZanDicAllAttributes::ListAlive(const Answer& answer) {
+    List listed;
+    if (answer != nullptr) listed = answer->Listed();
+    std::erase(listed, nullptr);
+    return listed;
+}
+
 /// Where inherited attributes of a name stand.
 struct ZanDicAllAttributes::Descent::Names {
     std::unordered_multimap<std::string_view, std::uint32_t> indexes;

@@ -68,6 +68,9 @@ public:
     /// \returns the attributes in order. Cost: their number, a small factor.
     List Listed() const;
 
+    /// \returns what \p answer lists, without the attributes that are gone; empty for null.
+    static List ListAlive(const Answer& answer);
+
 private:
     struct Replacement {
         std::uint32_t index;  ///< in the base's list

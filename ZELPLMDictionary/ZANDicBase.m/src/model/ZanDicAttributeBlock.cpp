@@ -141,6 +141,7 @@ void ZanDicAttributeBlock::set_Father(ZanDicAttributeBlock& father) {
 void ZanDicAttributeBlock::set_Root(ZanDicAttributeBlock& root) {
     _Root = &root;
     if (_Listed) ZanDicBlockClock::Changed();
+    if (&root != this) root._Listed = true;  // once it is gone, what it was the root of stands for itself
 }
 
 void ZanDicAttributeBlock::set_Listed() {

@@ -1,5 +1,4 @@
 // The default block of a class: of the attributes that no declared block holds.
-#include <algorithm>
 #include <string_view>
 #include <unordered_set>
 #include <vector>
@@ -76,16 +75,14 @@ void ZanDicClass::fill_DefaultBlock(ZanDicAttributeBlock& block) {
             held.insert(attribute.Name().View());
         });
     }
-    const auto isHere = [](const ZanDicAttribute* attribute) { return attribute != nullptr; };
-    ZanDicAllAttributes::List all =
-        _ALLATTRIBUTES != nullptr ? _ALLATTRIBUTES->Listed() : ZanDicAllAttributes::List();
-    if (std::none_of(all.begin(), all.end(), isHere)) {
+    ZanDicAllAttributes::List all = ZanDicAllAttributes::ListAlive(_ALLATTRIBUTES);
+    if (all.empty()) {
         compute_AllAttributes();
-        all = _ALLATTRIBUTES->Listed();
+        all = ZanDicAllAttributes::ListAlive(_ALLATTRIBUTES);
     }
     for (auto next = all.rbegin(); next != all.rend(); ++next) {
         ZanDicAttribute* const attribute = *next;
-        if (attribute == nullptr || attribute->Type() == OXMDicTYPE_Inverse) continue;
+        if (attribute->Type() == OXMDicTYPE_Inverse) continue;
         unsigned char isMultiValuated = 0;
         attribute->GetMultiValuated(&isMultiValuated);
         if (isMultiValuated != 1 && !held.contains(attribute->Name().View())) block.add_Attribute(*attribute);

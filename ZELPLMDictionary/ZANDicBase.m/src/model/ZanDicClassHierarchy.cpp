@@ -14,17 +14,6 @@
 #include "ZanDicTrace.h"
 #include "ZanDicValues.h"
 
-namespace {
-
-ZanDicAllAttributes::List ListAlive(const ZanDicAllAttributes::Answer& answer) {
-    ZanDicAllAttributes::List listed;
-    if (answer != nullptr) listed = answer->Listed();
-    std::erase(listed, nullptr);
-    return listed;
-}
-
-}  // namespace
-
 /// Visits the classes whose super class this one is; a flushed class may list others that have moved away.
 template <class Visit>
 void ZanDicClass::for_EachSubClass(const Visit& visit) const {
@@ -175,7 +164,7 @@ void ZanDicClass::forget_AllAttributes() {
 }
 
 HRESULT ZanDicClass::GetAllElements(ZELListPtrIUnknown* attributes) {
-    ZanDicAllAttributes::List listed = ListAlive(_ALLATTRIBUTES);
+    ZanDicAllAttributes::List listed = ZanDicAllAttributes::ListAlive(_ALLATTRIBUTES);
     if (listed.empty() && !_SuperClass) {
         // Deliberate: a root computes nothing (ZanDicClassTest.ARootAnswersFromItsOwnAttributes).
         for (int position = 1; position <= _ATTRIBUTES.Size(); ++position) {
@@ -183,7 +172,7 @@ HRESULT ZanDicClass::GetAllElements(ZELListPtrIUnknown* attributes) {
         }
     } else if (listed.empty()) {
         compute_AllAttributes();
-        listed = ListAlive(_ALLATTRIBUTES);
+        listed = ZanDicAllAttributes::ListAlive(_ALLATTRIBUTES);
     }
     HRESULT rc = S_OK;
     for (const ZanDicAttribute* attribute : listed) rc = AppendInterface(*attribute, attributes);

@@ -110,12 +110,15 @@ private:
         note_Result(row.complete({_Reading, trace, node, note.object.Get(), note.reference}));
     }
 
-    /// The line of an object that the first pass could not make, and told then.
+    /// The line of an object that the first pass could not make, and told then. Where its UUID is that of
+    /// another object of its kind, that was all there is to say.
     HRESULT tell_LeftOut(const RBONote& note, const ZanDicTraceScope& trace) const {
         const ZELVBTXMLNode node = _Reading.document.ElementAt(note.node);
         const ZELDbBinary uuid = UuidFromText(node.getAttributeValue(word::kUuid).value_or(""));
         ZanDicRef<OXMIDicElementH> found;
         const bool isFound = Succeeded(_Reading.manager.Search(&uuid, found.Out()));
+        OXMDicTYPE type{};
+        if (isFound && Succeeded(found->GetType(&type)) && type == note.type) return E_FAIL;
         if (auto line = trace.Error()) {
             if (isFound) {
                 line << text::kCouldNotGet << RowOf(note.type).tagName << text::kNotOfThatKind
