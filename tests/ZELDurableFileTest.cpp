@@ -98,6 +98,23 @@ TEST_F(ZELDurableFileTest, WritesExactlyOneBuffer) {
     EXPECT_EQ(Content(path), text);
 }
 
+TEST_F(ZELDurableFileTest, TakesTheBeginningOfABlockAtEveryPlaceOfItsBuffer) {
+    const char block[16] = "0123456789abcde";
+    for (std::size_t before = ZELDurableFile::kBufferSize - 20; before < ZELDurableFile::kBufferSize + 2;
+         ++before) {
+        ZELDurableFile file;
+        ASSERT_EQ(file.Open(path), S_OK);
+        file.Append(std::string(before, 'x'));
+        file.AppendBlock(block, 10);
+        file.AppendBlock(block, 0);
+        file.Append('!');
+
+        EXPECT_EQ(file.Commit(), S_OK);
+
+        ASSERT_EQ(Content(path), std::string(before, 'x') + "0123456789!");
+    }
+}
+
 TEST_F(ZELDurableFileTest, ReplacesAFileAndKeepsItsPermissions) {
     directory.MakeFile("P.metadata", "old");
     chmod(path.c_str(), 0640);
@@ -218,6 +235,7 @@ TEST_F(ZELDurableFileTest, WhatIsNotOpenTakesNothingAndCannotBeCommitted) {
     file.Append("");
     file.Append("lost");
     file.Append('x');
+    file.AppendBlock("block", 3);
 
     EXPECT_FALSE(file.IsOpen());
     EXPECT_EQ(file.Commit(), E_FAIL);
@@ -276,6 +294,46 @@ TEST_P(ZELDurableFileFaultTest, GoesOnAfterInterruptions) {
 
         EXPECT_EQ(Content(path), LongText());
     }
+}
+
+TEST_P(ZELDurableFileFaultTest, AFileSystemWithoutLocksIsWrittenAllTheSame) {
+    FailingFileCalls failing;
+    failing.hasUnnamedFiles = GetParam();
+    failing.hasLocks = false;
+
+    EXPECT_EQ(Write(path, "content"), S_OK);
+
+    EXPECT_EQ(Content(path), "content");
+    EXPECT_THAT(NamesIn(directory.Path()), ElementsAre("P.metadata"));
+}
+
+TEST_P(ZELDurableFileFaultTest, ACloseThatFailsAfterTheFlushIsNoFailure) {
+    FailingFileCalls failing;
+    failing.hasUnnamedFiles = GetParam();
+    failing.closesFail = true;
+
+    EXPECT_EQ(Write(path, "content"), S_OK);
+
+    EXPECT_EQ(Content(path), "content");
+}
+
+TEST_P(ZELDurableFileFaultTest, WhatCouldNotBeRemovedGoesWithTheNextFile) {
+    {
+        FailingFileCalls failing;
+        failing.hasUnnamedFiles = GetParam();
+        failing.removesFail = true;
+        ZELDurableFile file;
+        ASSERT_EQ(file.Open(path), S_OK);
+        file.Append("lost");
+        failing.failAt = failing.count + (GetParam() ? 4 : 3);  // the rename
+        ASSERT_EQ(file.Commit(), E_FAIL);
+        ASSERT_EQ(failing.made.back(), 'r');
+    }
+    ASSERT_THAT(NamesIn(directory.Path()), ElementsAre(".P.metadata.zel-0"));
+
+    EXPECT_EQ(Write(path, "content"), S_OK);
+
+    EXPECT_THAT(NamesIn(directory.Path()), ElementsAre("P.metadata"));
 }
 
 TEST_F(ZELDurableFileTest, GoesOnAfterShortWrites) {

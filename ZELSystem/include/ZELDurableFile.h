@@ -2,6 +2,7 @@
 #define ZELDURABLEFILE_H
 
 #include <cstddef>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -19,7 +20,11 @@
 ///
 /// A replaced file keeps its permissions; a symbolic link stays one, and the file that it leads to is
 /// replaced. Something that is no regular file, or that may not be written, is left alone. Directories are
-/// not made. The signal that a limit of the file size sends is held back; the limit is a failure like others.
+/// not made.
+///
+/// A limit of the file size is a failure like others: no handler is set, but the signal that the system sends
+/// (SIGXFSZ) is blocked for the thread during each write and taken back after it, so that neither the process
+/// ends nor a handler of the program runs, and what the program has set stays so.
 ///
 /// 256 KiB of buffer while open. The first failure decides: what follows it does nothing. One thread.
 class ZELSYSTEM_API ZELDurableFile {
@@ -45,6 +50,15 @@ public:
         if (_Room == 0) return AppendSlowly({&byte, 1});
         *_End++ = byte;
         --_Room;
+    }
+
+    /// Adds the first \p size bytes of \p block, which can be read as a whole: cheaper where they are few.
+    template <std::size_t capacity>
+    void AppendBlock(const char (&block)[capacity], std::size_t size) {
+        if (capacity >= _Room) return AppendSlowly({block, size});
+        std::memcpy(_End, block, capacity);
+        _End += size;
+        _Room -= size;
     }
 
     /// Adds texts one behind the other; cheaper than one by one.
