@@ -107,9 +107,9 @@ public:
     /// Never available. \returns E_FAIL.
     virtual HRESULT CreateRBOMapping(const ZELString* name, OXMIDicRBOMapping** element) = 0;
 
-    /// Makes an attribute block, named "UNDEFINED" and of no class yet. It is no element of the package, which
-    /// keeps it until its elements go. \returns S_OK; E_FAIL when an argument is null or the UUID is registered
-    /// already, and nothing is made.
+    /// Makes an attribute block, named "UNDEFINED" and of no class yet. It is no element of the package,
+    /// which keeps it until its elements go. \returns S_OK; E_FAIL when an argument is null or the UUID is
+    /// registered already, and nothing is made.
     virtual HRESULT CreateAttributeBlock(const ZELDbBinary* uuid, OXMIDicAttributeBlock** block) = 0;
 
     /// Deprecated: each writes a notice. \returns E_FAIL.
