@@ -299,6 +299,42 @@ TEST_F(OxmDicToXMLLinksTest, APrimitiveThatAParameterCannotNameIsLeftOutAndTheDo
     EXPECT_EQ(LoadFrom(directory.Path(), "P"), S_OK);
 }
 
+TEST_F(OxmDicToXMLLinksTest, AParameterAsATypeGivesADocumentThatDoesNotLoad) {
+    const Held<OXMIDicInterface> element = Interface(*package, "I");
+    const Held<OXMIDicMethod> method = Method(*element, "M");
+    const Held<OXMIDicParameter> parameter = Parameter(*method, "A");
+    parameter->SetType(parameter.Get());
+    SavedText("P");
+
+    StartAnew();
+
+    EXPECT_EQ(LoadFrom(directory.Path(), "P"), E_FAIL);
+}
+
+TEST_F(OxmDicToXMLLinksTest, AnInterfaceInThePlaceOfAClassGivesADocumentThatDoesNotLoad) {
+    const Held<OXMIDicInterface> element = Interface(*package, "I");
+    const Held<OXMIDicClass> face = QueryFor<OXMIDicClass>(*element);
+    const Held<OXMIDicClass> owner = Class(*package, "C");
+    ASSERT_EQ(owner->SetReference(face.Get()), S_OK);
+    EXPECT_EQ(owner->SetSuperClass(face.Get()), S_OK);
+    SavedText("P");
+
+    StartAnew();
+
+    EXPECT_EQ(LoadFrom(directory.Path(), "P"), E_FAIL);
+}
+
+TEST_F(OxmDicToXMLLinksTest, ARelationshipToAnInterfaceHasNoTargetInItsDocument) {
+    const Held<OXMIDicInterface> element = Interface(*package, "I");
+    const Held<OXMIDicClass> owner = Class(*package, "C");
+    ASSERT_EQ(Relationship(*owner, "R")->SetTarget(QueryFor<OXMIDicClass>(*element).Get()), S_OK);
+
+    EXPECT_THAT(SavedText("P"), Not(HasSubstr("Target")));
+
+    StartAnew();
+    EXPECT_EQ(LoadFrom(directory.Path(), "P"), S_OK);
+}
+
 TEST_F(OxmDicToXMLLinksTest, NumbersWithoutWordAreLeftOutOfEveryKind) {
     const Held<OXMIDicClass> owner = Class(*package, "C");
     owner->SetVisibility(static_cast<OXMDicVISIBILITY>(0));

@@ -391,7 +391,7 @@ private:
         for (int count = Draw(3); count > 0; --count) {
             if (OXMIDicElement* const member = Any(package, members)) unique->AddElement(member);
         }
-        if (Lose(Loss::OddMember)) unique->AddElement(&owner);
+        if (Lose(Loss::OddLink)) unique->AddElement(&owner);
     }
 
     // Interfaces.

@@ -72,7 +72,8 @@ constexpr LossRow kLossRows[] = {
      "the initial value"},
     {Loss::TypeWithoutWord, true, true,
      "a Simple typed URL, AnyObject or by a class, a parameter typed URL or AnyObject, a relationship or "
-     "inverse typed by another primitive than AnyObject, Binary, String and URL or by an enumeration",
+     "inverse typed by another primitive than AnyObject, Binary, String and URL, by an enumeration or by an "
+     "interface",
      "no type; of the Simple, the name of the primitive as a free attribute `Type`"},
     {Loss::HalfInverse, true, true, "the link of an inverse that is set on one side only or listed twice",
      "both sides, once, when the inverse has it; else none"},
@@ -112,7 +113,10 @@ constexpr LossRow kLossRows[] = {
      "a relationship that redefines another whose target it does not derive from", "does not load"},
     {Loss::MissingReference, false, true, "a mapping without RBO class, a path expression without target",
      "does not load"},
-    {Loss::OddMember, false, true, "a unique key with a member that is no attribute", "does not load"},
+    {Loss::OddLink, false, true,
+     "a unique key with a member that is no attribute, a parameter as a type or as the target of a path, an "
+     "interface as super class, reference, scope or base class of what is none",
+     "does not load"},
 };
 
 std::string Joined(const std::string& list, std::string_view item) {

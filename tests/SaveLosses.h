@@ -33,7 +33,7 @@ enum class Loss {
     UnextensibleScope,
     RedefinedTarget,
     MissingReference,
-    OddMember,
+    OddLink,
 };
 
 struct LossRow {

@@ -31,7 +31,7 @@ TEST(SaveLossesTest, TheGuideHasTheTables) {
 TEST(SaveLossesTest, EachLossHasOneRowInOrder) {
     int next = 0;
     for (const LossRow& row : LossRows()) EXPECT_EQ(static_cast<int>(row.loss), next++) << row.what;
-    EXPECT_EQ(static_cast<int>(Loss::OddMember) + 1, next);
+    EXPECT_EQ(static_cast<int>(Loss::OddLink) + 1, next);
 }
 
 /// What became of a random model.
