@@ -23,6 +23,9 @@ public:
     int error = EIO;
     bool hasUnnamedFiles = true;                ///< whether a file can be opened that has no name yet
     std::size_t mostWritten = ~std::size_t{0};  ///< bytes that one write takes
+    bool hasLocks = true;                       ///< whether the file system knows locks
+    bool closesFail = false;   ///< closes are made and say that they failed; they are not counted
+    bool removesFail = false;  ///< nothing can be removed
     int count = 0;
     std::string made;  ///< a letter for each call that was made: open, write, sync, link, name, remove
 
@@ -43,7 +46,23 @@ public:
     int Rename(const char* from, const char* to) override {
         return Fails('n') ? -1 : ZELFileCalls::Rename(from, to);
     }
-    int Remove(const char* path) override { return Fails('r') ? -1 : ZELFileCalls::Remove(path); }
+    int Remove(const char* path) override {
+        if (Fails('r')) return -1;
+        if (!removesFail) return ZELFileCalls::Remove(path);
+        errno = EPERM;
+        return -1;
+    }
+    int Lock(int descriptor) override {
+        if (hasLocks) return ZELFileCalls::Lock(descriptor);
+        errno = ENOLCK;
+        return -1;
+    }
+    int Close(int descriptor) override {
+        const int rc = ZELFileCalls::Close(descriptor);
+        if (!closesFail) return rc;
+        errno = error;
+        return -1;
+    }
 
 private:
     bool Fails(char call) {

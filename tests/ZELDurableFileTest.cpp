@@ -278,6 +278,46 @@ TEST_P(ZELDurableFileFaultTest, GoesOnAfterInterruptions) {
     }
 }
 
+TEST_P(ZELDurableFileFaultTest, AFileSystemWithoutLocksIsWrittenAllTheSame) {
+    FailingFileCalls failing;
+    failing.hasUnnamedFiles = GetParam();
+    failing.hasLocks = false;
+
+    EXPECT_EQ(Write(path, "content"), S_OK);
+
+    EXPECT_EQ(Content(path), "content");
+    EXPECT_THAT(NamesIn(directory.Path()), ElementsAre("P.metadata"));
+}
+
+TEST_P(ZELDurableFileFaultTest, ACloseThatFailsAfterTheFlushIsNoFailure) {
+    FailingFileCalls failing;
+    failing.hasUnnamedFiles = GetParam();
+    failing.closesFail = true;
+
+    EXPECT_EQ(Write(path, "content"), S_OK);
+
+    EXPECT_EQ(Content(path), "content");
+}
+
+TEST_P(ZELDurableFileFaultTest, WhatCouldNotBeRemovedGoesWithTheNextFile) {
+    {
+        FailingFileCalls failing;
+        failing.hasUnnamedFiles = GetParam();
+        failing.removesFail = true;
+        ZELDurableFile file;
+        ASSERT_EQ(file.Open(path), S_OK);
+        file.Append("lost");
+        failing.failAt = failing.count + (GetParam() ? 4 : 3);  // the rename
+        ASSERT_EQ(file.Commit(), E_FAIL);
+        ASSERT_EQ(failing.made.back(), 'r');
+    }
+    ASSERT_THAT(NamesIn(directory.Path()), ElementsAre(".P.metadata.zel-0"));
+
+    EXPECT_EQ(Write(path, "content"), S_OK);
+
+    EXPECT_THAT(NamesIn(directory.Path()), ElementsAre("P.metadata"));
+}
+
 TEST_F(ZELDurableFileTest, GoesOnAfterShortWrites) {
     FailingFileCalls failing;
     failing.mostWritten = 1000;

@@ -19,7 +19,11 @@
 ///
 /// A replaced file keeps its permissions; a symbolic link stays one, and the file that it leads to is
 /// replaced. Something that is no regular file, or that may not be written, is left alone. Directories are
-/// not made. The signal that a limit of the file size sends is held back; the limit is a failure like others.
+/// not made.
+///
+/// A limit of the file size is a failure like others: no handler is set, but the signal that the system sends
+/// (SIGXFSZ) is blocked for the thread during each write and taken back after it, so that neither the process
+/// ends nor a handler of the program runs, and what the program has set stays so.
 ///
 /// 256 KiB of buffer while open. The first failure decides: what follows it does nothing. One thread.
 class ZELSYSTEM_API ZELDurableFile {

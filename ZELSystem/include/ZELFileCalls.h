@@ -15,10 +15,13 @@ public:
     virtual int Open(const char* path, int flags, unsigned mode);
     virtual long Write(int descriptor, const char* bytes, std::size_t size);
     virtual int Sync(int descriptor);
+    /// Locks the file behind \p descriptor for this opening of it, without waiting.
+    virtual int Lock(int descriptor);
     /// Gives the unnamed file behind \p descriptor the name \p path, which nothing bears yet.
     virtual int Link(int descriptor, const char* path);
     virtual int Rename(const char* from, const char* to);
     virtual int Remove(const char* path);
+    virtual int Close(int descriptor);
 
 protected:
     ~ZELFileCalls() = default;

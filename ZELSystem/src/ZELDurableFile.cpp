@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <signal.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -91,7 +90,13 @@ bool Names(const std::string& path, int descriptor) {
     return lstat(path.c_str(), &named) == 0 && fstat(descriptor, &opened) == 0 && SameFile(named, opened);
 }
 
-bool Lock(int descriptor) noexcept { return flock(descriptor, LOCK_EX | LOCK_NB) == 0; }
+bool Lock(int descriptor) { return ZELPresentFileCalls().Lock(descriptor) == 0; }
+
+/// The same for a file that this process has made: where the system has no locks nobody else takes it either.
+bool LockOwn(int descriptor) { return Lock(descriptor) || errno != EWOULDBLOCK; }
+
+/// What a close reports is of no interest: the file was flushed before, or is given up.
+void Close(int descriptor) { ZELPresentFileCalls().Close(descriptor); }
 
 /// Removes the file \p path if its writer is no more: a living one holds the lock.
 /// \returns whether nothing bears that name now.
@@ -100,7 +105,7 @@ bool RemoveLeftover(const std::string& path) {
     if (descriptor < 0) return errno == ENOENT;
     const bool removed =
         Lock(descriptor) && Names(path, descriptor) && ZELPresentFileCalls().Remove(path.c_str()) == 0;
-    close(descriptor);
+    Close(descriptor);
     return removed;
 }
 
@@ -161,7 +166,7 @@ int ZELDurableFile::OpenBeside() {
         return unknown ? OpenNamed() : LastError();
     }
     if (access(ZELDescriptorPath(_Descriptor).c_str(), F_OK) != 0) {
-        close(std::exchange(_Descriptor, -1));  // nothing could give it a name later
+        Close(std::exchange(_Descriptor, -1));  // nothing could give it a name later
         return OpenNamed();
     }
     Lock(_Descriptor);
@@ -176,8 +181,8 @@ int ZELDurableFile::OpenNamed() {
         });
         if (_Descriptor < 0) return LastError();
         // Another process may have taken it for a leftover before the lock was there.
-        if (Lock(_Descriptor) && Names(_Beside, _Descriptor)) return 0;
-        close(std::exchange(_Descriptor, -1));
+        if (LockOwn(_Descriptor) && Names(_Beside, _Descriptor)) return 0;
+        Close(std::exchange(_Descriptor, -1));
         return EEXIST;
     };
     return TakeFreeName(_Directory, std::string_view(_Path).substr(_Directory.size()), _Beside, create);
@@ -217,8 +222,8 @@ void ZELDurableFile::Discard() noexcept {
     if (!_Beside.empty()) ZELPresentFileCalls().Remove(_Beside.c_str());
     _Beside.clear();
     // The lock ends with the descriptor, so the name has to go first.
-    if (_Descriptor >= 0) close(std::exchange(_Descriptor, -1));
-    if (_DirectoryDescriptor >= 0) close(std::exchange(_DirectoryDescriptor, -1));
+    if (_Descriptor >= 0) Close(std::exchange(_Descriptor, -1));
+    if (_DirectoryDescriptor >= 0) Close(std::exchange(_DirectoryDescriptor, -1));
     _Buffer.reset();
     _End = nullptr;
     _Room = 0;

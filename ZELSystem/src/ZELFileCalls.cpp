@@ -1,6 +1,7 @@
 #include "ZELFileCalls.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -26,6 +27,8 @@ long ZELFileCalls::Write(int descriptor, const char* bytes, std::size_t size) {
 
 int ZELFileCalls::Sync(int descriptor) { return fsync(descriptor); }
 
+int ZELFileCalls::Lock(int descriptor) { return flock(descriptor, LOCK_EX | LOCK_NB); }
+
 int ZELFileCalls::Link(int descriptor, const char* path) {
     return linkat(AT_FDCWD, ZELDescriptorPath(descriptor).c_str(), AT_FDCWD, path, AT_SYMLINK_FOLLOW);
 }
@@ -33,6 +36,8 @@ int ZELFileCalls::Link(int descriptor, const char* path) {
 int ZELFileCalls::Rename(const char* from, const char* to) { return std::rename(from, to); }
 
 int ZELFileCalls::Remove(const char* path) { return unlink(path); }
+
+int ZELFileCalls::Close(int descriptor) { return close(descriptor); }
 
 ZELFileCalls* ZELSetFileCalls(ZELFileCalls* calls) noexcept {
     ZELFileCalls* const before = std::exchange(presentCalls, calls != nullptr ? calls : &systemCalls);
