@@ -5,62 +5,18 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <pugixml.hpp>
 #include <string>
 
+#include "GeneratedDocument.h"
 #include "GetOXMIDicMgr.h"
-#include "PackageGenerator.h"
-#include "ZELLineSink.h"
 #include "ZELVBTXMLNode.h"
 
 namespace {
 
-constexpr const char* kPackageName = "Generated";
-
-/// Drops the dictionary's lines.
-class Silence final : public ZELLineSink {
-public:
-    Silence() : before_(ZELSetLineSink(this)) {}
-    ~Silence() { ZELSetLineSink(before_); }
-    void Write(const ZELLine&) override {}
-
-private:
-    ZELLineSink* before_;
-};
-
-/// A generated document in a directory of its own, which goes with this object.
-class DocumentOnDisk {
-public:
-    explicit DocumentOnDisk(int elements) {
-        std::string pattern = (std::filesystem::temp_directory_path() / "zandic-bench-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) std::abort();
-        directory_ = pattern;
-        PackageShape shape;
-        shape.elements = elements;
-        const GeneratedPackage package = GeneratePackage(kPackageName, shape);
-        elements_ = package.elements;
-        bytes_ = package.document.size();
-        std::ofstream(File()) << package.document;
-    }
-    ~DocumentOnDisk() { std::filesystem::remove_all(directory_); }
-    DocumentOnDisk(const DocumentOnDisk&) = delete;
-    DocumentOnDisk& operator=(const DocumentOnDisk&) = delete;
-
-    std::string File() const { return directory_ + "/" + kPackageName + ".metadata"; }
-    const std::string& Directory() const { return directory_; }
-    int Elements() const { return elements_; }
-    std::size_t Bytes() const { return bytes_; }
-
-private:
-    std::string directory_;
-    int elements_ = 0;
-    std::size_t bytes_ = 0;
-};
+constexpr const char* kPackageName = DocumentOnDisk::kPackageName;
 
 double LiveHeap() {
     const struct mallinfo2 info = mallinfo2();

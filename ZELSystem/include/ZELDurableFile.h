@@ -2,6 +2,7 @@
 #define ZELDURABLEFILE_H
 
 #include <cstddef>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -49,6 +50,15 @@ public:
         if (_Room == 0) return AppendSlowly({&byte, 1});
         *_End++ = byte;
         --_Room;
+    }
+
+    /// Adds the first \p size bytes of \p block, which can be read as a whole: cheaper where they are few.
+    template <std::size_t capacity>
+    void AppendBlock(const char (&block)[capacity], std::size_t size) {
+        if (capacity >= _Room) return AppendSlowly({block, size});
+        std::memcpy(_End, block, capacity);
+        _End += size;
+        _Room -= size;
     }
 
     /// Adds texts one behind the other; cheaper than one by one.

@@ -38,6 +38,17 @@ public:
     /// The same for a value that needs no escape.
     void PlainAttribute(std::string_view name, std::string_view value);
 
+    /// The same for markup that was put together before: the first \p size bytes of \p block.
+    template <std::size_t capacity>
+    void Ready(const char (&block)[capacity], std::size_t size) {
+        _File.AppendBlock(block, size);
+    }
+    /// Ends an attribute that such markup has begun, up to the quote: adds its value, escaped.
+    void EndValue(std::string_view value) {
+        Escaped(value);
+        _File.Append('"');
+    }
+
     /// Writes text as the whole content of the element just begun, and ends it.
     void EndWithText(std::string_view text);
 

@@ -54,16 +54,29 @@ const char* FindSpecialPortably(const char* p, const char* end) {
 
 #if defined(__SSE2__)
 
+/// A bit for each byte that is not written as it is.
+std::uint32_t SpecialBits(__m128i bytes) {
+    // Compared as signed bytes, what is not ASCII is below the blank as well.
+    __m128i special = _mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20));
+    special = _mm_or_si128(special, _mm_cmpeq_epi8(bytes, _mm_set1_epi8('"')));
+    special = _mm_or_si128(special, _mm_cmpeq_epi8(bytes, _mm_set1_epi8('&')));
+    special = _mm_or_si128(special, _mm_cmpeq_epi8(bytes, _mm_set1_epi8('<')));
+    return ZELXMLMask(special);
+}
+
+__m128i LoadHalf(const char* p) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)); }
+
 /// The same, 16 bytes at a time, and nothing is read behind \p end.
 const char* FindSpecial(const char* p, const char* end) {
     for (; end - p >= 16; p += 16) {
-        const __m128i bytes = ZELXMLLoad(p);
-        // Compared as signed bytes, what is not ASCII is below the blank as well.
-        __m128i special = _mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20));
-        special = _mm_or_si128(special, _mm_cmpeq_epi8(bytes, _mm_set1_epi8('"')));
-        special = _mm_or_si128(special, _mm_cmpeq_epi8(bytes, _mm_set1_epi8('&')));
-        special = _mm_or_si128(special, _mm_cmpeq_epi8(bytes, _mm_set1_epi8('<')));
-        if (const std::uint32_t bits = ZELXMLMask(special); bits != 0) return p + std::countr_zero(bits);
+        if (const std::uint32_t bits = SpecialBits(ZELXMLLoad(p)); bits != 0) {
+            return p + std::countr_zero(bits);
+        }
+    }
+    // What is left is looked at as two halves that overlap; where there is something, byte by byte.
+    if (end - p >= 8) {
+        const __m128i halves = _mm_unpacklo_epi64(LoadHalf(p), LoadHalf(end - 8));
+        return SpecialBits(halves) == 0 ? end : FindSpecialPortably(p, end);
     }
     return FindSpecialPortably(p, end);
 }
@@ -125,8 +138,7 @@ void ZELVBTXMLWriter::PlainAttribute(std::string_view name, std::string_view val
 
 void ZELVBTXMLWriter::Attribute(std::string_view name, std::string_view value) {
     _File.AppendAll(" "sv, name, "=\""sv);
-    Escaped(value);
-    _File.Append('"');
+    EndValue(value);
 }
 
 void ZELVBTXMLWriter::EndWithText(std::string_view text) {

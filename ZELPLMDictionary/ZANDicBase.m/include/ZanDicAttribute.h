@@ -130,7 +130,11 @@ public:
     static constexpr Mode kFacet{14, 3, 3, 93};
     static constexpr Mode kCollection{17, 4, 4, 52};
     /// \returns the stored number, whatever it is.
-    int stored_Mode(const Mode& mode) const;
+    int stored_Mode(const Mode& mode) const {
+        const int range = 1 << mode.bits;
+        const int value = static_cast<int>(_Modes >> mode.shift) & (range - 1);
+        return value >= range / 2 ? value - range : value;
+    }
     int lost_Links(LinkName link) const override;
 
 protected:
@@ -142,6 +146,8 @@ protected:
     std::unique_ptr<ZanDicRareFields> new_RareFields() const override;
 
 private:
+    friend class StoredAttribute;  // what the writers read in place
+
     const ZanDicAttributeFields* fields() const;
     ZanDicScope* scope() const;
     ZanDicAttributeFields& make_Fields();

@@ -212,6 +212,8 @@ public:
     // What follows is for the library itself.
 
     ZanDicClass* get_SuperClass() const { return _SuperClass.Get(); }
+    /// The own attributes, in order.
+    const ZanHashList& own_Attributes() const { return _ATTRIBUTES; }
     /// The direct subclasses; of a class that was flushed also former ones, whose super class is another now.
     const ZanDicLinkList<ZanDicClass>& get_SubClasses() const { return _invSuperClass; }
     /// The own blocks, in the order of registration.

@@ -44,6 +44,9 @@ public:
     /// \returns the identity that links to \p object have; 0 when nothing links to it.
     static std::uint32_t IdentityOf(const ZanDicObj& object);
 
+    /// Lets the processor fetch what Object reads.
+    void PrefetchPlace() const { __builtin_prefetch(&places[_Place]); }
+
 protected:
     /// \param object null resets the link. An object that is gone cannot be linked: lost at once.
     void Set(ZanDicObj* object);

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstring>
 
+#include "UuidCharacters.h"
 #include "ZELFatalError.h"
 
 namespace {
@@ -44,8 +45,10 @@ constexpr bool HasDashBefore(int index) { return index == 4 || index == 6 || ind
 
 }  // namespace
 
-void UuidBinToHexa(unsigned char* bytes, int /*bytesLength*/, unsigned char* text, int textLength) {
-    UuidBinToHexa_V2(bytes, kUuidBytes, text, textLength);
+void UuidBinToHexa(unsigned char* bytes, int /*bytesLength*/, unsigned char* text, int /*textLength*/) {
+    const UuidCharacters characters(bytes);
+    std::memcpy(text, characters.text, UuidCharacters::kLength);
+    text[UuidCharacters::kLength] = 0;
 }
 
 void UuidBinToHexa_V2(unsigned char* bytes, int length, unsigned char* text, int /*textLength*/) {

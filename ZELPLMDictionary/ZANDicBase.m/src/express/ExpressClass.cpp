@@ -49,8 +49,14 @@ ZELString TargetName(OXMIDicAttribute& attribute, const ZELString& otherName) {
     return target ? NameOf(*target) : otherName;
 }
 
+int CollectionOf(OXMIDicAttribute& attribute) {
+    const ZanDicAttribute* const stored = AttributeBehind(attribute);
+    return stored != nullptr ? StoredAttribute(*stored).Collection() : 0;
+}
+
 bool IsExternal(OXMIDicAttribute& attribute) {
-    const int scope = StoredModeOf(attribute, StoredMode::Scope);
+    const ZanDicAttribute* const stored = AttributeBehind(attribute);
+    const int scope = stored != nullptr ? StoredAttribute(*stored).Scope() : 0;
     return scope == OXMDicSCOPE_External || scope == OXMDicSCOPE_Vault;
 }
 
@@ -123,7 +129,7 @@ void ExpressClass::OptionalAndCollection(OXMIDicAttribute& attribute) {
     int upper = 0;
     attribute.GetLower(&lower);
     attribute.GetUpper(&upper);
-    Put(WordOf(kCollectionWords, StoredModeOf(attribute, StoredMode::Collection)), kBoundsBegin);
+    Put(WordOf(kCollectionWords, CollectionOf(attribute)), kBoundsBegin);
     Number(lower > 0 ? lower : 0);
     Put(kBoundsSeparator);
     if (upper > 0) {
@@ -183,7 +189,7 @@ void ExpressClass::InverseLine(OXMIDicElementH& element) {
     const ZanDicRef<OXMIDicInverse> inverse = As<OXMIDicInverse>(element);
     if (attribute && inverse) {
         if (IsSet<&OXMIDicAttribute::GetMultiValuated>(*attribute)) {
-            Put(WordOf(kInversePrefixes, StoredModeOf(*attribute, StoredMode::Collection)));
+            Put(WordOf(kInversePrefixes, CollectionOf(*attribute)));
         }
         ZanDicRef<OXMIDicRelationship> relationship;
         inverse->GetInverse(relationship.Out());

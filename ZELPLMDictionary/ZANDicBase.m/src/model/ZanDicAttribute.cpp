@@ -136,12 +136,6 @@ void ZanDicAttribute::store_Mode(const Mode& mode, int value) {
     _Modes = (_Modes & ~(mask << mode.shift)) | ((static_cast<std::uint32_t>(value) & mask) << mode.shift);
 }
 
-int ZanDicAttribute::stored_Mode(const Mode& mode) const {
-    const int range = 1 << mode.bits;
-    const int value = static_cast<int>(_Modes >> mode.shift) & (range - 1);
-    return value >= range / 2 ? value - range : value;
-}
-
 int ZanDicAttribute::checked_Mode(const Mode& mode) const {
     const int value = stored_Mode(mode);
     if (value < 1 || value > mode.highest) {

@@ -1,39 +1,21 @@
 #include "ZanDicStored.h"
 
-#include "ZanDicAttribute.h"
 #include "ZanDicImplementation.h"
 #include "ZanDicPackage.h"
 
-namespace {
-
-const ZanDicAttribute::Mode& ModeOf(StoredMode mode) {
-    switch (mode) {
-        case StoredMode::Aggregation:
-            return ZanDicAttribute::kAggregation;
-        case StoredMode::Access:
-            return ZanDicAttribute::kAccess;
-        case StoredMode::Case:
-            return ZanDicAttribute::kCase;
-        case StoredMode::Scope:
-            return ZanDicAttribute::kScope;
-        case StoredMode::Facet:
-            return ZanDicAttribute::kFacet;
-        case StoredMode::Collection:
-            break;
-    }
-    return ZanDicAttribute::kCollection;
+const ZanDicAttribute* AttributeBehind(const ZanDicObj* object) {
+    if (object == nullptr || object->get_type() != ZanDicObj::_type_Attribute) return nullptr;
+    return static_cast<const ZanDicAttribute*>(object);
 }
 
-}  // namespace
-
-StoredAttribute::StoredAttribute(const IUnknown& attribute) : _Attribute(nullptr) {
-    const ZanDicObj* const object = ImplementationOf(&attribute);
-    if (object == nullptr || object->get_type() != ZanDicObj::_type_Attribute) return;
-    _Attribute = static_cast<const ZanDicAttribute*>(object);
+const ZanDicAttribute* AttributeBehind(const IUnknown& face) {
+    return AttributeBehind(ImplementationOf(&face));
 }
 
-int StoredAttribute::Mode(StoredMode mode) const {
-    return _Attribute != nullptr ? _Attribute->stored_Mode(ModeOf(mode)) : 0;
+const ZanHashList* OwnAttributesOf(const IUnknown& classElement) {
+    const ZanDicObj* const object = ImplementationOf(&classElement);
+    if (object == nullptr || object->get_type() != ZanDicObj::_type_Class) return nullptr;
+    return &static_cast<const ZanDicClass*>(object)->own_Attributes();
 }
 
 bool IsOfThisLibrary(const IUnknown& object) { return ImplementationOf(&object) != nullptr; }

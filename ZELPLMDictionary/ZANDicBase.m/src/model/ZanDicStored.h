@@ -1,34 +1,92 @@
-/// What the writers need of the model and no interface gives: the stored numbers of enumerated properties
-/// (their getters end the process where a number has no word), which links were set and have lost their
-/// object, and the content that a package was loaded from.
+/// What the writers need of the model and no interface gives: the values of attributes, read in place (they
+/// are nearly all of a document, and the getters of enumerated ones end the process where a number has no
+/// word), which links were set and have lost their object, and the content that a package was loaded from.
 #ifndef ZAN_DIC_STORED_H
 #define ZAN_DIC_STORED_H
 
 #include "OXMDicTypes.h"
+#include "ZanDicAttribute.h"
+#include "ZanDicAttributeFields.h"
+#include "ZanDicClass.h"
 #include "ZanDicObj.h"
+#include "ZanDicPrimitive.h"
+#include "ZanHashList.h"
 
 class IUnknown;
-class ZanDicAttribute;
 
-/// The enumerated properties of an attribute.
-enum class StoredMode { Aggregation, Access, Case, Scope, Facet, Collection };
-
-/// The attribute behind an interface, for those who ask for several numbers of it. No reference is taken.
+/// An attribute's values, in place. No reference is taken: the attribute has to live as long as its view.
 class StoredAttribute {
 public:
-    explicit StoredAttribute(const IUnknown& attribute);
+    explicit StoredAttribute(const ZanDicAttribute& attribute) : _Attribute(attribute) {}
 
-    /// \returns the stored number; 0, which is no property's word, for what is no attribute of this library.
-    int Mode(StoredMode mode) const;
+    OXMDicTYPE Kind() const { return _Attribute.Type(); }
+    const ZELString& Name() const { return _Attribute.Name(); }
+    const ZELDbBinary& Uuid() const { return _Attribute.Uuid(); }
+    int Visibility() const { return _Attribute.get_Visibility(); }
+    bool IsMandatory() const { return _Attribute._Mandatory == 1; }
+    bool IsMultiValuated() const { return _Attribute._MultiValuated == 1; }
+    bool IsSensitive() const { return _Attribute._Sensitive == 1; }
+    bool IsInjective() const { return _Attribute._Injective == 1; }
+    int MaxLength() const { return _Attribute._MaxLength; }
+    int Lower() const { return _Attribute._Lower; }
+    int Upper() const { return _Attribute._Upper; }
+
+    /// The stored numbers of enumerated properties, whatever they are.
+    int Aggregation() const { return _Attribute.stored_Mode(ZanDicAttribute::kAggregation); }
+    int Access() const { return _Attribute.stored_Mode(ZanDicAttribute::kAccess); }
+    int Case() const { return _Attribute.stored_Mode(ZanDicAttribute::kCase); }
+    int Scope() const { return _Attribute.stored_Mode(ZanDicAttribute::kScope); }
+    int Facet() const { return _Attribute.stored_Mode(ZanDicAttribute::kFacet); }
+    int Collection() const { return _Attribute.stored_Mode(ZanDicAttribute::kCollection); }
+
+    /// What types the attribute: primitive, enumeration or target class; null without a type.
+    const ZanDicElement* Type() const { return _Attribute._TypeElement.Get(); }
+    /// The kind of the primitive that types the attribute; UNDEFINED for any other type.
+    OXMDicPRIMITIVEType Primitive() const {
+        const ZanDicElement* const type = Type();
+        if (type == nullptr || type->Type() != OXMDicTYPE_Primitive) return OXMDicPRIMITIVEType_UNDEFINED;
+        return type->get_type() == ZanDicObj::_type_Primitive
+                   ? static_cast<const ZanDicPrimitive*>(type)->Primitive()
+                   : OXMDicPRIMITIVEType_UNDEFINED;
+    }
+    bool HasClassAsType() const {
+        const ZanDicElement* const type = Type();
+        return type != nullptr && (type->Type() == OXMDicTYPE_Class || type->Type() == OXMDicTYPE_Extension);
+    }
+
+    /// What few attributes have; null for the others.
+    const ZanDicAttributeFields* Rare() const {
+        return static_cast<const ZanDicAttributeFields*>(_Attribute.rare());
+    }
+
+    int LostLinks(ZanDicObj::LinkName link) const {
+        return ZanDicLinkBase::LostCount() == 0 ? 0 : _Attribute.lost_Links(link);
+    }
+
+    /// Let the processor fetch, long before it is read, what types the attribute: first the place of the
+    /// link, then the object, then its name. Each has to have been fetched before the next is asked for.
+    void PrefetchTypePlace() const { _Attribute._TypeElement.PrefetchPlace(); }
+    void PrefetchType() const {
+        const ZanDicElement* const type = Type();
+        if (type == nullptr) return;
+        __builtin_prefetch(type);
+        __builtin_prefetch(&type->Uuid());
+    }
+    void PrefetchTypeName() const {
+        if (const ZanDicElement* const type = Type()) __builtin_prefetch(type->Name().ConvertToChar());
+    }
 
 private:
-    const ZanDicAttribute* _Attribute;  ///< not owning; null for what is no attribute of this library
+    const ZanDicAttribute& _Attribute;
 };
 
-/// The same for one number.
-inline int StoredModeOf(const IUnknown& attribute, StoredMode mode) {
-    return StoredAttribute(attribute).Mode(mode);
-}
+/// \returns the attribute behind \p object, or behind an interface of it; null for what is none of this
+/// library.
+const ZanDicAttribute* AttributeBehind(const ZanDicObj* object);
+const ZanDicAttribute* AttributeBehind(const IUnknown& face);
+
+/// \returns the own attributes of a class, in order; null for what is no class of this library.
+const ZanHashList* OwnAttributesOf(const IUnknown& classElement);
 
 /// Whether the object behind \p object is one of this library's own.
 bool IsOfThisLibrary(const IUnknown& object);

@@ -31,6 +31,11 @@ void WriteFreeAttributes(XmlNode& node, OXMIDicElementH& element) {
     ZELListValZELUnicodeString names;
     ZELListValZELUnicodeString values;
     element.GetAllOtherAttributes(names, values);
+    WriteFreeAttributes(node, names, values);
+}
+
+void WriteFreeAttributes(XmlNode& node, const ZELListValZELUnicodeString& names,
+                         const ZELListValZELUnicodeString& values) {
     for (int position = 1; position <= names.Size(); ++position) {
         const std::string_view name = names[position].View();
         const std::string_view value = values[position].View();

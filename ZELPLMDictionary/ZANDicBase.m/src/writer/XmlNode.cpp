@@ -2,26 +2,8 @@
 
 #include <charconv>
 
-#include "HexToBinary.h"
 #include "WriterTexts.h"
 #include "ZANDicWords.h"
-
-namespace {
-
-/// The text of a UUID that has bytes, without allocation.
-struct UuidCharacters {
-    static constexpr std::size_t kLength = 35;
-
-    explicit UuidCharacters(const ZELDbBinary& uuid) {
-        ZELDbBinary bytes = uuid;  // the formatter wants bytes that it could change
-        UuidBinToHexa(const_cast<unsigned char*>(bytes.Data()), ZELDbBinary::kCapacity, text, sizeof text);
-    }
-    std::string_view View() const { return {reinterpret_cast<const char*>(text), kLength}; }
-
-    unsigned char text[kLength + 1];
-};
-
-}  // namespace
 
 XmlNode::XmlNode(ZELVBTXMLWriter& document, std::string& scratch, const ZanDicTraceScope& trace,
                  std::string_view tag, const ZELString& name)
@@ -32,8 +14,10 @@ XmlNode::XmlNode(ZELVBTXMLWriter& document, std::string& scratch, const ZanDicTr
 void XmlNode::Text(std::string_view word, std::string_view value) {
     const long replacedBefore = _Document.Replaced();
     _Document.Attribute(word, value);
-    if (_Document.Replaced() != replacedBefore) Warn(word, writer::kReplaced);
+    if (_Document.Replaced() != replacedBefore) WarnReplaced(word);
 }
+
+void XmlNode::WarnReplaced(std::string_view word) { Warn(word, writer::kReplaced); }
 
 void XmlNode::Flag(std::string_view word, unsigned char flag) {
     _Document.PlainAttribute(word, flag == 1 ? ZANDicFormat::value::kYes : ZANDicFormat::value::kNo);
@@ -46,11 +30,11 @@ void XmlNode::Number(std::string_view word, int number) {
 }
 
 void XmlNode::Uuid(std::string_view word, const ZELDbBinary& uuid) {
-    if (!uuid.IsEmpty()) _Document.PlainAttribute(word, UuidCharacters(uuid).View());
+    if (!uuid.IsEmpty()) _Document.PlainAttribute(word, UuidCharacters(uuid.Data()).View());
 }
 
 void XmlNode::ListItem(const ZELDbBinary& uuid) {
-    if (!uuid.IsEmpty()) ListItem(UuidCharacters(uuid).View());
+    if (!uuid.IsEmpty()) ListItem(UuidCharacters(uuid.Data()).View());
 }
 
 void XmlNode::WarnLost(const IUnknown& element, ZanDicObj::LinkName link, std::string_view word,

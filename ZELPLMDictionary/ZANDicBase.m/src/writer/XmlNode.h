@@ -2,12 +2,13 @@
 #ifndef XML_NODE_H
 #define XML_NODE_H
 
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "OXMDicTypes.h"
+#include "UuidCharacters.h"
 #include "WriterTexts.h"
+#include "XmlFragment.h"
 #include "ZELDbBinary.h"
 #include "ZELString.h"
 #include "ZELVBTXMLWriter.h"
@@ -49,28 +50,60 @@ public:
     /// Writes a warning line about an attribute. \param more may be empty.
     void Warn(std::string_view word, std::string_view reason, std::string_view more = {});
 
-    /// \returns the number that the attribute behind \p element, which is that of the node, stores.
-    int Stored(const IUnknown& element, StoredMode mode) {
-        if (!_Stored) _Stored.emplace(element);
-        return _Stored->Mode(mode);
+    // The same for attributes whose names are known when the program is compiled: cheaper.
+
+    template <const std::string_view& word>
+    void Text(std::string_view value) {
+        const long replacedBefore = _Document.Replaced();
+        Put(kAttributeBegin<word>);
+        _Document.EndValue(value);
+        if (_Document.Replaced() != replacedBefore) [[unlikely]]
+            WarnReplaced(word);
+    }
+    /// Nothing for a code without word.
+    template <const std::string_view& word, const auto& Words>
+    void Code(int code) {
+        if (code >= 0 && code < fragment::kMostCodes) {
+            Put(kAttributeOfCode<word, Words>[static_cast<std::size_t>(code)]);
+        }
+    }
+    template <const std::string_view& word>
+    void Flag(bool flag) {
+        Put(kAttributeOfFlag<word>[flag ? 1 : 0]);
+    }
+    template <const std::string_view& word>
+    void Uuid(const ZELDbBinary& uuid) {
+        if (uuid.IsEmpty()) return;
+        Put(kAttributeBegin<word>);
+        UuidCharacters characters(uuid.Data());
+        characters.text[UuidCharacters::kLength] = '"';
+        _Document.Ready(characters.text, UuidCharacters::kLength + 1);
+    }
+
+    /// Writes \p count warning lines about links that were lost.
+    void WarnLost(int count, std::string_view word) {
+        for (; count > 0; --count) Warn(word, writer::kLostLink);
     }
 
     std::string_view Tag() const { return _Tag; }
     const ZanDicTraceScope& Trace() const { return _Trace; }
     ZELVBTXMLWriter& Document() { return _Document; }
 
-    /// The primitive that types a simple attribute, noted by the row that writes the type.
-    OXMDicPRIMITIVEType primitive = OXMDicPRIMITIVEType_UNDEFINED;
     /// Whether what types a simple attribute is a primitive.
     bool hasPrimitive = false;
 
 private:
+    template <std::size_t capacity>
+    void Put(const XmlFragment<capacity>& piece) {
+        _Document.Ready(piece.text, piece.size);
+    }
+    void WarnReplaced(std::string_view word);
+
     ZELVBTXMLWriter& _Document;
     std::string& _Scratch;
     const ZanDicTraceScope& _Trace;
     std::string_view _Tag;
     const ZELString& _Name;
-    std::optional<StoredAttribute> _Stored;  ///< known once it was asked for
 };
 
 #endif

@@ -69,13 +69,6 @@ HRESULT Word(XmlNode& node, Interface& element, std::string_view word) {
     return S_OK;
 }
 
-/// The word of a stored number, whose getter would end the process where the table has none.
-template <StoredMode mode, const auto& Words, class Interface>
-HRESULT StoredWord(XmlNode& node, Interface& element, std::string_view word) {
-    node.Word(word, ZANDicFormat::WordOf(Words, node.Stored(element, mode)));
-    return S_OK;
-}
-
 /// The element's own UUID.
 template <class Interface>
 HRESULT Uuid(XmlNode& node, Interface& element, std::string_view word) {
@@ -137,6 +130,8 @@ HRESULT References(XmlNode& node, Interface& element, std::string_view word) {
 /// The free attributes, behind all others. One that a reader would not give back as such is left out with a
 /// warning: a word of the tag's own vocabulary, and what is no name at all.
 void WriteFreeAttributes(XmlNode& node, OXMIDicElementH& element);
+void WriteFreeAttributes(XmlNode& node, const ZELListValZELUnicodeString& names,
+                         const ZELListValZELUnicodeString& values);
 
 /// Writes the rows of \p rows. \returns the first failure, behind which the others are written all the same.
 template <class Interface, std::size_t N>
@@ -180,6 +175,9 @@ struct XmlKind {
     std::string_view (*tag)(IUnknown& element);
     HRESULT (*write)(XmlNode& node, IUnknown& element);
     HRESULT (*listChildren)(IUnknown& element, ZELListPtrIUnknown* children);  ///< null: none
+    /// The same as write for an attribute of this library; null for other kinds.
+    HRESULT (*writeAttribute)(XmlNode& node, const StoredAttribute& attribute) = nullptr;
+    std::string_view attributeTag = {};  ///< of such a kind
 };
 
 /// The tag of kinds that have one only.

@@ -4,6 +4,7 @@
 #include <array>
 #include <iterator>
 
+#include "OXMIDicClass.h"
 #include "WriterTexts.h"
 
 namespace {
@@ -26,6 +27,15 @@ const XmlKind* KindOf(OXMDicTYPE type) {
     }();
     const auto index = static_cast<std::size_t>(type);
     return index < kinds.size() ? kinds[index] : nullptr;
+}
+
+bool CanWriteInPlace(OXMDicTYPE type) {
+    const XmlKind* const kind = KindOf(type);
+    return kind != nullptr && kind->writeAttribute != nullptr;
+}
+
+void ListUniques(IUnknown& element, ZanDicRefList& uniques) {
+    if (const ZanDicRef<OXMIDicClass> face = As<OXMIDicClass>(element)) face->GetUniques(uniques.Out());
 }
 
 constexpr ZanDicTraceScope kTrace(writer::kDisplayElement);
@@ -78,6 +88,53 @@ void XmlWalk::WriteNode(const XmlKind& kind, OXMIDicElementH& element, const ZEL
     XmlNode node(_Document, _Scratch, trace, kind.tag(element), name);
     level.rc = kind.write(node, element);
     level.hasNode = true;
-    if (kind.listChildren != nullptr) kind.listChildren(element, level.children.Out());
+    const bool hasAttributes = FindAttributes(element);
+    if (hasAttributes) {
+        ListUniques(element, level.children);
+    } else if (kind.listChildren != nullptr) {
+        kind.listChildren(element, level.children.Out());
+    }
     trace.Exit(level.rc);
+    if (hasAttributes) WriteAttributes();
+}
+
+/// Takes the attributes of a class of this library, which are written where they stand: going through an
+/// interface of each costs as much as writing it. \returns false for what has none or is no such class.
+bool XmlWalk::FindAttributes(const IUnknown& element) {
+    const ZanHashList* const attributes = OwnAttributesOf(element);
+    if (attributes == nullptr) return false;
+    for (int position = 1; position <= attributes->Size(); ++position) {
+        ZanDicObj* const attribute = (*attributes)[position];
+        if (AttributeBehind(attribute) == nullptr || !CanWriteInPlace(attribute->Type())) {
+            _ATTRIBUTES.clear();
+            return false;
+        }
+        _ATTRIBUTES.push_back(ZanDicRef<ZanDicObj>::Share(attribute));
+    }
+    return !_ATTRIBUTES.empty();
+}
+
+void XmlWalk::WriteAttributes() {
+    const std::size_t count = _ATTRIBUTES.size();
+    for (std::size_t index = 0; index < count; ++index) {
+        // What types attributes lies all over the memory: it is asked for in time, step by step.
+        if (index + 6 < count) At(index + 6).PrefetchTypePlace();
+        if (index + 4 < count) At(index + 4).PrefetchType();
+        if (index + 2 < count) At(index + 2).PrefetchTypeName();
+        WriteAttribute(At(index));
+        _ATTRIBUTES[index].Reset();
+    }
+    _ATTRIBUTES.clear();
+}
+
+void XmlWalk::WriteAttribute(const StoredAttribute& attribute) {
+    kTrace.Start(writer::kStart);
+    const XmlKind& kind = *KindOf(attribute.Kind());
+    const ZanDicTraceScope trace(kind.operation);
+    trace.Start();
+    XmlNode node(_Document, _Scratch, trace, kind.attributeTag, attribute.Name());
+    const HRESULT rc = kind.writeAttribute(node, attribute);
+    trace.Exit(rc);
+    _Document.End();
+    kTrace.Exit(rc);
 }

@@ -31,9 +31,18 @@ private:
     void Enter(OXMIDicElementH* element);
     void WriteNode(const XmlKind& kind, OXMIDicElementH& element, const ZELString& name, Level& level);
 
+    bool FindAttributes(const IUnknown& element);
+    void WriteAttributes();
+    void WriteAttribute(const StoredAttribute& attribute);
+    StoredAttribute At(std::size_t index) const {
+        return StoredAttribute(static_cast<const ZanDicAttribute&>(*_ATTRIBUTES[index]));
+    }
+
     ZELVBTXMLWriter& _Document;
     std::string _Scratch;
     std::vector<Level> _LEVELS;
+    std::vector<ZanDicRef<ZanDicObj>>
+        _ATTRIBUTES;  ///< of the class that is being written, one reference each
 };
 
 #endif
