@@ -45,7 +45,7 @@ public:
     static std::uint32_t IdentityOf(const ZanDicObj& object);
 
     /// Lets the processor fetch what Object reads.
-    void PrefetchPlace() const { __builtin_prefetch(&places[_Place]); }
+    [[gnu::always_inline]] void PrefetchPlace() const { __builtin_prefetch(&places[_Place]); }
 
 protected:
     /// \param object null resets the link. An object that is gone cannot be linked: lost at once.

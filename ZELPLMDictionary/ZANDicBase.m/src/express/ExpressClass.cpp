@@ -1,18 +1,17 @@
 #include "ExpressClass.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 
 #include "ExpressTexts.h"
-#include "OXMIDicInverse.h"
-#include "OXMIDicPrimitive.h"
-#include "OXMIDicRelationship.h"
 #include "OXMIDicUnique.h"
 #include "ZELUnicodeString.h"
-#include "ZanDicStored.h"
 
 namespace {
 
 using namespace express;
+using std::literals::operator""sv;
 using ZANDicFormat::FindCode;
 using ZANDicFormat::WordOf;
 
@@ -35,57 +34,66 @@ bool IsSet(Interface& element) {
     return flag == 1;
 }
 
-/// The kind of what is a primitive; else UNDEFINED.
-OXMDicPRIMITIVEType KindOf(OXMIDicElement& type) {
-    const ZanDicRef<OXMIDicPrimitive> primitive = As<OXMIDicPrimitive>(type);
-    return primitive ? primitive->Primitive() : OXMDicPRIMITIVEType_UNDEFINED;
-}
+constexpr bool IsExternal(int scope) { return scope == OXMDicSCOPE_External || scope == OXMDicSCOPE_Vault; }
 
-/// The name of the target class; \p otherName when there is none.
-template <class Interface>
-ZELString TargetName(OXMIDicAttribute& attribute, const ZELString& otherName) {
-    ZanDicRef<OXMIDicClass> target;
-    if (const ZanDicRef<Interface> face = As<Interface>(attribute)) face->GetTarget(target.Out());
-    return target ? NameOf(*target) : otherName;
-}
-
-int CollectionOf(OXMIDicAttribute& attribute) {
-    const ZanDicAttribute* const stored = AttributeBehind(attribute);
-    return stored != nullptr ? StoredAttribute(*stored).Collection() : 0;
-}
-
-bool IsExternal(OXMIDicAttribute& attribute) {
-    const ZanDicAttribute* const stored = AttributeBehind(attribute);
-    const int scope = stored != nullptr ? StoredAttribute(*stored).Scope() : 0;
-    return scope == OXMDicSCOPE_External || scope == OXMDicSCOPE_Vault;
-}
+/// What fills names up to their column.
+constexpr auto kFilling = [] {
+    std::array<char, kNameColumns> blanks{};
+    blanks.fill(' ');
+    return blanks;
+}();
 
 }  // namespace
 
+ExpressClass::Member::Member(ZanDicRef<ZanDicObj> own)
+    : name(own->Name()), type(own->Type()), object(std::move(own)) {
+    if (const ZanDicAttribute* const attribute = AttributeBehind(object.Get())) stored.emplace(*attribute);
+}
+
+ExpressClass::Member::Member(OXMIDicElementH& face) : name(NameOf(face)), type(TypeCodeOf(face)) {
+    if (const ZanDicAttribute* const attribute = AttributeBehind(face)) stored.emplace(*attribute);
+}
+
 HRESULT ExpressClass::Write(OXMIDicClass& element) {
     EntityLine(element);
+    ZanDicRefList faces;
+    ListMembers(element, faces);
 
-    ZanDicRefList members;
-    element.GetClassElements(members.Out());
     bool hasInverse = false;
-    for (int position = 1; position <= members.Size(); ++position) {
-        auto& member = static_cast<OXMIDicElementH&>(*members[position]);
-        const OXMDicTYPE type = TypeCodeOf(member);
-        if (type == OXMDicTYPE_Inverse) hasInverse = true;
-        if (type != OXMDicTYPE_Inverse && type != OXMDicTYPE_Unique) AttributeLine(member);
+    const std::size_t count = _MEMBERS.size();
+    for (std::size_t index = 0; index < count; ++index) {
+        // What types attributes lies all over the memory: it is asked for in time, step by step.
+        if (index + 6 < count && _MEMBERS[index + 6].stored) _MEMBERS[index + 6].stored->PrefetchTypePlace();
+        if (index + 4 < count && _MEMBERS[index + 4].stored) _MEMBERS[index + 4].stored->PrefetchType();
+        if (index + 2 < count && _MEMBERS[index + 2].stored) _MEMBERS[index + 2].stored->PrefetchTypeName();
+        const Member& member = _MEMBERS[index];
+        if (member.type == OXMDicTYPE_Inverse) hasInverse = true;
+        if (member.type != OXMDicTYPE_Inverse && member.type != OXMDicTYPE_Unique) AttributeLine(member);
     }
-    if (hasInverse) {
-        Put(kInverseHeader);
-        EndLine();
+    if (hasInverse) Put(kInverseHeader, "\n"sv);
+    for (std::size_t index = 0; hasInverse && index < count; ++index) {
+        if (_MEMBERS[index].type == OXMDicTYPE_Inverse) InverseLine(_MEMBERS[index]);
     }
-    for (int position = 1; hasInverse && position <= members.Size(); ++position) {
-        auto& member = static_cast<OXMIDicElementH&>(*members[position]);
-        if (TypeCodeOf(member) == OXMDicTYPE_Inverse) InverseLine(member);
-    }
+    _MEMBERS.clear();
 
     if (const HRESULT rc = UniqueLines(element); Failed(rc)) return rc;
-    Put(kEndEntity, '\n', '\n');
+    Put(kEndEntity, "\n\n"sv);
     return S_OK;
+}
+
+/// Takes the members of a class: those of a class of this library where they are stored, others by their
+/// interfaces, which \p faces then holds.
+void ExpressClass::ListMembers(OXMIDicClass& element, ZanDicRefList& faces) {
+    if (const ZanHashList* const own = OwnAttributesOf(element)) {
+        for (int position = 1; position <= own->Size(); ++position) {
+            _MEMBERS.emplace_back(ZanDicRef<ZanDicObj>::Share((*own)[position]));
+        }
+        return;
+    }
+    element.GetClassElements(faces.Out());
+    for (int position = 1; position <= faces.Size(); ++position) {
+        _MEMBERS.emplace_back(static_cast<OXMIDicElementH&>(*faces[position]));
+    }
 }
 
 void ExpressClass::EntityLine(OXMIDicClass& element) {
@@ -93,62 +101,48 @@ void ExpressClass::EntityLine(OXMIDicClass& element) {
     ZanDicRef<OXMIDicClass> superClass;
     element.GetSuperClass(superClass.Out());
     if (superClass) Put(kSubtypeOf, NameOf(*superClass).View(), kSubtypeEnd);
-    Put(IsSet<&OXMIDicClass::GetAbstract>(element) ? kAbstract : kEnd);
-    EndLine();
+    Put(IsSet<&OXMIDicClass::GetAbstract>(element) ? kAbstract : kEnd, "\n"sv);
 }
 
-/// The name of an attribute, filled up to its column.
-void ExpressClass::Name(OXMIDicElementH& element) {
-    const ZELString name = NameOf(element);
-    Put(name.View());
-    for (int length = ZELUnicodeString(name).Length(); length < kNameColumns; ++length) Put(' ');
-    Put(kColon);
+/// The name of a member, filled up to its column.
+void ExpressClass::Name(const Member& member, std::string_view begin) {
+    const int length = ZELUnicodeString(member.name).Length();
+    const auto missing = static_cast<std::size_t>(std::max(kNameColumns - length, 0));
+    Put(begin, member.name.View(), std::string_view(kFilling.data(), missing), kColon);
 }
 
-void ExpressClass::AttributeLine(OXMIDicElementH& element) {
-    const ZanDicRef<OXMIDicAttribute> attribute = As<OXMIDicAttribute>(element);
-    ZanDicRef<OXMIDicElement> specialized;
-    if (attribute) attribute->GetSpecializedAttribute(specialized.Out());
-
-    Put(kIndentation);
-    if (specialized) Put(kSpecialization);
-    Name(element);
-    if (attribute) {
-        const OXMDicTYPE type = TypeCodeOf(element);
-        if (type == OXMDicTYPE_Simple) SimpleType(*attribute);
-        if (type == OXMDicTYPE_Relationship) RelationType(*attribute);
+void ExpressClass::AttributeLine(const Member& member) {
+    const bool specializes = member.stored && member.stored->IsSpecialized();
+    Name(member, specializes ? kSpecialization : kIndentation);
+    if (member.stored) {
+        if (member.type == OXMDicTYPE_Simple) SimpleType(*member.stored);
+        if (member.type == OXMDicTYPE_Relationship) RelationType(*member.stored);
     }
     EndLine();
-    if (specialized) Put(kSpecializationEnd, '\n');
+    if (specializes) Put(kSpecializationEnd, "\n"sv);
 }
 
-void ExpressClass::OptionalAndCollection(OXMIDicAttribute& attribute) {
-    if (!IsSet<&OXMIDicAttribute::GetMandatory>(attribute)) Put(kOptional);
-    if (!IsSet<&OXMIDicAttribute::GetMultiValuated>(attribute)) return;
-    int lower = 0;
-    int upper = 0;
-    attribute.GetLower(&lower);
-    attribute.GetUpper(&upper);
-    Put(WordOf(kCollectionWords, CollectionOf(attribute)), kBoundsBegin);
-    Number(lower > 0 ? lower : 0);
+void ExpressClass::OptionalAndCollection(const StoredAttribute& attribute) {
+    if (!attribute.IsMandatory()) Put(kOptional);
+    if (!attribute.IsMultiValuated()) return;
+    Put(WordOf(kCollectionWords, attribute.Collection()), kBoundsBegin);
+    Number(std::max(attribute.Lower(), 0));
     Put(kBoundsSeparator);
-    if (upper > 0) {
-        Number(upper);
+    if (attribute.Upper() > 0) {
+        Number(attribute.Upper());
         Put(kBoundsEnd);
     } else {
         Put(kNoUpperBound);
     }
 }
 
-void ExpressClass::SimpleType(OXMIDicAttribute& attribute) {
-    ZanDicRef<OXMIDicElement> type;
-    attribute.GetType(type.Out());
-    const bool isEnum = type && TypeCodeOf(*type) == OXMDicTYPE_Enum;
-    const OXMDicPRIMITIVEType kind = type && !isEnum ? KindOf(*type) : OXMDicPRIMITIVEType_UNDEFINED;
+void ExpressClass::SimpleType(const StoredAttribute& attribute) {
+    const ZanDicElement* const type = attribute.Type();
+    const bool isEnum = type != nullptr && type->Type() == OXMDicTYPE_Enum;
+    const OXMDicPRIMITIVEType kind = attribute.Primitive();
     const bool hasLength = kind == OXMDicPRIMITIVEType_String || kind == OXMDicPRIMITIVEType_Binary;
     if (kind == OXMDicPRIMITIVEType_Date) _HasDate = true;
-    int length = -1;
-    attribute.GetMaxLength(&length);
+    int length = attribute.MaxLength();
     if (length < 1 && hasLength) length = kDefaultLength;
 
     OptionalAndCollection(attribute);
@@ -159,43 +153,34 @@ void ExpressClass::SimpleType(OXMIDicAttribute& attribute) {
         Put(kLengthEnd);
     }
     if (isEnum) {
-        Put(kEnumName, NameOf(*type).View(), kEnumNameEnd);
+        Put(kEnumName, type->Name().View(), kEnumNameEnd);
     } else {
         Put(kSimpleEnd);
     }
 }
 
-void ExpressClass::RelationType(OXMIDicAttribute& attribute) {
+void ExpressClass::RelationType(const StoredAttribute& attribute) {
     OptionalAndCollection(attribute);
-    ZanDicRef<OXMIDicElement> type;
-    attribute.GetType(type.Out());
-    if (!type || TypeCodeOf(*type) != OXMDicTYPE_Primitive || !IsExternal(attribute)) {
-        Put(TargetName<OXMIDicRelationship>(attribute, ZELString(kUnknownTarget)).View(), kEnd);
+    const ZanDicElement* const type = attribute.Type();
+    if (type == nullptr || type->Type() != OXMDicTYPE_Primitive || !IsExternal(attribute.Scope())) {
+        Put(attribute.HasClassAsType() ? type->Name().View() : kUnknownTarget, kEnd);
         return;
     }
-    const OXMDicPRIMITIVEType kind = KindOf(*type);
+    const OXMDicPRIMITIVEType kind = attribute.Primitive();
     if (FindCode(kExternalBegins, kind) == nullptr) return;
-    int length = -1;
-    attribute.GetMaxLength(&length);
     Put(WordOf(kExternalBegins, kind));
-    Number(length);
+    Number(attribute.MaxLength());
     Put(WordOf(kExternalEnds, kind));
 }
 
-void ExpressClass::InverseLine(OXMIDicElementH& element) {
-    Put(kIndentation);
-    Name(element);
-    const ZanDicRef<OXMIDicAttribute> attribute = As<OXMIDicAttribute>(element);
-    const ZanDicRef<OXMIDicInverse> inverse = As<OXMIDicInverse>(element);
-    if (attribute && inverse) {
-        if (IsSet<&OXMIDicAttribute::GetMultiValuated>(*attribute)) {
-            Put(WordOf(kInversePrefixes, CollectionOf(*attribute)));
-        }
-        ZanDicRef<OXMIDicRelationship> relationship;
-        inverse->GetInverse(relationship.Out());
-        Put(TargetName<OXMIDicInverse>(*attribute, NameOf(element)).View(), kFor);
-        if (relationship) {
-            Put(NameOf(*relationship).View(), kEnd);
+void ExpressClass::InverseLine(const Member& member) {
+    Name(member, kIndentation);
+    if (member.stored) {
+        const StoredAttribute& inverse = *member.stored;
+        if (inverse.IsMultiValuated()) Put(WordOf(kInversePrefixes, inverse.Collection()));
+        Put(inverse.HasClassAsType() ? inverse.Type()->Name().View() : member.name.View(), kFor);
+        if (const ZanDicAttribute* const relationship = inverse.Inverted()) {
+            Put(relationship->Name().View(), kEnd);
         } else {
             Put(kNoInverse);
         }
@@ -211,7 +196,7 @@ HRESULT ExpressClass::UniqueLines(OXMIDicClass& element) {
         if (uniques[position] == nullptr) return E_FAIL;
         const ZanDicRef<OXMIDicUnique> unique = As<OXMIDicUnique>(*uniques[position]);
         if (!unique || TypeCodeOf(*unique) != OXMDicTYPE_Unique) continue;
-        if (!hasHeader) Put(kUniqueHeader, '\n');
+        if (!hasHeader) Put(kUniqueHeader, "\n"sv);
         hasHeader = true;
 
         Put(kIndentation, NameOf(*unique).View(), kColon);

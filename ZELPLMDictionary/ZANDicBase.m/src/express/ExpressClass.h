@@ -2,10 +2,15 @@
 #ifndef EXPRESS_CLASS_H
 #define EXPRESS_CLASS_H
 
-#include "OXMIDicAttribute.h"
+#include <optional>
+#include <string_view>
+#include <vector>
+
 #include "OXMIDicClass.h"
 #include "ZELDurableFile.h"
+#include "ZELString.h"
 #include "ZanDicQuery.h"
+#include "ZanDicStored.h"
 
 /// Writes entities into a schema.
 class ExpressClass {
@@ -19,23 +24,36 @@ public:
     bool HasDate() const { return _HasDate; }
 
 private:
+    /// A member of the class that is being written, an attribute as a rule.
+    struct Member {
+        explicit Member(ZanDicRef<ZanDicObj> own);
+        explicit Member(OXMIDicElementH& face);
+
+        ZELString name;
+        OXMDicTYPE type;
+        ZanDicRef<ZanDicObj> object;            ///< null for one that is known by its interface
+        std::optional<StoredAttribute> stored;  ///< none for what is no attribute of this library
+    };
+
+    void ListMembers(OXMIDicClass& element, ZanDicRefList& faces);
     void EntityLine(OXMIDicClass& element);
-    void AttributeLine(OXMIDicElementH& element);
-    void SimpleType(OXMIDicAttribute& attribute);
-    void RelationType(OXMIDicAttribute& attribute);
-    void InverseLine(OXMIDicElementH& element);
+    void AttributeLine(const Member& member);
+    void SimpleType(const StoredAttribute& attribute);
+    void RelationType(const StoredAttribute& attribute);
+    void InverseLine(const Member& member);
     HRESULT UniqueLines(OXMIDicClass& element);
-    void Name(OXMIDicElementH& element);
-    void OptionalAndCollection(OXMIDicAttribute& attribute);
+    void Name(const Member& member, std::string_view begin);
+    void OptionalAndCollection(const StoredAttribute& attribute);
 
     template <class... Pieces>
     void Put(const Pieces&... pieces) {
-        (_File.Append(pieces), ...);
+        _File.AppendAll(pieces...);
     }
     void EndLine() { _File.Append('\n'); }
     void Number(int number);
 
     ZELDurableFile& _File;
+    std::vector<Member> _MEMBERS;  ///< of the class that is being written
     bool _HasDate = false;
 };
 

@@ -59,20 +59,26 @@ public:
         return static_cast<const ZanDicAttributeFields*>(_Attribute.rare());
     }
 
+    /// Whether the attribute is known to redefine one of a super class.
+    bool IsSpecialized() const { return Rare() != nullptr && Rare()->specialized; }
+    /// The relationship that an inverse inverts; null where none is set.
+    const ZanDicAttribute* Inverted() const { return Rare() != nullptr ? Rare()->inverseOf.Get() : nullptr; }
+
     int LostLinks(ZanDicObj::LinkName link) const {
         return ZanDicLinkBase::LostCount() == 0 ? 0 : _Attribute.lost_Links(link);
     }
 
     /// Let the processor fetch, long before it is read, what types the attribute: first the place of the
     /// link, then the object, then its name. Each has to have been fetched before the next is asked for.
-    void PrefetchTypePlace() const { _Attribute._TypeElement.PrefetchPlace(); }
-    void PrefetchType() const {
+    /// Calls of functions that only prefetch are dropped by the compiler: they have to be in line.
+    [[gnu::always_inline]] void PrefetchTypePlace() const { _Attribute._TypeElement.PrefetchPlace(); }
+    [[gnu::always_inline]] void PrefetchType() const {
         const ZanDicElement* const type = Type();
         if (type == nullptr) return;
         __builtin_prefetch(type);
         __builtin_prefetch(&type->Uuid());
     }
-    void PrefetchTypeName() const {
+    [[gnu::always_inline]] void PrefetchTypeName() const {
         if (const ZanDicElement* const type = Type()) __builtin_prefetch(type->Name().ConvertToChar());
     }
 

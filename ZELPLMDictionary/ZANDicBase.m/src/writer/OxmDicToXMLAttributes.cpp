@@ -75,7 +75,10 @@ HRESULT Categories(XmlNode& node, const StoredAttribute& attribute) {
 
 HRESULT Free(XmlNode& node, const StoredAttribute& attribute) {
     if (const ZanDicAttributeFields* const rare = attribute.Rare()) {
-        WriteFreeAttributes(node, rare->otherNames, rare->otherValues);
+        if (rare->otherNames.Size() == 0) return S_OK;
+        const auto names = rare->otherNames;  // whoever gets the warnings might set others
+        const auto values = rare->otherValues;
+        WriteFreeAttributes(node, names, values);
     }
     return S_OK;
 }
@@ -145,8 +148,7 @@ HRESULT Scopes(XmlNode& node, const StoredAttribute& relationship) {
 
 /// The relationship that an inverse inverts.
 HRESULT InverseOf(XmlNode& node, const StoredAttribute& inverse) {
-    if (inverse.Rare() == nullptr) return S_OK;
-    if (const ZanDicAttribute* const relationship = inverse.Rare()->inverseOf.Get()) {
+    if (const ZanDicAttribute* const relationship = inverse.Inverted()) {
         node.Uuid<word::kInverseOfRef>(relationship->Uuid());
     } else {
         node.WarnLost(inverse.LostLinks(LinkName::Inverse), word::kInverseOfRef);
