@@ -98,6 +98,23 @@ TEST_F(ZELDurableFileTest, WritesExactlyOneBuffer) {
     EXPECT_EQ(Content(path), text);
 }
 
+TEST_F(ZELDurableFileTest, TakesTheBeginningOfABlockAtEveryPlaceOfItsBuffer) {
+    const char block[16] = "0123456789abcde";
+    for (std::size_t before = ZELDurableFile::kBufferSize - 20; before < ZELDurableFile::kBufferSize + 2;
+         ++before) {
+        ZELDurableFile file;
+        ASSERT_EQ(file.Open(path), S_OK);
+        file.Append(std::string(before, 'x'));
+        file.AppendBlock(block, 10);
+        file.AppendBlock(block, 0);
+        file.Append('!');
+
+        EXPECT_EQ(file.Commit(), S_OK);
+
+        ASSERT_EQ(Content(path), std::string(before, 'x') + "0123456789!");
+    }
+}
+
 TEST_F(ZELDurableFileTest, ReplacesAFileAndKeepsItsPermissions) {
     directory.MakeFile("P.metadata", "old");
     chmod(path.c_str(), 0640);
@@ -218,6 +235,7 @@ TEST_F(ZELDurableFileTest, WhatIsNotOpenTakesNothingAndCannotBeCommitted) {
     file.Append("");
     file.Append("lost");
     file.Append('x');
+    file.AppendBlock("block", 3);
 
     EXPECT_FALSE(file.IsOpen());
     EXPECT_EQ(file.Commit(), E_FAIL);

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ZELFile.h"
@@ -72,6 +73,46 @@ TEST_F(ZELVBTXMLWriterTest, WritesOneElementALineAndIndentsByTwo) {
               "  </B>\n"
               "  <E/>\n"
               "</A>\n");
+}
+
+TEST_F(ZELVBTXMLWriterTest, TakesMarkupThatWasPutTogetherBefore) {
+    const char flag[16] = " flag=\"Yes\"";
+    const char begin[16] = " name=\"";
+    document.Begin("A");
+    document.Ready(flag, 11);
+    document.Ready(begin, 7);
+    document.EndValue("a & b");
+    document.End();
+
+    EXPECT_EQ(Written(), "<A flag=\"Yes\" name=\"a &amp; b\"/>\n");
+}
+
+TEST(ZELVBTXMLWriterValueTest, FindsWhatIsToBeEscapedAtEachPlaceOfTextsOfEachLength) {
+    const std::pair<char, const char*> kSpecials[] = {
+        {'"', "&quot;"}, {'&', "&amp;"}, {'<', "&lt;"}, {'\t', "&#9;"}, {'\x1F', "\xEF\xBF\xBD"}};
+    TestDirectory directory;
+    ZELDurableFile file;
+    ASSERT_EQ(file.Open(directory.Path("document")), S_OK);
+    ZELVBTXMLWriter document(file);
+    std::string expected = "<A";
+    document.Begin("A");
+    for (std::size_t length = 0; length <= 40; ++length) {
+        for (std::size_t place = 0; place < length; ++place) {
+            for (const auto& [special, reference] : kSpecials) {
+                std::string value(length, 'v');
+                value[place] = special;
+                document.Attribute("b", value);
+                expected += " b=\"" + std::string(place, 'v') + reference +
+                            std::string(length - place - 1, 'v') + "\"";
+            }
+        }
+    }
+    document.End();
+    ASSERT_EQ(file.Commit(), S_OK);
+
+    ZELFileContent content;
+    ASSERT_EQ(ZELReadFile(directory.Path("document").c_str(), content), S_OK);
+    EXPECT_TRUE(content.View() == expected + "/>\n");
 }
 
 TEST_F(ZELVBTXMLWriterTest, StopsIndentingWhereItWouldFillTheDisk) {
