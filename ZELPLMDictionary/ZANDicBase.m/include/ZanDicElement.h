@@ -70,7 +70,8 @@ public:
     /// Said by the factory that makes the element. \returns S_OK.
     HRESULT set_Package(ZanDicPackage* package);
     ZanDicPackage* get_Package() const;
-    OXMDicVISIBILITY get_Visibility() const { return _Visibility; }
+    /// \returns the stored number, whatever it is.
+    int get_Visibility() const { return static_cast<int>(_Visibility); }
 
     /// The one list that FlushAll drops, of kinds for which `FlushOwner` does that.
     virtual ZanDicOwnedList owned_List() { return {}; }
