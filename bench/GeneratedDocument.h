@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <string_view>
 
 #include "PackageGenerator.h"
 #include "ZELLineSink.h"
@@ -23,7 +24,7 @@ private:
 /// A directory of its own below another one; goes with this object.
 class OwnDirectory {
 public:
-    explicit OwnDirectory(const std::filesystem::path& parent) {
+    explicit OwnDirectory(const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
         path_ = (parent / "zandic-bench-XXXXXX").string();
         if (mkdtemp(path_.data()) == nullptr) std::abort();
     }
@@ -32,6 +33,9 @@ public:
     OwnDirectory& operator=(const OwnDirectory&) = delete;
 
     const std::string& Path() const { return path_; }
+    std::string File(std::string_view packageName) const {
+        return path_ + "/" + std::string(packageName) + ".metadata";
+    }
 
 private:
     std::string path_;
@@ -42,16 +46,17 @@ class DocumentOnDisk {
 public:
     static constexpr const char* kPackageName = "Generated";
 
-    explicit DocumentOnDisk(int elements) : directory_(std::filesystem::temp_directory_path()) {
+    explicit DocumentOnDisk(std::int64_t elements, std::int64_t attributesPerClass = 20) {
         PackageShape shape;
-        shape.elements = elements;
+        shape.elements = static_cast<int>(elements);
+        shape.attributesPerClass = static_cast<int>(attributesPerClass);
         const GeneratedPackage package = GeneratePackage(kPackageName, shape);
         elements_ = package.elements;
         bytes_ = package.document.size();
         std::ofstream(File()) << package.document;
     }
 
-    std::string File() const { return Directory() + "/" + kPackageName + ".metadata"; }
+    std::string File() const { return directory_.File(kPackageName); }
     const std::string& Directory() const { return directory_.Path(); }
     int Elements() const { return elements_; }
     std::size_t Bytes() const { return bytes_; }

@@ -28,7 +28,7 @@ public:
 
 /// The tree alone, by pugixml, without indentation.
 void BM_PugixmlSave(benchmark::State& state) {
-    const DocumentOnDisk document(static_cast<int>(state.range(0)));
+    const DocumentOnDisk document(state.range(0), state.range(1));
     pugi::xml_document dom;
     if (!dom.load_file(document.File().c_str())) state.SkipWithError("pugixml refuses the document");
     for (auto _ : state) {
@@ -50,7 +50,7 @@ void Write(benchmark::State& state, OXMDicPERSISTENT mode, const char* extension
         return;
     }
     const Silence silence;
-    const DocumentOnDisk document(static_cast<int>(state.range(0)));
+    const DocumentOnDisk document(state.range(0), state.range(1));
     const OwnDirectory target(kMemoryFileSystem);
     OXMIDicMgr* manager = nullptr;
     if (Failed(GetOXMIDicMgr(&manager))) {
@@ -79,13 +79,13 @@ void Write(benchmark::State& state, OXMDicPERSISTENT mode, const char* extension
 void BM_SaveXml(benchmark::State& state) { Write(state, OXMDicPERSISTENT_Xml, ".metadata", 1.0); }
 void BM_SaveExpress(benchmark::State& state) { Write(state, OXMDicPERSISTENT_Express, ".express", 0.25); }
 
-BENCHMARK(BM_PugixmlSave)->Arg(21'300)->Arg(213'000)->Iterations(1)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_SaveXml)
-    ->Arg(21'300)
-    ->Arg(213'000)
-    ->Arg(1'065'000)
-    ->Iterations(1)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_SaveExpress)->Arg(21'300)->Arg(213'000)->Iterations(1)->Unit(benchmark::kMillisecond);
+/// The number of elements, and the attributes of a class.
+void Sizes(benchmark::internal::Benchmark* benchmark) {
+    benchmark->ArgsProduct({{21'300, 213'000, 1'065'000}, {20}});
+    benchmark->Iterations(1)->Unit(benchmark::kMillisecond);
+}
+BENCHMARK(BM_PugixmlSave)->Apply(Sizes);
+BENCHMARK(BM_SaveXml)->Apply(Sizes);
+BENCHMARK(BM_SaveExpress)->Apply(Sizes);
 
 }  // namespace
