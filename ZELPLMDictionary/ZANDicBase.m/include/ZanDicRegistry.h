@@ -60,6 +60,12 @@ public:
     /// \returns the package that was asked for under that name; null when there is none.
     virtual ZanDicPackage* find_Load(const ZELString& askedName) = 0;
 
+    /// Makes room for \p count objects more than there are. Throws std::bad_alloc when memory is short.
+    virtual void expect_Objs(int count) = 0;
+
+    /// Says that an object of that UUID is looked for, or registered, soon.
+    virtual void prefetch_Uuid(const ZELDbBinary& uuid) const noexcept = 0;
+
 protected:
     ~ZanDicRegistry() = default;
 };

@@ -21,3 +21,11 @@ HRESULT ZanDicFindLoad(const ZELString& askedName, OXMIDicPackage** package) {
     *package = static_cast<OXMIDicPackage*>(face);
     return S_OK;
 }
+
+void ZanDicExpectObjects(int count) {
+    if (ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->expect_Objs(count);
+}
+
+void ZanDicPrefetch(const ZELDbBinary& uuid) {
+    if (const ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->prefetch_Uuid(uuid);
+}

@@ -1,4 +1,5 @@
-/// What the reader tells and asks of packages beside their interfaces: from which document each came.
+/// What the reader tells and asks of packages beside their interfaces: from which document each came, and how
+/// much is going to be loaded.
 #ifndef ZAN_DIC_LOAD_RECORD_H
 #define ZAN_DIC_LOAD_RECORD_H
 
@@ -7,6 +8,7 @@
 #include "ZELString.h"
 
 class OXMIDicPackage;
+class ZELDbBinary;
 
 /// Notes the name that was asked for, which the document may not bear itself, and the content kind. The
 /// record goes with the package.
@@ -15,5 +17,11 @@ void ZanDicNoteLoad(OXMIDicPackage& package, const ZELString& askedName, OXMDicC
 /// Finds a package by the name that was asked for when it was loaded.
 /// \param[out] package written on success only. \returns S_OK; E_FAIL when there is none.
 HRESULT ZanDicFindLoad(const ZELString& askedName, OXMIDicPackage** package);
+
+/// Makes room in the registry for \p count objects more. A hint: they need not come.
+void ZanDicExpectObjects(int count);
+
+/// Says that an object of that UUID is looked for, or registered, soon.
+void ZanDicPrefetch(const ZELDbBinary& uuid);
 
 #endif

@@ -12,6 +12,7 @@
 #include "OXMIDicRelationship.h"
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
+#include "ZanDicLoadRecord.h"
 
 using namespace ZANDicFormat;
 using namespace fill;
@@ -292,12 +293,54 @@ constexpr MemberRow kMemberRows[] = {
 };
 constexpr WordIndex kMemberIndex{kMemberRows};
 
-HRESULT FillMember(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
+/// Who a child of a class or an enumeration says that it is.
+struct Identity {
+    ZELVBTXMLNode node;
+    std::string_view name;
+    bool hasUuid = false;
+    ZELDbBinary uuid;
+};
+
+/// Children of one tag on their way to members. Who they are is read of some at a time, so that their places in
+/// the registry come into the cache while those before them are filled.
+class Identities {
+public:
+    explicit Identities(const ZELVBTXMLNode& parent)
+        : _Next(parent.Children().begin()), _End(parent.Children().end()) {}
+
+    /// \returns the next child; null after the last.
+    const Identity* Next() {
+        if (_Taken == _Read) read_Block();
+        return _Taken != _Read ? &_BLOCK[_Taken++] : nullptr;
+    }
+
+private:
+    void read_Block() {
+        _Taken = _Read = 0;
+        for (; _Read < _BLOCK.size() && !(_Next == _End); ++_Next) {
+            Identity& identity = _BLOCK[_Read++];
+            identity.node = *_Next;
+            identity.name = NameOf(identity.node);
+            const auto uuid = identity.node.getAttributeValue(word::kUuid);
+            identity.hasUuid = uuid.has_value();
+            if (!uuid) continue;
+            identity.uuid = UuidFromText(*uuid);
+            ZanDicPrefetch(identity.uuid);
+        }
+    }
+
+    std::array<Identity, 16> _BLOCK;
+    std::size_t _Taken = 0;
+    std::size_t _Read = 0;
+    ZELVBTXMLChildren::iterator _Next;
+    ZELVBTXMLChildren::iterator _End;
+};
+
+HRESULT FillMember(Reading& reading, const ZanDicTraceScope& trace, const Identity& identity,
                    OXMIDicClass& owner) {
-    const std::string_view name = NameOf(node);
-    if (name.empty()) return S_OK;
-    const auto uuid = node.getAttributeValue(word::kUuid);
-    if (!uuid) return ReportMissing(reading, trace, node, word::kUuid);
+    const ZELVBTXMLNode& node = identity.node;
+    if (identity.name.empty()) return S_OK;
+    if (!identity.hasUuid) return ReportMissing(reading, trace, node, word::kUuid);
 
     const MemberRow* const row = kMemberIndex.Find(node.getTag());
     if (row == nullptr) {
@@ -305,7 +348,7 @@ HRESULT FillMember(Reading& reading, const ZanDicTraceScope& trace, const ZELVBT
         return S_OK;
     }
     reading.references = {};
-    return row->read({reading, trace, node, owner, reading.texts.Text(name), UuidFromText(*uuid)});
+    return row->read({reading, trace, node, owner, reading.texts.Text(identity.name), identity.uuid});
 }
 
 /// The flag cannot be left out, and has two words only.
@@ -325,24 +368,22 @@ HRESULT FillPersistent(Reading& reading, const ZanDicTraceScope& trace, const ZE
     return reading.faults.Report(fault);
 }
 
-HRESULT FillEnumeratorOf(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
+HRESULT FillEnumeratorOf(Reading& reading, const ZanDicTraceScope& trace, const Identity& identity,
                          OXMIDicEnum& owner) {
+    const ZELVBTXMLNode& node = identity.node;
     if (node.getTag() != tag::kEnumerator) {
         ReportUnknownTag(reading, trace, node);
         return S_OK;
     }
     if (const HRESULT rc = CheckIdentity(reading, trace, node); Failed(rc)) return rc;
-    const std::string_view nameText = NameOf(node);
-    const auto uuidText = node.getAttributeValue(word::kUuid);
 
-    const ZELString name = reading.texts.Text(nameText);
-    const ZELDbBinary uuid = UuidFromText(*uuidText);
+    const ZELString name = reading.texts.Text(identity.name);
     ZanDicRef<OXMIDicEnumerator> enumerator;
-    if (Failed(owner.CreateEnumerator(&name, &uuid, enumerator.Out())) || !enumerator) {
+    if (Failed(owner.CreateEnumerator(&name, &identity.uuid, enumerator.Out())) || !enumerator) {
         ZanDicRef<OXMIDicEnumerator> other;
         return ReportNotCreated(reading, trace, node, static_cast<bool>(enumerator),
                                 Succeeded(owner.GetEnumerator(&name, other.Out())),
-                                Joined({text::kCouldNotCreateMember, node.getTag(), " ", nameText}));
+                                Joined({text::kCouldNotCreateMember, node.getTag(), " ", name.View()}));
     }
     return FillPlain<kEnumeratorWords>(reading, text::kFillEnumerator, node, *enumerator);
 }
@@ -363,9 +404,10 @@ HRESULT FillClass(Reading& reading, const ZELVBTXMLNode& node, OXMIDicClass& ele
     note.references = reading.references;
     note.firstMember = reading.members.size();
     reading.owner = NameOf(node);
-    for (const ZELVBTXMLNode child : node.Children()) {
-        if (!reading.faults.GoesOn(FillMember(reading, trace, child, element), result)) break;
-        note.hasRelationships = note.hasRelationships || child.getTag() == tag::kRelationship;
+    Identities children(node);
+    while (const Identity* const child = children.Next()) {
+        if (!reading.faults.GoesOn(FillMember(reading, trace, *child, element), result)) break;
+        note.hasRelationships = note.hasRelationships || child->node.getTag() == tag::kRelationship;
     }
     reading.owner = {};
     note.endMember = reading.members.size();
@@ -380,8 +422,9 @@ HRESULT FillEnum(Reading& reading, const ZELVBTXMLNode& node, OXMIDicEnum& eleme
         return trace.Exit(result);
     }
     reading.owner = NameOf(node);
-    for (const ZELVBTXMLNode child : node.Children()) {
-        if (!reading.faults.GoesOn(FillEnumeratorOf(reading, trace, child, element), result)) break;
+    Identities children(node);
+    while (const Identity* const child = children.Next()) {
+        if (!reading.faults.GoesOn(FillEnumeratorOf(reading, trace, *child, element), result)) break;
     }
     reading.owner = {};
     return trace.Exit(result);

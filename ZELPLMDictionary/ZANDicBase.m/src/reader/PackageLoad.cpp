@@ -325,6 +325,7 @@ PackageLoad::StepResult PackageLoad::load_UsedPackages() {
 PackageLoad::StepResult PackageLoad::create_Package() {
     _Reading =
         std::make_unique<Reading>(_Run.manager, _Run.faults, _Run.leftOut, _Run.untargeted, *_Document);
+    ZanDicExpectObjects(static_cast<int>(_Document->ElementCount()));
     const HRESULT rc = _Run.manager.CreatePackage(&_Name, &_Uuid, &_Domain, _Reading->package.Out());
     if (Succeeded(rc) && _Reading->package) {
         const CodeWord* const content = FindWord(kContentWords, _Extension.View());
