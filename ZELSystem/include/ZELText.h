@@ -13,7 +13,12 @@
 class ZELSYSTEM_API ZELText {
 public:
     /// Makes a block for \p text with a count of 1, the caller's. Throws std::bad_alloc or std::length_error.
-    static ZELText* Create(std::string_view text) { return Create(text, {}); }
+    /// \param hashKey that of the text where the caller knows it, else 0.
+    static ZELText* Create(std::string_view text, std::uint32_t hashKey = 0) {
+        ZELText* const made = Create(text, std::string_view());
+        made->_HashKey = hashKey;
+        return made;
+    }
 
     /// Same for \p head followed by \p tail.
     static ZELText* Create(std::string_view head, std::string_view tail);

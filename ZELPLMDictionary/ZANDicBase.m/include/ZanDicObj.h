@@ -155,6 +155,14 @@ public:
     /// \p owned; its own lists are empty after that. Writes nothing.
     virtual void take_Owned(std::vector<ZanDicObj*>& owned);
 
+    /// Fetches what a lookup reads of an object into the cache, or, of one that is there, what a query and a new
+    /// link touch.
+    static void prefetch_Obj(const ZanDicObj* object) {
+        __builtin_prefetch(object);
+        __builtin_prefetch(&object->_Gone);
+    }
+    void prefetch_Links() const;
+
     /// How many objects there are in the process, for tests and diagnostics.
     static int live_Objects() { return liveObjects; }
     /// Whether a default object that is made and destroyed would show in the trace: the lookups that can

@@ -37,10 +37,13 @@ public:
     /// Makes room for \p count objects in all.
     void Reserve(int count);
 
-    /// Fetches the place of \p uuid into the cache, for a lookup some 100 ns later.
-    void Prefetch(const ZELDbBinary& uuid) const noexcept {
-        if (_Places != 0) __builtin_prefetch(&_ENTRIES[home_Of(uuid.ComputeHashKey())]);
+    /// Fetches the place of a UUID of that key into the cache, for a lookup some 100 ns later.
+    void Prefetch(std::uint32_t key) const noexcept {
+        if (_Places != 0) __builtin_prefetch(&_ENTRIES[home_Of(key)]);
     }
+
+    /// \returns the first object that a lookup of a UUID of that key would look at; null when there is none.
+    const ZanDicObj* Guess(std::uint32_t key) const noexcept;
 
     /// Calls \p visit with each object, in no particular order.
     template <class Visit>

@@ -92,7 +92,8 @@ public:
     void note_Load(const ZELString& askedName, ZanDicPackage& package) override;
     ZanDicPackage* find_Load(const ZELString& askedName) override;
     void expect_Objs(int count) override;
-    void prefetch_Uuid(const ZELDbBinary& uuid) const noexcept override { _OBJECTS.Prefetch(uuid); }
+    void prefetch_Uuid(std::uint32_t key) const noexcept override { _OBJECTS.Prefetch(key); }
+    const ZanDicObj* guess_Obj(std::uint32_t key) const noexcept override { return _OBJECTS.Guess(key); }
 
     /// \returns the number of registered objects.
     int count_Objs() const { return _OBJECTS.Size(); }

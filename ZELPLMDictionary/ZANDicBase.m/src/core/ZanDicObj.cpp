@@ -1,5 +1,7 @@
 #include "ZanDicObj.h"
 
+#include <array>
+#include <iterator>
 #include <string>
 
 #include "HexToBinary.h"
@@ -52,11 +54,21 @@ constexpr struct {
     {OXMDicTYPE_RBOPathExpression, IID_OXMIDicRBOPathExpression},
 };
 
-const ZELInterfaceId* FindInterface(int type) {
-    for (const auto& row : kInterfaces) {
-        if (row.type == type) return &row.id;
+constexpr int kTypeCodes = 64;
+
+/// The row of each type code, from 1; 0 for none.
+constexpr std::array<unsigned char, kTypeCodes> kInterfaceRows = [] {
+    std::array<unsigned char, kTypeCodes> rows{};
+    for (std::size_t row = 0; row < std::size(kInterfaces); ++row) {
+        rows.at(static_cast<std::size_t>(kInterfaces[row].type)) = static_cast<unsigned char>(row + 1);
     }
-    return nullptr;
+    return rows;
+}();
+
+const ZELInterfaceId* FindInterface(int type) {
+    if (type < 0 || type >= kTypeCodes) return nullptr;
+    const std::size_t row = kInterfaceRows[static_cast<std::size_t>(type)];
+    return row != 0 ? &kInterfaces[row - 1].id : nullptr;
 }
 
 /// The constructors are silent at level 0 even when they are listed.
@@ -340,6 +352,11 @@ void ZanDicObj::mark_Gone() {
     if (_LinkPlace != 0) ZanDicLinkBase::Forget(_LinkPlace);
     _LinkPlace = 0;
     drop_Links();
+}
+
+void ZanDicObj::prefetch_Links() const {
+    prefetch_Ties();
+    ZanDicLinkBase::Prefetch(_LinkPlace);
 }
 
 void ZanDicObj::take_Owned(std::vector<ZanDicObj*>& /*owned*/) {}

@@ -42,6 +42,13 @@ ZanDicObj* ZanDicUuidTable::find_Key(const ZELDbBinary& uuid, std::uint32_t key)
     }
 }
 
+const ZanDicObj* ZanDicUuidTable::Guess(std::uint32_t key) const noexcept {
+    if (_Size == 0) return nullptr;
+    std::uint32_t place = home_Of(key);
+    while (_ENTRIES[place] != 0 && !has_Mark(_ENTRIES[place], mark_Of(key))) place = next_To(place);
+    return object_In(_ENTRIES[place]);
+}
+
 bool ZanDicUuidTable::Insert(ZanDicObj& object) {
     const std::uint32_t key = KeyOf(object);
     if (_Size != 0 && find_Key(object.Uuid(), key) != nullptr) return false;

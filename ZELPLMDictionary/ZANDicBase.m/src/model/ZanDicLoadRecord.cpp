@@ -26,6 +26,18 @@ void ZanDicExpectObjects(int count) {
     if (ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->expect_Objs(count);
 }
 
-void ZanDicPrefetch(const ZELDbBinary& uuid) {
-    if (const ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->prefetch_Uuid(uuid);
+void ZanDicPrefetchPlace(std::uint32_t key) {
+    if (const ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->prefetch_Uuid(key);
+}
+
+void ZanDicPrefetchObject(std::uint32_t key) {
+    const ZanDicRegistry* const registry = ZanDicFindRegistry();
+    const ZanDicObj* const object = registry != nullptr ? registry->guess_Obj(key) : nullptr;
+    if (object != nullptr) ZanDicObj::prefetch_Obj(object);
+}
+
+void ZanDicPrefetchLinks(std::uint32_t key) {
+    const ZanDicRegistry* const registry = ZanDicFindRegistry();
+    const ZanDicObj* const object = registry != nullptr ? registry->guess_Obj(key) : nullptr;
+    if (object != nullptr) object->prefetch_Links();
 }

@@ -3,12 +3,13 @@
 #ifndef ZAN_DIC_LOAD_RECORD_H
 #define ZAN_DIC_LOAD_RECORD_H
 
+#include <cstdint>
+
 #include "OXMDicTypes.h"
 #include "ZELResult.h"
 #include "ZELString.h"
 
 class OXMIDicPackage;
-class ZELDbBinary;
 
 /// Notes the name that was asked for, which the document may not bear itself, and the content kind. The
 /// record goes with the package.
@@ -21,7 +22,10 @@ HRESULT ZanDicFindLoad(const ZELString& askedName, OXMIDicPackage** package);
 /// Makes room in the registry for \p count objects more. A hint: they need not come.
 void ZanDicExpectObjects(int count);
 
-/// Says that an object of that UUID is looked for, or registered, soon.
-void ZanDicPrefetch(const ZELDbBinary& uuid);
+/// What a lookup of a UUID, and a link to what it finds, will touch, fetched into the cache step by step: each
+/// step needs what the one before has fetched. \param key of the UUID.
+void ZanDicPrefetchPlace(std::uint32_t key);   ///< in the registry
+void ZanDicPrefetchObject(std::uint32_t key);  ///< the object found there
+void ZanDicPrefetchLinks(std::uint32_t key);   ///< its adapters and what its links go through
 
 #endif

@@ -10,6 +10,7 @@
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
 #include "ZANDicWords.h"
+#include "ZanDicLoadRecord.h"
 
 using namespace ZANDicFormat;
 using namespace complete;
@@ -149,6 +150,20 @@ constexpr MemberRow kMemberRows[] = {
     {OXMDicTYPE_Unique, CompleteUnique},
 };
 
+/// Fetches what the members behind one will need into the cache: their targets lie all over the package.
+void LookAhead(const Reading& reading, std::size_t index) {
+    constexpr std::size_t kStep = 6;
+    const std::vector<MemberNote>& members = reading.members;
+    if (index + 3 * kStep < members.size()) ZanDicPrefetchPlace(members[index + 3 * kStep].key);
+    if (index + 2 * kStep < members.size()) {
+        const MemberNote& note = members[index + 2 * kStep];
+        ZanDicPrefetchObject(note.key);
+        const ZELVBTXMLAttribute target = note.references.At(slot::kTarget, reading.document);
+        if (target) __builtin_prefetch(target.Value().data());
+    }
+    if (index + kStep < members.size()) ZanDicPrefetchLinks(members[index + kStep].key);
+}
+
 HRESULT CompleteMember(Reading& reading, const MemberNote& note) {
     const ZELVBTXMLNode node = reading.document.ElementAt(note.node);
     for (const MemberRow& row : kMemberRows) {
@@ -231,6 +246,7 @@ HRESULT CompleteClassPart(Reading& reading, const ZanDicTraceScope& trace, const
 
     reading.owner = NameOf(node);
     for (std::size_t index = note.firstMember; index < note.endMember; ++index) {
+        LookAhead(reading, index);
         if (!goesOn(CompleteMember(reading, reading.members[index]))) break;
     }
     reading.owner = {};

@@ -20,7 +20,7 @@ using namespace fill;
 namespace {
 
 HRESULT SimpleType(OXMIDicSimple& element, const Given& given) {
-    if (const CodeWord* const row = FindWord(kSimpleTypeWords, given.Value()); row != nullptr) {
+    if (const CodeWord* const row = kIndex<kSimpleTypeWords>.Find(given.Value()); row != nullptr) {
         return SetPrimitiveType(given.reading, element, row->code);
     }
     Warn(ZanDicDiagnosticCode::UnknownWord, given, TraceLevel::Call, text::kUnknownAttribute,
@@ -29,12 +29,12 @@ HRESULT SimpleType(OXMIDicSimple& element, const Given& given) {
 }
 
 HRESULT RelationType(OXMIDicRelationship& element, const Given& given) {
-    return SetPrimitiveType(given.reading, element,
-                            CodeOf(kRelationTypeWords, given.Value(), kOtherRelationType));
+    const CodeWord* const row = kIndex<kRelationTypeWords>.Find(given.Value());
+    return SetPrimitiveType(given.reading, element, row != nullptr ? row->code : kOtherRelationType);
 }
 
 HRESULT RelationTarget(OXMIDicRelationship& element, const Given& given) {
-    if (given.Value() != value::kAnyObject) return Reference<slot::kTarget>(element, given);
+    if (!IsWord<value::kAnyObject>(given.Value())) return Reference<slot::kTarget>(element, given);
     return SetPrimitiveType(given.reading, element, OXMDicPRIMITIVEType_AnyObject);
 }
 
@@ -190,8 +190,10 @@ HRESULT FillRelation(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRelatio
 template <class Face>
 void NoteMember(Reading& reading, const ZELVBTXMLNode& node, OXMDicTYPE type, ZanDicRef<Face>& member) {
     if (!reading.references.HasAny()) return;
+    const ZELVBTXMLAttribute target = reading.references.At(slot::kTarget, reading.document);
+    const std::uint32_t key = target ? UuidFromText(target.Value()).ComputeHashKey() : 0;
     reading.members.push_back(
-        {ZanDicRef<OXMIDicElement>(member.Detach()), type, node.Index(), reading.references});
+        {ZanDicRef<OXMIDicElement>(member.Detach()), type, node.Index(), reading.references, key});
 }
 
 // Members of a class.
@@ -325,7 +327,7 @@ private:
             identity.hasUuid = uuid.has_value();
             if (!uuid) continue;
             identity.uuid = UuidFromText(*uuid);
-            ZanDicPrefetch(identity.uuid);
+            ZanDicPrefetchPlace(identity.uuid.ComputeHashKey());
         }
     }
 
@@ -407,7 +409,7 @@ HRESULT FillClass(Reading& reading, const ZELVBTXMLNode& node, OXMIDicClass& ele
     Identities children(node);
     while (const Identity* const child = children.Next()) {
         if (!reading.faults.GoesOn(FillMember(reading, trace, *child, element), result)) break;
-        note.hasRelationships = note.hasRelationships || child->node.getTag() == tag::kRelationship;
+        note.hasRelationships = note.hasRelationships || IsWord<tag::kRelationship>(child->node.getTag());
     }
     reading.owner = {};
     note.endMember = reading.members.size();

@@ -88,6 +88,7 @@ struct MemberNote {
     OXMDicTYPE type;
     std::uint32_t node;
     ReferenceNotes references;
+    std::uint32_t key;  ///< of the UUID in the first slot, where it is one
 };
 
 /// An object of a mapping: a root, a component or a path expression. An object is followed by what is inside.

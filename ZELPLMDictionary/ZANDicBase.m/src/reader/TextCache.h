@@ -14,16 +14,26 @@ class TextCache {
 public:
     ZELString Text(std::string_view view) {
         if (view.empty() || view.size() > kLongest) return ZELString(view);
-        ZELString& place = _TEXTS[ZELHashText(view) % kPlaces];
-        if (place.View() != view) place = ZELString(view);
-        return place;
+        const std::uint32_t key = ZELHashText(view);
+        Place& place = _PLACES[key % kPlaces];
+        // The key first: the older text is mostly another one, and far away by now.
+        if (place.key != key || place.text.View() != view) {
+            place.text = ZELString(view, key);
+            place.key = key;
+        }
+        return place.text;
     }
 
 private:
     static constexpr std::size_t kPlaces = 1024;
     static constexpr std::size_t kLongest = 64;
 
-    std::unique_ptr<ZELString[]> _TEXTS = std::make_unique<ZELString[]>(kPlaces);
+    struct Place {
+        std::uint32_t key = 0;
+        ZELString text;
+    };
+
+    std::unique_ptr<Place[]> _PLACES = std::make_unique<Place[]>(kPlaces);
 };
 
 #endif
