@@ -159,6 +159,9 @@ public:
     iterator begin() const { return {*tape_, parent_ + 1}; }
     iterator end() const { return {*tape_, tape_->elements[parent_].endOfSubtree}; }
 
+    /// How many there are. The cost is that of a walk.
+    int Count() const { return static_cast<int>(std::distance(begin(), end())); }
+
 private:
     const ZELVBTXMLTape* tape_;
     std::uint32_t parent_;

@@ -21,7 +21,7 @@ class ZanHashList;
 
 /// What an object holds only when it was set: kept apart, so that the many objects without pay one word.
 /// Kinds with rare fields of their own derive from it.
-struct ZANDICBASE_API ZanDicRareFields {
+struct ZANDICBASE_API ZanDicRareFields : ZELPooled {
     ZanDicRareFields();
     virtual ~ZanDicRareFields();
     ZanDicRareFields(const ZanDicRareFields&);
@@ -162,6 +162,9 @@ public:
         __builtin_prefetch(&object->_Gone);
     }
     void prefetch_Links() const;
+
+    /// Makes room for \p count members more. A hint: they need not come.
+    virtual void expect_Members(int count);
 
     /// How many objects there are in the process, for tests and diagnostics.
     static int live_Objects() { return liveObjects; }

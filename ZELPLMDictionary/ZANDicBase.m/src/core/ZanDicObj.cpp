@@ -361,6 +361,8 @@ void ZanDicObj::prefetch_Links() const {
 
 void ZanDicObj::take_Owned(std::vector<ZanDicObj*>& /*owned*/) {}
 
+void ZanDicObj::expect_Members(int /*count*/) {}
+
 void ZanDicObj::drop_Links() {
     if (_Rare) _Rare->categories.reset();
 }

@@ -26,6 +26,10 @@ void ZanDicExpectObjects(int count) {
     if (ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->expect_Objs(count);
 }
 
+void ZanDicExpectMembers(IUnknown& owner, int count) {
+    if (auto* const object = LiveImplementationOf<ZanDicObj>(&owner)) object->expect_Members(count);
+}
+
 void ZanDicPrefetchPlace(std::uint32_t key) {
     if (const ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->prefetch_Uuid(key);
 }

@@ -9,6 +9,7 @@
 #include "ZELResult.h"
 #include "ZELString.h"
 
+class IUnknown;
 class OXMIDicPackage;
 
 /// Notes the name that was asked for, which the document may not bear itself, and the content kind. The
@@ -21,6 +22,9 @@ HRESULT ZanDicFindLoad(const ZELString& askedName, OXMIDicPackage** package);
 
 /// Makes room in the registry for \p count objects more. A hint: they need not come.
 void ZanDicExpectObjects(int count);
+
+/// Makes room in a package, a class or an enumeration for \p count members more. A hint, as above.
+void ZanDicExpectMembers(IUnknown& owner, int count);
 
 /// What a lookup of a UUID, and a link to what it finds, will touch, fetched into the cache step by step: each
 /// step needs what the one before has fetched. \param key of the UUID.

@@ -406,6 +406,7 @@ HRESULT FillClass(Reading& reading, const ZELVBTXMLNode& node, OXMIDicClass& ele
     note.references = reading.references;
     note.firstMember = reading.members.size();
     reading.owner = NameOf(node);
+    ZanDicExpectMembers(element, node.Children().Count());
     Identities children(node);
     while (const Identity* const child = children.Next()) {
         if (!reading.faults.GoesOn(FillMember(reading, trace, *child, element), result)) break;
@@ -424,6 +425,7 @@ HRESULT FillEnum(Reading& reading, const ZELVBTXMLNode& node, OXMIDicEnum& eleme
         return trace.Exit(result);
     }
     reading.owner = NameOf(node);
+    ZanDicExpectMembers(element, node.Children().Count());
     Identities children(node);
     while (const Identity* const child = children.Next()) {
         if (!reading.faults.GoesOn(FillEnumeratorOf(reading, trace, *child, element), result)) break;

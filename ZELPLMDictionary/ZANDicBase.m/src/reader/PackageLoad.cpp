@@ -406,6 +406,7 @@ PackageLoad::StepResult PackageLoad::add_Commands() { return next_After(Complete
 // The passes.
 
 PackageLoad::StepResult PackageLoad::fill_Elements() {
+    ZanDicExpectMembers(*_Reading->package, _Node.Children().Count());
     for (const ZELVBTXMLNode child : _Node.Children()) {
         if (!goes_On(ReadElement(*_Reading, child))) return StepResult::Finished;
     }
