@@ -39,15 +39,16 @@ struct MemberSpot {
     Reading& reading;
     const ZELVBTXMLNode& node;
     const MemberNote& note;
+    OXMIDicElement& member;  ///< as the interface of its type
 
     ReferenceSpot At(const ZanDicTraceScope& trace, std::size_t slot) const {
-        return {reading, trace, node, note.member.Get(), note.references.At(slot, reading.document)};
+        return {reading, trace, node, &member, note.references.At(slot, reading.document)};
     }
 };
 
 HRESULT CompleteSimple(const MemberSpot& spot) {
     const ZanDicTraceScope trace(text::kCompleteSimple);
-    auto& member = static_cast<OXMIDicSimple&>(*spot.note.member);
+    auto& member = static_cast<OXMIDicSimple&>(spot.member);
     HRESULT result = S_OK;
     const HRESULT rc = CompleteOne<OXMIDicEnum>(spot.At(trace, slot::kTarget), kEnumKind, "SetType",
                                                 [&](OXMIDicEnum* target) { return member.SetType(target); });
@@ -76,7 +77,7 @@ HRESULT CompleteTarget(const ReferenceSpot& spot, Member& member) {
 
 HRESULT CompleteRelationship(const MemberSpot& spot) {
     const ZanDicTraceScope trace(text::kCompleteRelationship);
-    auto& member = static_cast<OXMIDicRelationship&>(*spot.note.member);
+    auto& member = static_cast<OXMIDicRelationship&>(spot.member);
     FaultReport& faults = spot.reading.faults;
     HRESULT result = S_OK;
     if (faults.GoesOn(CompleteTarget(spot.At(trace, slot::kTarget), member), result) &&
@@ -120,7 +121,7 @@ HRESULT CompleteInverseOf(const ReferenceSpot& spot, OXMIDicInverse& member) {
 
 HRESULT CompleteInverse(const MemberSpot& spot) {
     const ZanDicTraceScope trace(text::kCompleteInverse);
-    auto& member = static_cast<OXMIDicInverse&>(*spot.note.member);
+    auto& member = static_cast<OXMIDicInverse&>(spot.member);
     FaultReport& faults = spot.reading.faults;
     HRESULT result = S_OK;
     if (faults.GoesOn(CompleteTarget(spot.At(trace, slot::kTarget), member), result) &&
@@ -132,7 +133,7 @@ HRESULT CompleteInverse(const MemberSpot& spot) {
 
 HRESULT CompleteUnique(const MemberSpot& spot) {
     const ZanDicTraceScope trace(text::kCompleteUnique);
-    auto& member = static_cast<OXMIDicUnique&>(*spot.note.member);
+    auto& member = static_cast<OXMIDicUnique&>(spot.member);
     return CompleteEach<OXMIDicAttribute>(
         spot.At(trace, slot::kUniques), kAttributeKind, "AddElement",
         [&](OXMIDicAttribute* target) { return member.AddElement(target); });
@@ -166,8 +167,9 @@ void LookAhead(const Reading& reading, std::size_t index) {
 
 HRESULT CompleteMember(Reading& reading, const MemberNote& note) {
     const ZELVBTXMLNode node = reading.document.ElementAt(note.node);
+    const auto member = note.member.Own<OXMIDicElement>();
     for (const MemberRow& row : kMemberRows) {
-        if (row.type == note.type) return row.complete({reading, node, note});
+        if (row.type == note.type) return row.complete({reading, node, note, *member});
     }
     return S_OK;
 }

@@ -188,12 +188,13 @@ HRESULT FillRelation(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRelatio
 
 /// Keeps a member for the second pass when it has something to resolve there.
 template <class Face>
-void NoteMember(Reading& reading, const ZELVBTXMLNode& node, OXMDicTYPE type, ZanDicRef<Face>& member) {
+void NoteMember(Reading& reading, const ZELVBTXMLNode& node, OXMDicTYPE type,
+                const ZanDicRef<Face>& member) {
     if (!reading.references.HasAny()) return;
     const ZELVBTXMLAttribute target = reading.references.At(slot::kTarget, reading.document);
     const std::uint32_t key = target ? UuidFromText(target.Value()).ComputeHashKey() : 0;
     reading.members.push_back(
-        {ZanDicRef<OXMIDicElement>(member.Detach()), type, node.Index(), reading.references, key});
+        {ZanDicHold(*member), type, node.Index(), reading.references, key});
 }
 
 // Members of a class.
