@@ -34,6 +34,7 @@ struct ZANDICBASE_API ZanDicRareFields : ZELPooled {
     std::shared_ptr<ZanHashList> categories;  ///< links; shared by copies, freed with the last holder
     ZELUnicodeString alias;                   ///< of elements and packages
     ZELUnicodeString expositionLevel;
+    OXMDicVISIBILITY visibility = OXMDicVISIBILITY_Public;  ///< of an element, when it is an odd number
 };
 
 /// Base of every object of the dictionary: name, 16-byte UUID, type code, free attributes, categories.
@@ -159,7 +160,7 @@ public:
     /// link touch.
     static void prefetch_Obj(const ZanDicObj* object) {
         __builtin_prefetch(object);
-        __builtin_prefetch(&object->_Gone);
+        __builtin_prefetch(&object->_Uuid);
     }
     void prefetch_Links() const;
 
@@ -198,8 +199,13 @@ private:
     std::unique_ptr<ZanDicRareFields> _Rare;
     std::uint32_t _LinkPlace = 0;  ///< where links find this object; 0 until it is first linked
     ZELDbBinary _Uuid;
-    bool _Registered = false;
-    bool _Gone = false;
+    bool _Registered : 1;
+    bool _Gone : 1;
+
+protected:
+    // Here because there is room for them: what derived objects hold is packed behind.
+    bool _Unnamed : 1;  ///< an element built without a name: its texts are null at first
+    bool _Noted : 1;    ///< an attribute among the injective ones that point at its target
 };
 
 /// Hash and compare functions of the collections that key objects by name or by UUID.

@@ -95,14 +95,16 @@ std::unique_ptr<ZanDicRareFields> ZanDicRareFields::Copy() const {
     return std::make_unique<ZanDicRareFields>(*this);
 }
 
-ZanDicObj::ZanDicObj() : _Name("UNDEFINED") {
+ZanDicObj::ZanDicObj()
+    : _Name("UNDEFINED"), _Registered(false), _Gone(false), _Unnamed(false), _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Call)) return;
     kConstructor.Line(TraceLevel::Call) << "_Type=" << _Type << ", _Name=" << _Name;
     kConstructor.Line(TraceLevel::Call) << "@=" << this;
 }
 
-ZanDicObj::ZanDicObj(const ZELString& name, const ZELDbBinary& uuid) : _Name(name), _Uuid(uuid) {
+ZanDicObj::ZanDicObj(const ZELString& name, const ZELDbBinary& uuid)
+    : _Name(name), _Uuid(uuid), _Registered(false), _Gone(false), _Unnamed(false), _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Detail)) return;
     kConstructor.Line(TraceLevel::Detail)
@@ -116,7 +118,11 @@ ZanDicObj::ZanDicObj(const ZanDicObj& other)
       _Type(other._Type),
       _Name(other._Name),
       _Rare(other._Rare ? other._Rare->Copy() : nullptr),
-      _Uuid(other._Uuid) {
+      _Uuid(other._Uuid),
+      _Registered(false),
+      _Gone(false),
+      _Unnamed(other._Unnamed),
+      _Noted(other._Noted) {
     ++liveObjects;
 }
 
@@ -127,6 +133,8 @@ ZanDicObj& ZanDicObj::operator=(const ZanDicObj& other) {
         _Name = other._Name;
         _Rare = other._Rare ? other._Rare->Copy() : nullptr;
         _Uuid = other._Uuid;
+        _Unnamed = other._Unnamed;
+        _Noted = other._Noted;
     };
     if (_Registered && !(_Uuid == other._Uuid)) {
         rekey(assign);

@@ -252,8 +252,9 @@ void ZanDictionary::forget_Obj(ZanDicObj& object) noexcept {
 void ZanDictionary::expect_Objs(int count) { _OBJECTS.Reserve(_OBJECTS.Size() + count); }
 
 bool ZanDictionary::keeps_Obj(const ZanDicObj& object) const {
-    return &object != this &&
-           std::find(std::begin(_PRIMITIVES), std::end(_PRIMITIVES), &object) == std::end(_PRIMITIVES);
+    if (&object == this) return false;
+    if (object.get_type() != _type_Primitive) return true;
+    return std::find(std::begin(_PRIMITIVES), std::end(_PRIMITIVES), &object) == std::end(_PRIMITIVES);
 }
 
 HRESULT ZanDictionary::search_Obj(const ZELDbBinary* uuid, ZanDicObj** object) {

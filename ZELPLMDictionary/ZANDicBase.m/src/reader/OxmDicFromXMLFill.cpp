@@ -1,5 +1,6 @@
 #include "OxmDicFromXMLFill.h"
 
+#include <bit>
 #include <string>
 #include <type_traits>
 
@@ -169,18 +170,22 @@ constexpr AttributeWord<OXMIDicPackage> kPackageWords[] = {
 HRESULT FillRelation(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRelationship& element) {
     const ZanDicTraceScope trace(text::kFillRelation, "RC=");
     trace.Start();
-    std::array<ZELVBTXMLAttribute, std::size(kRelationWords)> first;
+    std::array<std::uint32_t, std::size(kRelationWords)> first;  // of the rows that are given
+    std::uint32_t given = 0;                                     // a bit for each row
+    static_assert(std::size(kRelationWords) <= 32);
     for (const ZELVBTXMLAttribute attribute : node.Attributes()) {
         const auto* const row = kIndex<kRelationWords>.Find(attribute.Name());
         if (row == nullptr) continue;
-        ZELVBTXMLAttribute& place = first[kIndex<kRelationWords>.IndexOf(*row)];
-        if (!place) place = attribute;
+        const std::size_t index = kIndex<kRelationWords>.IndexOf(*row);
+        if ((given >> index & 1U) == 0) first[index] = attribute.Index();
+        given |= 1U << index;
     }
 
     HRESULT result = S_OK;
-    for (std::size_t index = 0; index < first.size(); ++index) {
-        if (!first[index]) continue;
-        const HRESULT rc = Fill(kRelationWords[index], element, {reading, trace, node, first[index]});
+    for (; given != 0; given &= given - 1) {
+        const auto index = static_cast<std::size_t>(std::countr_zero(given));
+        const ZELVBTXMLAttribute attribute = reading.document.AttributeAt(first[index]);
+        const HRESULT rc = Fill(kRelationWords[index], element, {reading, trace, node, attribute});
         if (!reading.faults.GoesOn(rc, result)) break;
     }
     return trace.Exit(result);
