@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <new>
 
+#include "ZELHugePages.h"
+
 #if defined(__SANITIZE_ADDRESS__)
 #define ZELPOOL_BYPASSED 1
 #elif defined(__has_feature)
@@ -52,6 +54,8 @@ void AddChunk(SizeClass& sizeClass, std::size_t blockSize) {
     const std::size_t bytes = (wanted - sizeof(Chunk)) / blockSize * blockSize;
     void* const memory = std::malloc(sizeof(Chunk) + bytes);
     if (memory == nullptr) throw std::bad_alloc();
+    // A class that has come to the largest chunks will fill this one too.
+    if (wanted == kLargestChunk) ZELTakePages(memory, sizeof(Chunk) + bytes);
     chunks = ::new (memory) Chunk{chunks};
     sizeClass.unused = static_cast<unsigned char*>(memory) + sizeof(Chunk);
     sizeClass.unusedEnd = sizeClass.unused + bytes;

@@ -4,24 +4,27 @@
 
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include "ZELHash.h"
 #include "ZELString.h"
 
-/// Gives strings for the views of a document; a text that was given lately is shared. Bounded: a newer
-/// text takes the place of an older one. One thread.
+/// Gives strings for the views of a document; a text that is given often is shared. A text is kept when it comes
+/// twice before another for its place: most names of a document come once, and to keep each of them for a while
+/// would cost more than to make it. Bounded: a text that is kept takes the place of an older one. One thread.
 class TextCache {
 public:
     ZELString Text(std::string_view view) {
         if (view.empty() || view.size() > kLongest) return ZELString(view);
         const std::uint32_t key = ZELHashText(view);
         Place& place = _PLACES[key % kPlaces];
-        // The key first: the older text is mostly another one, and far away by now.
-        if (place.key != key || place.text.View() != view) {
-            place.text = ZELString(view, key);
+        if (place.key == key && place.text.View() == view) return place.text;
+        ZELString text(view, key);
+        if (std::exchange(place.lastKey, key) == key) {
+            place.text = text;
             place.key = key;
         }
-        return place.text;
+        return text;
     }
 
 private:
@@ -29,7 +32,8 @@ private:
     static constexpr std::size_t kLongest = 64;
 
     struct Place {
-        std::uint32_t key = 0;
+        std::uint32_t lastKey = 0;  ///< of the text that came last
+        std::uint32_t key = 0;      ///< of the text that is kept
         ZELString text;
     };
 
