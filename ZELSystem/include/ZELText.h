@@ -8,8 +8,8 @@
 
 /// Counted text that strings share: what ZELString and ZELUnicodeString point to.
 ///
-/// Never changed once made; the characters and a closing zero follow the block. The hash key is worked out when
-/// first asked for and kept. Counts are not atomic: one thread.
+/// Never changed once made; the characters and a closing zero follow the block. The hash key is worked out
+/// when first asked for and kept. Counts are not atomic: one thread.
 class ZELSYSTEM_API ZELText {
 public:
     /// Makes a block for \p text with a count of 1, the caller's. Throws std::bad_alloc or std::length_error.

@@ -40,8 +40,8 @@ struct ZELVBTXMLAttributeRecord {
     bool IsAside() const { return ValueLength() == kAside; }
 };
 
-/// What the 8 bytes of an attribute cannot hold: a value that had to be decoded, one that is very long or has a
-/// very long name, and one with blanks around the equals sign.
+/// What the 8 bytes of an attribute cannot hold: a value that had to be decoded, one that is very long or has
+/// a very long name, and one with blanks around the equals sign.
 struct ZELVBTXMLAsideRecord {
     std::uint32_t nameOffset;  ///< in the text
     std::uint32_t nameLength;

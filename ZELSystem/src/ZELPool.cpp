@@ -26,7 +26,8 @@ namespace {
 constexpr std::size_t kGranule = 8;
 constexpr std::size_t kLargestBlock = 512;
 constexpr std::size_t kFirstChunk = 1024;
-constexpr std::size_t kLargestChunk = std::size_t{128} * 1024;
+// A little less than what the C allocator would give pages of its own, rounded up.
+constexpr std::size_t kLargestChunk = std::size_t{128} * 1024 - 64;
 
 struct FreeBlock {
     FreeBlock* next;

@@ -172,8 +172,9 @@ const char* ZELXMLTokenizer::ReadEndTag(const char* p) {
     return close + 1;
 }
 
-/// Reads an attribute as nearly all are written: one blank, a name of ASCII, an equals sign, and in double quotes
-/// a value that reads as it stands. \returns the place behind it; null, and nothing is read, for any other text.
+/// Reads an attribute as nearly all are written: one blank, a name of ASCII, an equals sign, and in double
+/// quotes a value that reads as it stands. \returns the place behind it; null, and nothing is read, for any
+/// other text.
 inline const char* ZELXMLTokenizer::ReadUsualAttribute(const char* p) {
     using Record = ZELVBTXMLAttributeRecord;
     const char* const name = p + 1;
@@ -184,7 +185,8 @@ inline const char* ZELXMLTokenizer::ReadUsualAttribute(const char* p) {
     const char* const valueEnd = ZELXMLFindSpecial<'"', '<', '&'>(value);
     const auto nameLength = static_cast<std::size_t>(nameEnd - name);
     const auto valueLength = static_cast<std::size_t>(valueEnd - value);
-    if (*valueEnd != '"' || nameLength > Record::kMaxNameLength || valueLength >= Record::kAside) return nullptr;
+    if (*valueEnd != '"' || nameLength > Record::kMaxNameLength || valueLength >= Record::kAside)
+        return nullptr;
     store_.attributes.Append({Offset(value), static_cast<std::uint32_t>(valueLength << 8 | nameLength)});
     return valueEnd + 1;
 }

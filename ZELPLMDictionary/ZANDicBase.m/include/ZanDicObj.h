@@ -156,8 +156,8 @@ public:
     /// \p owned; its own lists are empty after that. Writes nothing.
     virtual void take_Owned(std::vector<ZanDicObj*>& owned);
 
-    /// Fetches what a lookup reads of an object into the cache, or, of one that is there, what a query and a new
-    /// link touch.
+    /// Fetches what a lookup reads of an object into the cache, or, of one that is there, what a query and a
+    /// new link touch.
     static void prefetch_Obj(const ZanDicObj* object) {
         __builtin_prefetch(object);
         __builtin_prefetch(&object->_Uuid);

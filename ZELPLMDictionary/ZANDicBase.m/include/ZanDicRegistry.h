@@ -68,8 +68,8 @@ public:
     /// Says that an object is looked for, or registered, soon. \param key that of its UUID.
     virtual void prefetch_Uuid(std::uint32_t key) const noexcept = 0;
 
-    /// \returns the object that a lookup of a UUID of that key would find first, or null: it may be another, and
-    /// is to be touched, not asked.
+    /// \returns the object that a lookup of a UUID of that key would find first, or null: it may be another,
+    /// and is to be touched, not asked.
     virtual const ZanDicObj* guess_Obj(std::uint32_t key) const noexcept = 0;
 
 protected:

@@ -10,12 +10,12 @@
 
 /// Set of objects found by UUID: what the registry keeps them in. It does not own them.
 ///
-/// One word of 8 bytes a place: the object's address with some bits of its key and the distance from where its
-/// key would have it. So a lookup reads one or two lines of the table and, mostly, one object. The key is that
-/// of the object's UUID, which must not change while the object is in the table.
-/// The number of places is free, so that a table of known size is no larger than it need be; three quarters
-/// of the places are taken at the most. Insert and Reserve throw std::bad_alloc
-/// when memory is short, and then change nothing. Growth is amortised. One thread.
+/// One word of 8 bytes a place: the object's address with some bits of its key and the distance from where
+/// its key would have it. So a lookup reads one or two lines of the table and, mostly, one object. The key is
+/// that of the object's UUID, which must not change while the object is in the table. The number of places is
+/// free, so that a table of known size is no larger than it need be; three quarters of the places are taken
+/// at the most. Insert and Reserve throw std::bad_alloc when memory is short, and then change nothing. Growth
+/// is amortised. One thread.
 class ZANDICBASE_API ZanDicUuidTable {
 public:
     int Size() const noexcept { return static_cast<int>(_Size); }
@@ -75,9 +75,7 @@ private:
     std::uint32_t home_Of(std::uint32_t key) const noexcept {
         return static_cast<std::uint32_t>(std::uint64_t{key} * _Places >> 32);
     }
-    std::uint32_t next_To(std::uint32_t place) const noexcept {
-        return place + 1 != _Places ? place + 1 : 0;
-    }
+    std::uint32_t next_To(std::uint32_t place) const noexcept { return place + 1 != _Places ? place + 1 : 0; }
     std::uint32_t way_Between(std::uint32_t from, std::uint32_t to) const noexcept {
         return to >= from ? to - from : to + _Places - from;
     }

@@ -112,8 +112,8 @@ private:
     OXMDicPERSISTENT _LoadingMode = OXMDicPERSISTENT_Xml;
     ZanHashList _PACKAGES;  ///< one reference to each, in the order of creation
     std::unordered_map<std::string, ZanDicLink<ZanDicPackage>>
-        _LOADS;                    ///< by a name asked for that is not theirs
-    ZanDicUuidTable _OBJECTS;      ///< not owning
+        _LOADS;                ///< by a name asked for that is not theirs
+    ZanDicUuidTable _OBJECTS;  ///< not owning
     ZanDicPrimitive* _PRIMITIVES[kPrimitiveCount] =
         {};  ///< one reference to each, by kind less 1; null before Create
     ZELHashTable<ZanDicClassToRelationElem> _CLASSTORELATION;  ///< owned, by the UUID of the class

@@ -79,10 +79,8 @@ bool DecodeUsualText(std::string_view text, unsigned char* decoded) {
     std::memcpy(front + 12, at + 14, 4);
     bool isFront = false;
     bool isBack = false;
-    const __m128i first =
-        ValuesOfDigits(_mm_loadu_si128(reinterpret_cast<const __m128i*>(front)), isFront);
-    const __m128i second =
-        ValuesOfDigits(_mm_loadu_si128(reinterpret_cast<const __m128i*>(at + 19)), isBack);
+    const __m128i first = ValuesOfDigits(_mm_loadu_si128(reinterpret_cast<const __m128i*>(front)), isFront);
+    const __m128i second = ValuesOfDigits(_mm_loadu_si128(reinterpret_cast<const __m128i*>(at + 19)), isBack);
     if (!isFront || !isBack) return false;
     _mm_storeu_si128(reinterpret_cast<__m128i*>(decoded), _mm_packus_epi16(PairsOf(first), PairsOf(second)));
     return true;

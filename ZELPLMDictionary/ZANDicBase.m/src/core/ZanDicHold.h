@@ -8,8 +8,8 @@
 #include "ZanDicImplementation.h"
 #include "ZanDicRef.h"
 
-/// Holds one reference on the object behind an interface: whoever keeps many objects for later keeps no adapter
-/// for each meanwhile.
+/// Holds one reference on the object behind an interface: whoever keeps many objects for later keeps no
+/// adapter for each meanwhile.
 class ZanDicHold {
 public:
     /// \param face of an object of this library.

@@ -19,8 +19,9 @@ constexpr int kSmall = 8;
 constexpr int kNone = -1;
 
 /// Where the entries of a list stand, by the hashes of their keys: a power of two of slots, at most three
-/// quarters of them taken. A slot is one number, the entry's and above it as many bits of the hash as there is
-/// room for, so that few entries are looked at in vain; two bytes in lists of a few hundred entries, else four.
+/// quarters of them taken. A slot is one number, the entry's and above it as many bits of the hash as there
+/// is room for, so that few entries are looked at in vain; two bytes in lists of a few hundred entries, else
+/// four.
 class SlotIndex {
 public:
     constexpr SlotIndex() noexcept = default;
@@ -57,7 +58,8 @@ public:
         Set(slot, Mark(hash) | static_cast<std::uint32_t>(entry + 1));
     }
 
-    /// \returns the first entry of that hash, or one alike, for which \p matches(entry) holds; kNone for none.
+    /// \returns the first entry of that hash, or one alike, for which \p matches(entry) holds; kNone for
+    /// none.
     template <class Matches>
     int Find(std::uint32_t hash, const Matches& matches) const {
         const std::uint32_t mark = Mark(hash);

@@ -245,9 +245,7 @@ HRESULT ZanDictionary::Delete(ZanDicObj* object) {
     return trace.Exit(S_OK);
 }
 
-void ZanDictionary::forget_Obj(ZanDicObj& object) noexcept {
-    _OBJECTS.Remove(object);
-}
+void ZanDictionary::forget_Obj(ZanDicObj& object) noexcept { _OBJECTS.Remove(object); }
 
 void ZanDictionary::expect_Objs(int count) { _OBJECTS.Reserve(_OBJECTS.Size() + count); }
 

@@ -26,8 +26,8 @@ void ZanDicExpectObjects(int count);
 /// Makes room in a package, a class or an enumeration for \p count members more. A hint, as above.
 void ZanDicExpectMembers(IUnknown& owner, int count);
 
-/// What a lookup of a UUID, and a link to what it finds, will touch, fetched into the cache step by step: each
-/// step needs what the one before has fetched. \param key of the UUID.
+/// What a lookup of a UUID, and a link to what it finds, will touch, fetched into the cache step by step:
+/// each step needs what the one before has fetched. \param key of the UUID.
 void ZanDicPrefetchPlace(std::uint32_t key);   ///< in the registry
 void ZanDicPrefetchObject(std::uint32_t key);  ///< the object found there
 void ZanDicPrefetchLinks(std::uint32_t key);   ///< its adapters and what its links go through

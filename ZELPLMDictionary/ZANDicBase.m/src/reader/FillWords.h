@@ -89,8 +89,7 @@ HRESULT Flag(Element& element, const Given& given) {
 
 /// The index of a list of words.
 template <const auto& Words>
-constexpr WordIndex kIndex{
-    std::span<std::remove_reference_t<decltype(Words[0])>, std::size(Words)>(Words)};
+constexpr WordIndex kIndex{std::span<std::remove_reference_t<decltype(Words[0])>, std::size(Words)>(Words)};
 
 /// A word of a list; any other stands for a code of its own.
 template <auto Setter, const auto& Words, int OtherCode, class Element>

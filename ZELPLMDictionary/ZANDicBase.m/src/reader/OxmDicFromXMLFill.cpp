@@ -193,13 +193,11 @@ HRESULT FillRelation(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRelatio
 
 /// Keeps a member for the second pass when it has something to resolve there.
 template <class Face>
-void NoteMember(Reading& reading, const ZELVBTXMLNode& node, OXMDicTYPE type,
-                const ZanDicRef<Face>& member) {
+void NoteMember(Reading& reading, const ZELVBTXMLNode& node, OXMDicTYPE type, const ZanDicRef<Face>& member) {
     if (!reading.references.HasAny()) return;
     const ZELVBTXMLAttribute target = reading.references.At(slot::kTarget, reading.document);
     const std::uint32_t key = target ? UuidFromText(target.Value()).ComputeHashKey() : 0;
-    reading.members.push_back(
-        {ZanDicHold(*member), type, node.Index(), reading.references, key});
+    reading.members.push_back({ZanDicHold(*member), type, node.Index(), reading.references, key});
 }
 
 // Members of a class.
@@ -309,8 +307,8 @@ struct Identity {
     ZELDbBinary uuid;
 };
 
-/// Children of one tag on their way to members. Who they are is read of some at a time, so that their places in
-/// the registry come into the cache while those before them are filled.
+/// Children of one tag on their way to members. Who they are is read of some at a time, so that their places
+/// in the registry come into the cache while those before them are filled.
 class Identities {
 public:
     explicit Identities(const ZELVBTXMLNode& parent)

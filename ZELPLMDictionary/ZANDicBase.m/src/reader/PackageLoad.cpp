@@ -406,7 +406,11 @@ PackageLoad::StepResult PackageLoad::add_Commands() { return next_After(Complete
 // The passes.
 
 PackageLoad::StepResult PackageLoad::fill_Elements() {
-    ZanDicExpectMembers(*_Reading->package, _Node.Children().Count());
+    const int count = _Node.Children().Count();
+    ZanDicExpectMembers(*_Reading->package, count);
+    _Reading->elements.reserve(static_cast<std::size_t>(count));
+    // About as many as usual documents need; room that is not used costs nothing.
+    _Reading->members.reserve(_Document->ElementCount() / 3);
     for (const ZELVBTXMLNode child : _Node.Children()) {
         if (!goes_On(ReadElement(*_Reading, child))) return StepResult::Finished;
     }

@@ -9,9 +9,10 @@
 #include "ZELHash.h"
 #include "ZELString.h"
 
-/// Gives strings for the views of a document; a text that is given often is shared. A text is kept when it comes
-/// twice before another for its place: most names of a document come once, and to keep each of them for a while
-/// would cost more than to make it. Bounded: a text that is kept takes the place of an older one. One thread.
+/// Gives strings for the views of a document; a text that is given often is shared. A text is kept when it
+/// comes twice before another for its place: most names of a document come once, and to keep each of them for
+/// a while would cost more than to make it. Bounded: a text that is kept takes the place of an older one. One
+/// thread.
 class TextCache {
 public:
     ZELString Text(std::string_view view) {
