@@ -28,7 +28,8 @@ struct ShortWord {
         second = std::bit_cast<std::uint64_t>(tail);
     }
 
-    /// \param text of a document, no longer than kLongest: what stands behind such a text can be read.
+    /// \param text of a document, no longer than kLongest: it has no zeros, and what stands behind it can be
+    /// read.
     static ShortWord Of(std::string_view text) {
         ShortWord word;
         std::memcpy(&word.first, text.data(), sizeof word.first);
