@@ -113,6 +113,18 @@ TEST(HexToBinaryTest, MakesAByteWithABadDigitFF) {
     EXPECT_EQ(Binary("G0112233445566778899AABBCCDDEE00").front(), 0xFF);
 }
 
+/// The usual form is decoded in a way of its own; a leading dash keeps a text from it.
+TEST(HexToBinaryTest, ReadsTheUsualFormAsAnyOther) {
+    for (std::size_t at = 0; at < std::string_view(kLadderText).size(); ++at) {
+        for (int byte = 1; byte < 256; ++byte) {
+            std::string text = kLadderText;
+            text[at] = static_cast<char>(byte);
+            if (at == 0 && byte == '-') continue;
+            ASSERT_EQ(Binary(text), Binary("-" + text)) << at << " " << byte;
+        }
+    }
+}
+
 TEST(HexToBinaryTest, FillsAShortTextUpWithFF) {
     const Bytes bytes = Binary("00112233445566778899AABBCCDDEE");
 

@@ -154,6 +154,23 @@ TEST_F(ZELVBTXMLNodeTest, BytesBehindNamesAndValuesCanBeRead) {
     EXPECT_GT(sum, 0u);
 }
 
+TEST_F(ZELVBTXMLNodeTest, AnAttributeReadsTheSameHoweverItIsWritten) {
+    for (const char* const written :
+         {" name=\"value\"", "\nname=\"value\"", "  name='value'", " name = \"value\"", " name= 'value'",
+          " name =\"value\"", " name=\"v&#97;lue\""}) {
+        const ZELVBTXMLNode root = Read(std::string("<a x=\"1\"") + written + " y=\"2\"/>");
+
+        const ZELVBTXMLAttribute attribute = root.getAttribute("name");
+        ASSERT_TRUE(attribute) << written;
+        EXPECT_EQ(attribute.Value(), "value") << written;
+        EXPECT_EQ(root.Attributes().Size(), 3u) << written;
+        EXPECT_EQ(root.getAttributeValue("y"), "2") << written;
+        const bool isNextLine = written[0] == '\n';
+        EXPECT_EQ(attribute.Position().line, isNextLine ? 2 : 1) << written;
+        EXPECT_EQ(attribute.Position().column, isNextLine ? 1 : written[1] == ' ' ? 11 : 10) << written;
+    }
+}
+
 TEST_F(ZELVBTXMLNodeTest, PositionsAreThoseOfTheTagAndOfTheName) {
     const ZELVBTXMLNode root =
         Read("\xEF\xBB\xBF<a\n  b='1'>\r\n\t<c d='2'/>\r<\xC3\xA9 \xE6\x97\xA5='3' e='4'/></a>");

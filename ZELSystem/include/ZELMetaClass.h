@@ -47,6 +47,13 @@ public:
     /// \returns whether \p name is this class or one of its bases. The null class is no base in this sense.
     bool IsAKindOf(std::string_view name) const noexcept;
 
+    /// \returns whether \p other is this class or one of its bases.
+    bool IsAKindOf(const ZELMetaClass& other) const noexcept {
+        const ZELMetaClass* meta = this;
+        while (meta != nullptr && meta != &other) meta = meta->_Base;
+        return meta != nullptr;
+    }
+
     /// Makes an object by the class's own factory. \returns null when the class has none.
     ZELBaseUnknown* CreateItself() const { return _Factory != nullptr ? _Factory() : nullptr; }
 

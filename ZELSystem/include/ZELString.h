@@ -21,7 +21,11 @@ public:
     /// \param text closed by a zero; null gives the empty string.
     ZELString(const char* text) : ZELString(text != nullptr ? std::string_view(text) : std::string_view()) {}
 
-    explicit ZELString(std::string_view text) : _Text(text.empty() ? nullptr : ZELText::Create(text)) {}
+    explicit ZELString(std::string_view text) : ZELString(text, 0) {}
+
+    /// \param hashKey that of ZELHashText where the caller knows it, else 0.
+    ZELString(std::string_view text, std::uint32_t hashKey)
+        : _Text(text.empty() ? nullptr : ZELText::Create(text, hashKey)) {}
 
     ZELString(const ZELString& other) noexcept
         : _Text(other._Text != nullptr ? other._Text->AddRef() : nullptr) {}

@@ -8,12 +8,17 @@
 
 /// Counted text that strings share: what ZELString and ZELUnicodeString point to.
 ///
-/// Never changed once made; the characters and a closing zero follow the block. Hash key and number of
-/// characters are worked out when first asked for and kept. Counts are not atomic: one thread.
+/// Never changed once made; the characters and a closing zero follow the block. The hash key is worked out
+/// when first asked for and kept. Counts are not atomic: one thread.
 class ZELSYSTEM_API ZELText {
 public:
     /// Makes a block for \p text with a count of 1, the caller's. Throws std::bad_alloc or std::length_error.
-    static ZELText* Create(std::string_view text) { return Create(text, {}); }
+    /// \param hashKey that of the text where the caller knows it, else 0.
+    static ZELText* Create(std::string_view text, std::uint32_t hashKey = 0) {
+        ZELText* const made = Create(text, std::string_view());
+        made->_HashKey = hashKey;
+        return made;
+    }
 
     /// Same for \p head followed by \p tail.
     static ZELText* Create(std::string_view head, std::string_view tail);
@@ -37,25 +42,19 @@ public:
     std::uint32_t HashKey() const noexcept { return _HashKey != 0 ? _HashKey : compute_HashKey(); }
 
     /// \returns how many characters the text has, taken as UTF-8.
-    std::uint32_t CharacterCount() const noexcept {
-        return _CharacterCount != kUnknown ? _CharacterCount : compute_CharacterCount();
-    }
+    std::uint32_t CharacterCount() const noexcept;
 
 private:
     friend struct ZELEmptyText;
-    static constexpr std::uint32_t kUnknown = 0xFFFFFFFFU;
 
-    constexpr ZELText(std::uint32_t length, std::uint32_t characterCount) noexcept
-        : _Length(length), _CharacterCount(characterCount) {}
+    constexpr explicit ZELText(std::uint32_t length) noexcept : _Length(length) {}
 
     std::uint32_t compute_HashKey() const noexcept;
-    std::uint32_t compute_CharacterCount() const noexcept;
     void free_Itself() noexcept;
 
     std::uint32_t _Count = 1;
-    std::uint32_t _Length;                  ///< bytes, without the closing zero
-    mutable std::uint32_t _HashKey = 0;     ///< 0 until asked for
-    mutable std::uint32_t _CharacterCount;  ///< kUnknown until asked for
+    std::uint32_t _Length;               ///< bytes, without the closing zero
+    mutable std::uint32_t _HashKey = 0;  ///< 0 until asked for
 };
 
 /// \returns the order of two texts by their bytes: negative, 0 or positive.

@@ -24,23 +24,26 @@ struct ZELVBTXMLElementRecord {
     std::uint32_t endOfSubtree;    ///< index of the first element in document order that is not inside
 };
 
-/// An attribute on the tape: 12 bytes. One with kAside for its value's length has the rest in a
-/// ZELVBTXMLAsideRecord, whose index then stands in `valueOffset`.
+/// An attribute on the tape: 8 bytes, for one that is written as most are, name="value". One with kAside for
+/// its value's length is told in a ZELVBTXMLAsideRecord, whose index then stands in `valueOffset`.
 struct ZELVBTXMLAttributeRecord {
     static constexpr std::uint32_t kAside = 0xFFFFFF;
     static constexpr std::uint32_t kMaxNameLength = 0xFF;
+    static constexpr std::uint32_t kBetween = 2;  ///< bytes from the end of the name to the value
 
-    std::uint32_t nameOffset;   ///< in the text
     std::uint32_t valueOffset;  ///< in the text
     std::uint32_t lengths;      ///< value's length << 8 | name's length, in bytes
 
     std::uint32_t NameLength() const { return lengths & kMaxNameLength; }
+    std::uint32_t NameOffset() const { return valueOffset - kBetween - NameLength(); }
     std::uint32_t ValueLength() const { return lengths >> 8; }
+    bool IsAside() const { return ValueLength() == kAside; }
 };
 
-/// What the 12 bytes of an attribute cannot hold: a value that had to be decoded, or one that is very
-/// long or has a very long name.
+/// What the 8 bytes of an attribute cannot hold: a value that had to be decoded, one that is very long or has
+/// a very long name, and one with blanks around the equals sign.
 struct ZELVBTXMLAsideRecord {
+    std::uint32_t nameOffset;  ///< in the text
     std::uint32_t nameLength;
     std::uint32_t valueOffset;  ///< in the decoded text when `decoded`, else in the text
     std::uint32_t valueLength;
@@ -64,18 +67,21 @@ struct ZELVBTXMLTape {
         return {text + elements[element].tagOffset, elements[element].tagLength};
     }
 
+    std::uint32_t NameOffset(std::uint32_t attribute) const {
+        const ZELVBTXMLAttributeRecord& record = attributes[attribute];
+        return record.IsAside() ? asides[record.valueOffset].nameOffset : record.NameOffset();
+    }
+
     std::string_view Name(std::uint32_t attribute) const {
         const ZELVBTXMLAttributeRecord& record = attributes[attribute];
-        const bool aside = record.ValueLength() == ZELVBTXMLAttributeRecord::kAside;
-        return {text + record.nameOffset,
-                aside ? asides[record.valueOffset].nameLength : record.NameLength()};
+        if (!record.IsAside()) return {text + record.NameOffset(), record.NameLength()};
+        const ZELVBTXMLAsideRecord& aside = asides[record.valueOffset];
+        return {text + aside.nameOffset, aside.nameLength};
     }
 
     std::string_view Value(std::uint32_t attribute) const {
         const ZELVBTXMLAttributeRecord& record = attributes[attribute];
-        if (record.ValueLength() != ZELVBTXMLAttributeRecord::kAside) {
-            return {text + record.valueOffset, record.ValueLength()};
-        }
+        if (!record.IsAside()) return {text + record.valueOffset, record.ValueLength()};
         const ZELVBTXMLAsideRecord& aside = asides[record.valueOffset];
         return {(aside.decoded != 0 ? decodedText : text) + aside.valueOffset, aside.valueLength};
     }

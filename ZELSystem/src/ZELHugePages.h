@@ -8,4 +8,8 @@
 /// without huge pages are left alone.
 void ZELAdviseHugePages(void* memory, std::size_t bytes) noexcept;
 
+/// Asks the system for the pages of a block that is about to be filled, all at once instead of one fault
+/// each.
+void ZELTakePages(void* memory, std::size_t bytes) noexcept;
+
 #endif

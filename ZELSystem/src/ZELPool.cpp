@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <new>
 
+#include "ZELHugePages.h"
+
 #if defined(__SANITIZE_ADDRESS__)
 #define ZELPOOL_BYPASSED 1
 #elif defined(__has_feature)
@@ -24,7 +26,8 @@ namespace {
 constexpr std::size_t kGranule = 8;
 constexpr std::size_t kLargestBlock = 512;
 constexpr std::size_t kFirstChunk = 1024;
-constexpr std::size_t kLargestChunk = std::size_t{128} * 1024;
+// A little less than what the C allocator would give pages of its own, rounded up.
+constexpr std::size_t kLargestChunk = std::size_t{128} * 1024 - 64;
 
 struct FreeBlock {
     FreeBlock* next;
@@ -52,6 +55,8 @@ void AddChunk(SizeClass& sizeClass, std::size_t blockSize) {
     const std::size_t bytes = (wanted - sizeof(Chunk)) / blockSize * blockSize;
     void* const memory = std::malloc(sizeof(Chunk) + bytes);
     if (memory == nullptr) throw std::bad_alloc();
+    // A class that has come to the largest chunks will fill this one too.
+    if (wanted == kLargestChunk) ZELTakePages(memory, sizeof(Chunk) + bytes);
     chunks = ::new (memory) Chunk{chunks};
     sizeClass.unused = static_cast<unsigned char*>(memory) + sizeof(Chunk);
     sizeClass.unusedEnd = sizeClass.unused + bytes;

@@ -10,7 +10,7 @@
 
 /// The empty text: its own reference keeps the count above 0 for ever.
 struct ZELEmptyText {
-    ZELText block{0, 0};
+    ZELText block{0};
     char zero = '\0';
 };
 
@@ -26,7 +26,7 @@ ZELText* ZELText::Create(std::string_view head, std::string_view tail) {
     const std::size_t length = head.size() + tail.size();
     if (length > INT_MAX) throw std::length_error("text of more than 2147483647 bytes");
     void* const block = ZELPoolAllocate(BlockSize(length));
-    ZELText* const text = ::new (block) ZELText(static_cast<std::uint32_t>(length), kUnknown);
+    ZELText* const text = ::new (block) ZELText(static_cast<std::uint32_t>(length));
     char* const characters = static_cast<char*>(block) + sizeof(ZELText);
     if (!head.empty()) std::memcpy(characters, head.data(), head.size());
     if (!tail.empty()) std::memcpy(characters + head.size(), tail.data(), tail.size());
@@ -38,11 +38,11 @@ ZELText* ZELText::CreateEmpty() noexcept { return emptyText.block.AddRef(); }
 
 std::uint32_t ZELText::compute_HashKey() const noexcept { return _HashKey = ZELHashText(View()); }
 
-std::uint32_t ZELText::compute_CharacterCount() const noexcept {
+std::uint32_t ZELText::CharacterCount() const noexcept {
     // Bytes that go on with a character (10xxxxxx) do not begin one.
     std::uint32_t count = 0;
     for (const char byte : View()) count += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-    return _CharacterCount = count;
+    return count;
 }
 
 void ZELText::free_Itself() noexcept { ZELPoolFree(this, BlockSize(_Length)); }

@@ -130,6 +130,7 @@ const char* ZELXMLTokenizer::ReadStartTag(const char* p) {
     store_.elements.Append({Offset(tag), static_cast<std::uint32_t>(p - tag), firstAttribute, open_});
     open_ = element;
     for (;;) {
+        while (const char* const behind = ReadUsualAttribute(p)) p = behind;
         const char* next = ZELXMLSkipBlanks(p);
         if (*next == '>') return next + 1;
         if (*next == '/') {
@@ -171,16 +172,36 @@ const char* ZELXMLTokenizer::ReadEndTag(const char* p) {
     return close + 1;
 }
 
-inline void ZELXMLTokenizer::AppendAttribute(const char* name, const char* nameEnd, const Value& value) {
+/// Reads an attribute as nearly all are written: one blank, a name of ASCII, an equals sign, and in double
+/// quotes a value that reads as it stands. \returns the place behind it; null, and nothing is read, for any
+/// other text.
+inline const char* ZELXMLTokenizer::ReadUsualAttribute(const char* p) {
+    using Record = ZELVBTXMLAttributeRecord;
+    const char* const name = p + 1;
+    if (*p != ' ' || !ZELXMLIs(*name, kZELXMLNameStart)) return nullptr;
+    const char* const nameEnd = ZELXMLFindNameEnd(name + 1);
+    if (nameEnd[0] != '=' || nameEnd[1] != '"') return nullptr;
+    const char* const value = nameEnd + Record::kBetween;
+    const char* const valueEnd = ZELXMLFindSpecial<'"', '<', '&'>(value);
+    const auto nameLength = static_cast<std::size_t>(nameEnd - name);
+    const auto valueLength = static_cast<std::size_t>(valueEnd - value);
+    if (*valueEnd != '"' || nameLength > Record::kMaxNameLength || valueLength >= Record::kAside)
+        return nullptr;
+    store_.attributes.Append({Offset(value), static_cast<std::uint32_t>(valueLength << 8 | nameLength)});
+    return valueEnd + 1;
+}
+
+void ZELXMLTokenizer::AppendAttribute(const char* name, const char* nameEnd, const Value& value) {
     using Record = ZELVBTXMLAttributeRecord;
     const auto nameLength = static_cast<std::uint32_t>(nameEnd - name);
-    if (!value.decoded && nameLength <= Record::kMaxNameLength && value.length < Record::kAside) {
-        store_.attributes.Append({Offset(name), value.offset, value.length << 8 | nameLength});
+    const bool isNear = Offset(nameEnd) + Record::kBetween == value.offset;
+    if (!value.decoded && isNear && nameLength <= Record::kMaxNameLength && value.length < Record::kAside) {
+        store_.attributes.Append({value.offset, value.length << 8 | nameLength});
         return;
     }
     const auto index = static_cast<std::uint32_t>(store_.asides.Size());
-    store_.asides.Append({nameLength, value.offset, value.length, value.decoded ? 1u : 0u});
-    store_.attributes.Append({Offset(name), index, Record::kAside << 8});
+    store_.asides.Append({Offset(name), nameLength, value.offset, value.length, value.decoded ? 1u : 0u});
+    store_.attributes.Append({index, Record::kAside << 8});
 }
 
 const char* ZELXMLTokenizer::ReadAttribute(const char* name) {

@@ -74,6 +74,7 @@ private:
     const char* ReadStartTag(const char* p);
     const char* ReadEndTag(const char* p);
     void CloseElement();
+    const char* ReadUsualAttribute(const char* p);
     const char* ReadAttribute(const char* name);
     const char* ReadUnusualValue(const char* name, const char* nameEnd, const char* value, const char* p);
     void AppendAttribute(const char* name, const char* nameEnd, const Value& value);

@@ -161,7 +161,6 @@ private:
     unsigned char _Sensitive = 0;
     unsigned char _MultiValuated = 0;
     unsigned char _Injective = 0;
-    bool _Noted = false;             ///< among the injective attributes that point at its target
     std::uint32_t _Modes = 0x6cb22;  ///< Shared, Read, Mixed, None, NEUTRAL, List
     std::int32_t _MaxLength = -1;    ///< -1: no limit
     std::int32_t _Lower = 0;

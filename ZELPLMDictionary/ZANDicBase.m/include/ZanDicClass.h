@@ -223,6 +223,7 @@ public:
     /// \returns the visible block of a root; null when there is none.
     ZanDicAttributeBlock* find_BlockOfRoot(const ZanDicAttributeBlock& root);
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void expect_Members(int count) override { _ATTRIBUTES.reserve(_ATTRIBUTES.Size() + count); }
     int lost_Links(LinkName link) const override;
 
 protected:

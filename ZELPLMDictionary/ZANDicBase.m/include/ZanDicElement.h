@@ -1,6 +1,7 @@
 #ifndef ZAN_DIC_ELEMENT_H
 #define ZAN_DIC_ELEMENT_H
 
+#include <cstdint>
 #include <string_view>
 
 #include "ZanDicExport.h"
@@ -87,9 +88,12 @@ protected:
     ZELUnicodeString unset_Text() const;
 
 private:
-    bool _Unnamed = false;               ///< built without a name: its texts are null at first
-    ZanDicLink<ZanDicPackage> _Package;  ///< not owning
-    OXMDicVISIBILITY _Visibility = OXMDicVISIBILITY_Public;
+    OXMDicVISIBILITY visibility_Code() const;
+
+    static constexpr std::int16_t kOddVisibility = INT16_MIN;
+
+    std::int16_t _Visibility = OXMDicVISIBILITY_Public;  ///< kOddVisibility: it is among the rare fields
+    ZanDicLink<ZanDicPackage> _Package;                  ///< not owning
 };
 
 #endif

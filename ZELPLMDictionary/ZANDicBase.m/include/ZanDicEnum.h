@@ -53,6 +53,7 @@ public:
 
     ZanDicOwnedList owned_List() override;
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void expect_Members(int count) override { _ENUMERATORS.reserve(_ENUMERATORS.Size() + count); }
 
 protected:
     void drop_Links() override;

@@ -21,7 +21,7 @@ class ZanHashList;
 
 /// What an object holds only when it was set: kept apart, so that the many objects without pay one word.
 /// Kinds with rare fields of their own derive from it.
-struct ZANDICBASE_API ZanDicRareFields {
+struct ZANDICBASE_API ZanDicRareFields : ZELPooled {
     ZanDicRareFields();
     virtual ~ZanDicRareFields();
     ZanDicRareFields(const ZanDicRareFields&);
@@ -34,6 +34,7 @@ struct ZANDICBASE_API ZanDicRareFields {
     std::shared_ptr<ZanHashList> categories;  ///< links; shared by copies, freed with the last holder
     ZELUnicodeString alias;                   ///< of elements and packages
     ZELUnicodeString expositionLevel;
+    OXMDicVISIBILITY visibility = OXMDicVISIBILITY_Public;  ///< of an element, when it is an odd number
 };
 
 /// Base of every object of the dictionary: name, 16-byte UUID, type code, free attributes, categories.
@@ -155,6 +156,17 @@ public:
     /// \p owned; its own lists are empty after that. Writes nothing.
     virtual void take_Owned(std::vector<ZanDicObj*>& owned);
 
+    /// Fetches what a lookup reads of an object into the cache, or, of one that is there, what a query and a
+    /// new link touch.
+    static void prefetch_Obj(const ZanDicObj* object) {
+        __builtin_prefetch(object);
+        __builtin_prefetch(&object->_Uuid);
+    }
+    void prefetch_Links() const;
+
+    /// Makes room for \p count members more. A hint: they need not come.
+    virtual void expect_Members(int count);
+
     /// How many objects there are in the process, for tests and diagnostics.
     static int live_Objects() { return liveObjects; }
     /// Whether a default object that is made and destroyed would show in the trace: the lookups that can
@@ -187,8 +199,13 @@ private:
     std::unique_ptr<ZanDicRareFields> _Rare;
     std::uint32_t _LinkPlace = 0;  ///< where links find this object; 0 until it is first linked
     ZELDbBinary _Uuid;
-    bool _Registered = false;
-    bool _Gone = false;
+    bool _Registered : 1;
+    bool _Gone : 1;
+
+protected:
+    // Here because there is room for them: what derived objects hold is packed behind.
+    bool _Unnamed : 1;  ///< an element built without a name: its texts are null at first
+    bool _Noted : 1;    ///< an attribute among the injective ones that point at its target
 };
 
 /// Hash and compare functions of the collections that key objects by name or by UUID.

@@ -128,6 +128,7 @@ public:
     // What follows is for the library itself.
 
     void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void expect_Members(int count) override { _ELEMENTS.reserve(_ELEMENTS.Size() + count); }
     /// The last step of the computation of blocks: looks for attributes and names that a class has twice.
     HRESULT check_Blocks() const;
     int lost_Links(LinkName link) const override;

@@ -1,6 +1,8 @@
 #ifndef ZAN_DIC_REGISTRY_H
 #define ZAN_DIC_REGISTRY_H
 
+#include <cstdint>
+
 #include "ZELDbBinary.h"
 #include "ZELListPtr.h"
 #include "ZELResult.h"
@@ -59,6 +61,16 @@ public:
 
     /// \returns the package that was asked for under that name; null when there is none.
     virtual ZanDicPackage* find_Load(const ZELString& askedName) = 0;
+
+    /// Makes room for \p count objects more than there are. Throws std::bad_alloc when memory is short.
+    virtual void expect_Objs(int count) = 0;
+
+    /// Says that an object is looked for, or registered, soon. \param key that of its UUID.
+    virtual void prefetch_Uuid(std::uint32_t key) const noexcept = 0;
+
+    /// \returns the object that a lookup of a UUID of that key would find first, or null: it may be another,
+    /// and is to be touched, not asked.
+    virtual const ZanDicObj* guess_Obj(std::uint32_t key) const noexcept = 0;
 
 protected:
     ~ZanDicRegistry() = default;

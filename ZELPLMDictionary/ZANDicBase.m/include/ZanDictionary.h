@@ -12,6 +12,7 @@
 #include "ZanDicLink.h"
 #include "ZanDicObj.h"
 #include "ZanDicRegistry.h"
+#include "ZanDicUuidTable.h"
 #include "ZanHashList.h"
 
 class ZanDicPackage;
@@ -90,11 +91,12 @@ public:
     HRESULT get_Relations(const ZELDbBinary& classUuid, ZELListPtrIUnknown& relationships) override;
     void note_Load(const ZELString& askedName, ZanDicPackage& package) override;
     ZanDicPackage* find_Load(const ZELString& askedName) override;
+    void expect_Objs(int count) override;
+    void prefetch_Uuid(std::uint32_t key) const noexcept override { _OBJECTS.Prefetch(key); }
+    const ZanDicObj* guess_Obj(std::uint32_t key) const noexcept override { return _OBJECTS.Guess(key); }
 
     /// \returns the number of registered objects.
     int count_Objs() const { return _OBJECTS.Size(); }
-    /// Makes room for so many registered objects in all.
-    void reserve_Objs(int count) { _OBJECTS.Reserve(count); }
 
 private:
     static constexpr int kPrimitiveCount = OXMDicPRIMITIVEType_AnyObject;
@@ -110,8 +112,8 @@ private:
     OXMDicPERSISTENT _LoadingMode = OXMDicPERSISTENT_Xml;
     ZanHashList _PACKAGES;  ///< one reference to each, in the order of creation
     std::unordered_map<std::string, ZanDicLink<ZanDicPackage>>
-        _LOADS;                    ///< by a name asked for that is not theirs
-    ZELHashTabZanDicObj _OBJECTS;  ///< not owning, by UUID
+        _LOADS;                ///< by a name asked for that is not theirs
+    ZanDicUuidTable _OBJECTS;  ///< not owning
     ZanDicPrimitive* _PRIMITIVES[kPrimitiveCount] =
         {};  ///< one reference to each, by kind less 1; null before Create
     ZELHashTable<ZanDicClassToRelationElem> _CLASSTORELATION;  ///< owned, by the UUID of the class

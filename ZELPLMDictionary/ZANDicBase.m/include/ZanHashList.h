@@ -60,8 +60,10 @@ public:
     /// since does not count.
     int LostCount() const;
 
-    // What follows is for the library itself and writes nothing.
+    // What follows is for the library itself. All but append_New write nothing.
 
+    /// As Append, of an object whose name is known not to be taken.
+    HRESULT append_New(ZanDicObj& object);
     /// Removes exactly \p object, whatever its name now is. \returns whether it was in the list.
     bool take_Object(const ZanDicObj* object);
     /// Empties the list.
@@ -74,6 +76,7 @@ private:
 
     static Store* empty_Store(ZanHashListKind kind) noexcept;
     Store& make_Store();
+    HRESULT append_Object(ZanDicObj* object, bool isNew);
 
     Store* _STORE;  ///< owned; the shared empty one of the kind while nothing is in the list
 };

@@ -25,7 +25,7 @@ T* LiveImplementationOf(const IUnknown* face) {
     if constexpr (std::is_same_v<T, ZanDicObj>)
         return object;
     else
-        return object->IsAKindOf(T::ClassName()) ? static_cast<T*>(object) : nullptr;
+        return object->MetaObject().IsAKindOf(T::ClassMeta()) ? static_cast<T*>(object) : nullptr;
 }
 
 #endif

@@ -1,5 +1,7 @@
 #include "ZanDicObj.h"
 
+#include <array>
+#include <iterator>
 #include <string>
 
 #include "HexToBinary.h"
@@ -52,11 +54,21 @@ constexpr struct {
     {OXMDicTYPE_RBOPathExpression, IID_OXMIDicRBOPathExpression},
 };
 
-const ZELInterfaceId* FindInterface(int type) {
-    for (const auto& row : kInterfaces) {
-        if (row.type == type) return &row.id;
+constexpr int kTypeCodes = 64;
+
+/// The row of each type code, from 1; 0 for none.
+constexpr std::array<unsigned char, kTypeCodes> kInterfaceRows = [] {
+    std::array<unsigned char, kTypeCodes> rows{};
+    for (std::size_t row = 0; row < std::size(kInterfaces); ++row) {
+        rows.at(static_cast<std::size_t>(kInterfaces[row].type)) = static_cast<unsigned char>(row + 1);
     }
-    return nullptr;
+    return rows;
+}();
+
+const ZELInterfaceId* FindInterface(int type) {
+    if (type < 0 || type >= kTypeCodes) return nullptr;
+    const std::size_t row = kInterfaceRows[static_cast<std::size_t>(type)];
+    return row != 0 ? &kInterfaces[row - 1].id : nullptr;
 }
 
 /// The constructors are silent at level 0 even when they are listed.
@@ -83,14 +95,16 @@ std::unique_ptr<ZanDicRareFields> ZanDicRareFields::Copy() const {
     return std::make_unique<ZanDicRareFields>(*this);
 }
 
-ZanDicObj::ZanDicObj() : _Name("UNDEFINED") {
+ZanDicObj::ZanDicObj()
+    : _Name("UNDEFINED"), _Registered(false), _Gone(false), _Unnamed(false), _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Call)) return;
     kConstructor.Line(TraceLevel::Call) << "_Type=" << _Type << ", _Name=" << _Name;
     kConstructor.Line(TraceLevel::Call) << "@=" << this;
 }
 
-ZanDicObj::ZanDicObj(const ZELString& name, const ZELDbBinary& uuid) : _Name(name), _Uuid(uuid) {
+ZanDicObj::ZanDicObj(const ZELString& name, const ZELDbBinary& uuid)
+    : _Name(name), _Uuid(uuid), _Registered(false), _Gone(false), _Unnamed(false), _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Detail)) return;
     kConstructor.Line(TraceLevel::Detail)
@@ -104,7 +118,11 @@ ZanDicObj::ZanDicObj(const ZanDicObj& other)
       _Type(other._Type),
       _Name(other._Name),
       _Rare(other._Rare ? other._Rare->Copy() : nullptr),
-      _Uuid(other._Uuid) {
+      _Uuid(other._Uuid),
+      _Registered(false),
+      _Gone(false),
+      _Unnamed(other._Unnamed),
+      _Noted(other._Noted) {
     ++liveObjects;
 }
 
@@ -115,6 +133,8 @@ ZanDicObj& ZanDicObj::operator=(const ZanDicObj& other) {
         _Name = other._Name;
         _Rare = other._Rare ? other._Rare->Copy() : nullptr;
         _Uuid = other._Uuid;
+        _Unnamed = other._Unnamed;
+        _Noted = other._Noted;
     };
     if (_Registered && !(_Uuid == other._Uuid)) {
         rekey(assign);
@@ -342,7 +362,14 @@ void ZanDicObj::mark_Gone() {
     drop_Links();
 }
 
+void ZanDicObj::prefetch_Links() const {
+    prefetch_Ties();
+    ZanDicLinkBase::Prefetch(_LinkPlace);
+}
+
 void ZanDicObj::take_Owned(std::vector<ZanDicObj*>& /*owned*/) {}
+
+void ZanDicObj::expect_Members(int /*count*/) {}
 
 void ZanDicObj::drop_Links() {
     if (_Rare) _Rare->categories.reset();

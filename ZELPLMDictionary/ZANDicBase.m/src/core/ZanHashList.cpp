@@ -1,11 +1,13 @@
 #include "ZanHashList.h"
 
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <utility>
 
 #include "ZELArray.h"
+#include "ZELPool.h"
 #include "ZanDicLink.h"
 #include "ZanDicObj.h"
 #include "ZanDicTrace.h"
@@ -16,26 +18,127 @@ namespace {
 constexpr int kSmall = 8;
 constexpr int kNone = -1;
 
+/// Where the entries of a list stand, by the hashes of their keys: a power of two of slots, at most three
+/// quarters of them taken. A slot is one number, the entry's and above it as many bits of the hash as there
+/// is room for, so that few entries are looked at in vain; two bytes in lists of a few hundred entries, else
+/// four.
+class SlotIndex {
+public:
+    constexpr SlotIndex() noexcept = default;
+    SlotIndex(const SlotIndex& other) : SlotIndex() {
+        if (other._SLOTS == nullptr) return;
+        allocate(other._Bits);
+        std::memcpy(_SLOTS, other._SLOTS, Bytes());
+    }
+    SlotIndex& operator=(const SlotIndex&) = delete;
+    ~SlotIndex() { Clear(); }
+
+    bool IsEmpty() const { return _SLOTS == nullptr; }
+
+    /// How many entries there may be before the index must be made anew.
+    int MostEntries() const { return IsEmpty() ? 0 : Slots() / 4 * 3; }
+
+    void Clear() {
+        if (_SLOTS != nullptr) ZELPoolFree(std::exchange(_SLOTS, nullptr), Bytes());
+        _Bits = 0;
+    }
+
+    /// Empties the index and makes room for \p count entries.
+    void Make(int count) {
+        Clear();
+        unsigned bits = 4;
+        while ((1 << bits) / 4 * 3 < count) ++bits;
+        allocate(bits);
+        std::memset(_SLOTS, 0, Bytes());
+    }
+
+    void Enter(std::uint32_t hash, int entry) {
+        int slot = Home(hash);
+        while (At(slot) != 0) slot = Next(slot);
+        Set(slot, Mark(hash) | static_cast<std::uint32_t>(entry + 1));
+    }
+
+    /// \returns the first entry of that hash, or one alike, for which \p matches(entry) holds; kNone for
+    /// none.
+    template <class Matches>
+    int Find(std::uint32_t hash, const Matches& matches) const {
+        const std::uint32_t mark = Mark(hash);
+        for (int slot = Home(hash);; slot = Next(slot)) {
+            const std::uint32_t found = At(slot);
+            if (found == 0) return kNone;
+            if ((found ^ mark) >> _Bits == 0 && matches(EntryIn(found))) return EntryIn(found);
+        }
+    }
+
+    /// Takes an entry out and closes the gap, so that searches need no marks. \param hashOf gives the hash of
+    /// an entry.
+    template <class HashOf>
+    void Leave(int entry, const HashOf& hashOf) {
+        int gap = Home(hashOf(entry));
+        while (EntryIn(At(gap)) != entry) gap = Next(gap);
+        for (int slot = Next(gap); At(slot) != 0; slot = Next(slot)) {
+            const int fromHome = (slot - Home(hashOf(EntryIn(At(slot))))) & (Slots() - 1);
+            if (fromHome < ((slot - gap) & (Slots() - 1))) continue;
+            Set(gap, At(slot));
+            gap = slot;
+        }
+        Set(gap, 0);
+    }
+
+private:
+    static constexpr unsigned kMostNarrowBits = 9;
+
+    bool IsNarrow() const { return _Bits <= kMostNarrowBits; }
+    int Slots() const { return 1 << _Bits; }
+    std::size_t Bytes() const {
+        return (std::size_t{1} << _Bits) * (IsNarrow() ? sizeof(std::uint16_t) : sizeof(std::uint32_t));
+    }
+    int Next(int slot) const { return (slot + 1) & (Slots() - 1); }
+    int Home(std::uint32_t hash) const { return static_cast<int>(hash * 0x9E3779B1U >> (32 - _Bits)); }
+    /// The low bits of the hash, above those of the entry.
+    std::uint32_t Mark(std::uint32_t hash) const {
+        return IsNarrow() ? (hash << _Bits) & 0xFFFFU : hash << _Bits;
+    }
+    int EntryIn(std::uint32_t slot) const { return static_cast<int>(slot & ((1U << _Bits) - 1)) - 1; }
+
+    std::uint32_t At(int slot) const {
+        return IsNarrow() ? static_cast<const std::uint16_t*>(_SLOTS)[slot]
+                          : static_cast<const std::uint32_t*>(_SLOTS)[slot];
+    }
+    void Set(int slot, std::uint32_t value) {
+        if (IsNarrow()) {
+            static_cast<std::uint16_t*>(_SLOTS)[slot] = static_cast<std::uint16_t>(value);
+        } else {
+            static_cast<std::uint32_t*>(_SLOTS)[slot] = value;
+        }
+    }
+
+    void allocate(unsigned bits) {
+        const std::size_t width = bits <= kMostNarrowBits ? sizeof(std::uint16_t) : sizeof(std::uint32_t);
+        _SLOTS = ZELPoolAllocate((std::size_t{1} << bits) * width);
+        _Bits = bits;
+    }
+
+    void* _SLOTS = nullptr;  ///< owned; null while there is no index
+    unsigned _Bits = 0;      ///< of the number of slots
+};
+
 }  // namespace
 
 /// Entries in order of insertion. A removed one stays behind as a gap until the list is packed; gaps at both
 /// ends are not walked over. In a list that does not own, each entry has a link beside it that tells
 /// whether the object is still there: the pointer itself is then never followed.
-struct ZanHashList::Store {
+struct ZanHashList::Store : ZELPooled {
     struct Entry {
         ZELString key;  ///< the object's name when it was appended
         ZanDicObj* object;
-    };
-    struct Slot {
-        std::uint32_t hash;
-        int entry;  ///< kNone for a free slot
     };
 
     constexpr explicit Store(ZanHashListKind listKind) noexcept : kind(listKind) {}
 
     ZELArray<Entry> entries;
     ZELArray<ZanDicLink<ZanDicObj>> links;  ///< same index as the entries; empty in a list that owns
-    ZELArray<Slot> index;                   ///< by key, a power of two of slots; empty while small
+    SlotIndex index;                        ///< by key; empty while small
     int first = 0;                          ///< what is before it are gaps
     int gaps = 0;                           ///< the gaps behind it
     ZELArray<ZELString> lost;               ///< keys of objects that went
@@ -52,10 +155,10 @@ struct ZanHashList::Store {
         }
         entries.Append({key, object});
         if (kind == ZanHashListKind::Links) links.Append(ZanDicLink<ZanDicObj>(object));
-        if (index.Size() == 0 ? End() - first > kSmall : End() > MostEntries(index.Size())) {
+        if (index.IsEmpty() ? End() - first > kSmall : End() > index.MostEntries()) {
             Pack();
-        } else if (index.Size() != 0) {
-            Enter(End() - 1);
+        } else if (!index.IsEmpty()) {
+            index.Enter(HashOf(End() - 1), End() - 1);
         }
     }
 
@@ -79,7 +182,7 @@ struct ZanHashList::Store {
     }
 
     void RemoveAt(int at) {
-        if (index.Size() != 0) Leave(at);
+        if (!index.IsEmpty()) index.Leave(at, [this](int entry) { return HashOf(entry); });
         entries[at] = {ZELString(), nullptr};
         if (kind == ZanHashListKind::Links) links[at].Reset();
         ++gaps;
@@ -101,12 +204,11 @@ struct ZanHashList::Store {
     void Reserve(int count) {
         entries.Reserve(count);
         if (kind == ZanHashListKind::Links) links.Reserve(count);
-        if (count > index.Size()) MakeIndex(count);
+        if (count > index.MostEntries()) MakeIndex(count);
     }
 
 private:
-    /// How many entries an index of so many slots takes before it grows.
-    static int MostEntries(int slots) { return slots / 4 * 3; }
+    std::uint32_t HashOf(int at) const { return entries[at].key.ComputeHashKey(); }  // a name keeps it
 
     void DropLast() {
         entries.Truncate(End() - 1);
@@ -138,58 +240,20 @@ private:
 
     /// Enters all entries anew, with room for \p count.
     void MakeIndex(int count) {
-        index.Clear();
-        if (count <= kSmall) return;
-        int slots = 2 * kSmall;
-        while (MostEntries(slots) < count) slots *= 2;
-        index.Reserve(slots);
-        while (index.Size() < slots) index.Append({0, kNone});
+        if (count <= kSmall) return index.Clear();
+        index.Make(count);
         for (int at = first; at < End(); ++at) {
-            if (entries[at].object != nullptr) Enter(at);
+            if (entries[at].object != nullptr) index.Enter(HashOf(at), at);
         }
     }
 
     int FindEntry(const ZELString& key) const {
         const std::uint32_t hash = key.ComputeHashKey();  // a name keeps it: cheaper than comparing texts
-        if (index.Size() == 0) {
-            for (int at = first; at < End(); ++at) {
-                if (Is(at, hash, key)) return at;
-            }
-            return kNone;
-        }
-        for (int slot = Home(hash); index[slot].entry != kNone; slot = Next(slot)) {
-            if (index[slot].hash == hash && entries[index[slot].entry].key == key) return index[slot].entry;
+        if (!index.IsEmpty()) return index.Find(hash, [&](int at) { return entries[at].key == key; });
+        for (int at = first; at < End(); ++at) {
+            if (entries[at].object != nullptr && HashOf(at) == hash && entries[at].key == key) return at;
         }
         return kNone;
-    }
-
-    bool Is(int at, std::uint32_t hash, const ZELString& key) const {
-        const Entry& entry = entries[at];
-        return entry.object != nullptr && entry.key.ComputeHashKey() == hash && entry.key == key;
-    }
-
-    int Mask() const { return index.Size() - 1; }
-    int Next(int slot) const { return (slot + 1) & Mask(); }
-    int Home(std::uint32_t hash) const { return static_cast<int>(hash * 0x9E3779B1U >> 1) & Mask(); }
-
-    void Enter(int at) {
-        const std::uint32_t hash = entries[at].key.ComputeHashKey();
-        int slot = Home(hash);
-        while (index[slot].entry != kNone) slot = Next(slot);
-        index[slot] = {hash, at};
-    }
-
-    /// Takes an entry out of the index and closes the gap, so that searches need no marks.
-    void Leave(int at) {
-        int gap = Home(entries[at].key.ComputeHashKey());
-        while (index[gap].entry != at) gap = Next(gap);
-        for (int slot = Next(gap); index[slot].entry != kNone; slot = Next(slot)) {
-            const int fromHome = (slot - Home(index[slot].hash)) & Mask();
-            if (fromHome < ((slot - gap) & Mask())) continue;
-            index[gap] = index[slot];
-            gap = slot;
-        }
-        index[gap].entry = kNone;
     }
 };
 
@@ -239,7 +303,11 @@ int ZanHashList::LostCount() const {
     return _STORE->lost.Size();
 }
 
-HRESULT ZanHashList::Append(ZanDicObj* object) {
+HRESULT ZanHashList::Append(ZanDicObj* object) { return append_Object(object, false); }
+
+HRESULT ZanHashList::append_New(ZanDicObj& object) { return append_Object(&object, true); }
+
+HRESULT ZanHashList::append_Object(ZanDicObj* object, bool isNew) {
     static constexpr ZanDicTraceScope trace("ZanHashList::Append");
     trace.Start();
     if (object == nullptr) {
@@ -249,7 +317,7 @@ HRESULT ZanHashList::Append(ZanDicObj* object) {
     if (auto line = trace.Line(TraceLevel::Call)) {
         line << "appending object:" << object->Name() << ", @=" << object;
     }
-    if (_STORE->Find(object->Name()) != kNone) {
+    if (!isNew && _STORE->Find(object->Name()) != kNone) {
         trace.Error("*** ERROR *** Could not insert in ZELHASH_ZanDicObj");
         return trace.Exit(E_FAIL);
     }

@@ -103,7 +103,6 @@ const Registration kRegistration;
 
 ZanDictionary::ZanDictionary()
     : _PACKAGES(kPackagesSize, ZanHashListKind::Owner),
-      _OBJECTS(HashUuidZanDicObj, CompareUuidZanDicObj, kTableSize),
       _CLASSTORELATION(ZanDicClassToRelationElem::GetHashKey, ZanDicClassToRelationElem::Compare,
                        kTableSize) {}
 
@@ -165,10 +164,9 @@ std::vector<ZanDicObj*> ZanDictionary::take_All() {
     // What is registered outside of the packages: first what these objects own among themselves, then those
     // that nobody else owns. Each has its creator's reference.
     std::vector<ZanDicObj*> others;
-    ZELHashIterator iterator = _OBJECTS.CreateIterator();
-    for (ZanDicObj* object = _OBJECTS[iterator]; object != nullptr; object = _OBJECTS.Next(iterator)) {
+    _OBJECTS.ForEach([&others](ZanDicObj* object) {
         if (object->is_Registered()) others.push_back(object);
-    }
+    });
     for (ZanDicObj* const object : others) object->take_Owned(taken);
     openAll();
     std::copy_if(others.begin(), others.end(), std::back_inserter(taken),
@@ -179,7 +177,7 @@ std::vector<ZanDicObj*> ZanDictionary::take_All() {
     for (ZanDicPrimitive*& primitive : _PRIMITIVES) {
         if (primitive != nullptr) taken.push_back(std::exchange(primitive, nullptr));
     }
-    iterator = _CLASSTORELATION.CreateIterator();
+    ZELHashIterator iterator = _CLASSTORELATION.CreateIterator();
     for (auto* entry = _CLASSTORELATION[iterator]; entry != nullptr;
          entry = _CLASSTORELATION.Next(iterator)) {
         delete entry;
@@ -219,10 +217,7 @@ HRESULT ZanDictionary::Reserved8() { return E_FAIL; }
 HRESULT ZanDictionary::Reserved9() { return E_FAIL; }
 HRESULT ZanDictionary::Reserved10() { return E_FAIL; }
 
-ZanDicObj* ZanDictionary::find_Obj(const ZELDbBinary& uuid) const {
-    return _OBJECTS.LocateKey(uuid.ComputeHashKey(),
-                              [&uuid](const ZanDicObj* object) { return object->Uuid() == uuid; });
-}
+ZanDicObj* ZanDictionary::find_Obj(const ZELDbBinary& uuid) const { return _OBJECTS.Find(uuid); }
 
 HRESULT ZanDictionary::Insert(ZanDicObj* object) {
     static constexpr ZanDicTraceScope scope("ZanDictionary::Insert", kExitWord);
@@ -232,11 +227,10 @@ HRESULT ZanDictionary::Insert(ZanDicObj* object) {
     // What is gone has given its owner's reference back, and a primitive's is the manager's: neither may
     // be found here by End.
     if (object->is_Gone() || !keeps_Obj(*object)) return trace.Exit(E_FAIL);
-    if (find_Obj(object->Uuid()) != nullptr) {
+    if (!_OBJECTS.Insert(*object)) {
         trace.Refuse(*object);
         return trace.Exit(E_FAIL);
     }
-    _OBJECTS.InsertNew(object->Uuid().ComputeHashKey(), object);
     object->set_Registered(true);
     return trace.Exit(S_OK);
 }
@@ -246,18 +240,19 @@ HRESULT ZanDictionary::Delete(ZanDicObj* object) {
     const RegistryTrace trace(scope, *this);
     if (object == nullptr) return trace.Exit(E_FAIL);
     trace.Say(*object);
-    if (!_OBJECTS.RemoveKey(object->Uuid().ComputeHashKey(), object)) return trace.Exit(E_FAIL);
+    if (!_OBJECTS.Remove(*object)) return trace.Exit(E_FAIL);
     object->set_Registered(false);
     return trace.Exit(S_OK);
 }
 
-void ZanDictionary::forget_Obj(ZanDicObj& object) noexcept {
-    _OBJECTS.RemoveKey(object.Uuid().ComputeHashKey(), &object);
-}
+void ZanDictionary::forget_Obj(ZanDicObj& object) noexcept { _OBJECTS.Remove(object); }
+
+void ZanDictionary::expect_Objs(int count) { _OBJECTS.Reserve(_OBJECTS.Size() + count); }
 
 bool ZanDictionary::keeps_Obj(const ZanDicObj& object) const {
-    return &object != this &&
-           std::find(std::begin(_PRIMITIVES), std::end(_PRIMITIVES), &object) == std::end(_PRIMITIVES);
+    if (&object == this) return false;
+    if (object.get_type() != _type_Primitive) return true;
+    return std::find(std::begin(_PRIMITIVES), std::end(_PRIMITIVES), &object) == std::end(_PRIMITIVES);
 }
 
 HRESULT ZanDictionary::search_Obj(const ZELDbBinary* uuid, ZanDicObj** object) {

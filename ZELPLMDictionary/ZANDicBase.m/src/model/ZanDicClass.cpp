@@ -136,7 +136,7 @@ HRESULT ZanDicClass::make_Attribute(const ZELString& name, const ZELDbBinary& uu
     made->set_Class(this);
     made->set_TYPE(type);
     made->set_Package(get_Package());
-    if (const HRESULT rc = _ATTRIBUTES.Append(made.Get()); Failed(rc)) return rc;
+    if (const HRESULT rc = _ATTRIBUTES.append_New(*made); Failed(rc)) return rc;
     ZanDicAttribute& owned = *made.Detach();
     forget_AllAttributes();
     owned.bind_Interface(OXMDicTYPE_UNDEFINED, attribute);
@@ -224,7 +224,8 @@ HRESULT ZanDicClass::GetInstance(unsigned char* instance) const { return GiveVal
 
 HRESULT ZanDicClass::SetLateType(const ZELString* lateType) {
     if (lateType == nullptr) return E_FAIL;
-    make_Fields().lateType = ZELUnicodeString(*lateType);
+    // Most documents give the empty one, which a class has anyway.
+    if (rare() != nullptr || !lateType->IsEmpty()) make_Fields().lateType = ZELUnicodeString(*lateType);
     return S_OK;
 }
 

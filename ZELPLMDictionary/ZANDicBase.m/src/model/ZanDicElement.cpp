@@ -14,7 +14,7 @@ ZELMetaClass& ZanDicElement::ClassMeta() {
     return meta;
 }
 
-ZanDicElement::ZanDicElement() : _Unnamed(true) {}
+ZanDicElement::ZanDicElement() { _Unnamed = true; }
 
 ZanDicElement::ZanDicElement(const ZELString& name, const ZELDbBinary& uuid) : ZanDicObj(name, uuid) {}
 
@@ -35,6 +35,10 @@ std::unique_ptr<ZanDicRareFields> ZanDicElement::new_RareFields() const {
     return fields;
 }
 
+OXMDicVISIBILITY ZanDicElement::visibility_Code() const {
+    return _Visibility != kOddVisibility ? static_cast<OXMDicVISIBILITY>(_Visibility) : rare()->visibility;
+}
+
 HRESULT ZanDicElement::SetAlias(const ZELUnicodeString* alias) {
     return alias != nullptr ? TakeValue(make_Rare().alias, alias) : E_FAIL;
 }
@@ -44,7 +48,9 @@ HRESULT ZanDicElement::SetExpositionLevel(const ZELUnicodeString* level) {
 }
 
 HRESULT ZanDicElement::SetVisibility(OXMDicVISIBILITY visibility) {
-    _Visibility = visibility;
+    const bool isOdd = visibility <= kOddVisibility || visibility > INT16_MAX;
+    if (isOdd) make_Rare().visibility = visibility;
+    _Visibility = isOdd ? kOddVisibility : static_cast<std::int16_t>(visibility);
     return S_OK;
 }
 
@@ -63,7 +69,7 @@ HRESULT ZanDicElement::GetExpositionLevel(ZELUnicodeString* level) const {
 }
 
 HRESULT ZanDicElement::GetVisibility(OXMDicVISIBILITY* visibility) const {
-    return GiveValue(_Visibility, visibility);
+    return GiveValue(visibility_Code(), visibility);
 }
 
 HRESULT ZanDicElement::GetPackage(OXMIDicPackage** package) const {
@@ -95,7 +101,7 @@ void ZanDicElement::Dump(const char* caller) const {
     ZanDicWriteAlways(prefix + " called by " + (caller != nullptr ? caller : "") + " ------");
     ZanDicObj::Dump(caller);
     ZanDicWriteAlways(prefix + "_Alias=" + alias.ConvertToChar() + ".");
-    ZanDicWriteAlways(prefix + "_Visibility=" + std::to_string(_Visibility) + ".");
+    ZanDicWriteAlways(prefix + "_Visibility=" + std::to_string(visibility_Code()) + ".");
 }
 
 ZELString ZanDicElement::get_PackageName() const {

@@ -36,7 +36,7 @@ HRESULT ZanDicEnum::CreateEnumerator(const ZELString* name, const ZELDbBinary* u
     if (Succeeded(_ENUMERATORS.Search(*name, &present))) return E_FAIL;
     ZanDicRef<ZanDicEnumerator> made(new ZanDicEnumerator(*name, *uuid));
     made->set_Package(get_Package());
-    if (const HRESULT rc = _ENUMERATORS.Append(made.Get()); Failed(rc)) return rc;
+    if (const HRESULT rc = _ENUMERATORS.append_New(*made); Failed(rc)) return rc;
     ZanDicEnumerator& owned = *made.Detach();
     HandOutOwn(owned, enumerator);
     return registry->Insert(&owned);

@@ -21,3 +21,27 @@ HRESULT ZanDicFindLoad(const ZELString& askedName, OXMIDicPackage** package) {
     *package = static_cast<OXMIDicPackage*>(face);
     return S_OK;
 }
+
+void ZanDicExpectObjects(int count) {
+    if (ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->expect_Objs(count);
+}
+
+void ZanDicExpectMembers(IUnknown& owner, int count) {
+    if (auto* const object = LiveImplementationOf<ZanDicObj>(&owner)) object->expect_Members(count);
+}
+
+void ZanDicPrefetchPlace(std::uint32_t key) {
+    if (const ZanDicRegistry* const registry = ZanDicFindRegistry()) registry->prefetch_Uuid(key);
+}
+
+void ZanDicPrefetchObject(std::uint32_t key) {
+    const ZanDicRegistry* const registry = ZanDicFindRegistry();
+    const ZanDicObj* const object = registry != nullptr ? registry->guess_Obj(key) : nullptr;
+    if (object != nullptr) ZanDicObj::prefetch_Obj(object);
+}
+
+void ZanDicPrefetchLinks(std::uint32_t key) {
+    const ZanDicRegistry* const registry = ZanDicFindRegistry();
+    const ZanDicObj* const object = registry != nullptr ? registry->guess_Obj(key) : nullptr;
+    if (object != nullptr) object->prefetch_Links();
+}

@@ -263,7 +263,7 @@ HRESULT ZanDicPackage::make_Element(const ZELString* name, const ZELDbBinary* uu
     ZanDicRef<Element> made(new Element(*name, *uuid));
     made->set_Package(this);
     if (type != OXMDicTYPE_UNDEFINED) made->set_TYPE(type);
-    if (const HRESULT rc = _ELEMENTS.Append(made.Get()); Failed(rc)) return rc;
+    if (const HRESULT rc = _ELEMENTS.append_New(*made); Failed(rc)) return rc;
     Element& owned = *made.Detach();
     HandOutOwn(owned, element);
     return registry->Insert(&owned);

@@ -29,6 +29,7 @@ public:
     /// \returns the next element, which is to be flushed now; null after the last, and the list is empty.
     ZanDicElement* Next() {
         while (++_Position <= _Owned->Size()) {
+            look_Ahead();
             auto* const element = static_cast<ZanDicElement*>((*_Owned)[_Position]);
             if (element == nullptr) continue;
             if (auto line = _Trace.Line(TraceLevel::Detail)) {
@@ -68,6 +69,15 @@ public:
     }
 
 private:
+    /// Fetches what the elements behind the next one will need into the cache.
+    void look_Ahead() const {
+        constexpr int kStep = 6;
+        const ZanDicRegistry* const registry = ZanDicFindRegistry();
+        const ZanDicObj* const near = (*_Owned)[_Position + kStep];
+        if (near != nullptr && registry != nullptr) registry->prefetch_Uuid(near->Uuid().ComputeHashKey());
+        if (const ZanDicObj* const far = (*_Owned)[_Position + 2 * kStep]) ZanDicObj::prefetch_Obj(far);
+    }
+
     ZanHashList* _Owned;
     std::string_view _ListName;
     ZanDicTraceScope _Trace;

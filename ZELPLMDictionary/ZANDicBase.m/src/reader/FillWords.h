@@ -84,19 +84,24 @@ HRESULT Text(Element& element, const Given& given) {
 
 template <auto Setter, class Element>
 HRESULT Flag(Element& element, const Given& given) {
-    return (element.*Setter)(given.Value() == ZANDicFormat::value::kYes ? 1 : 0);
+    return (element.*Setter)(IsWord<ZANDicFormat::value::kYes>(given.Value()) ? 1 : 0);
 }
+
+/// The index of a list of words.
+template <const auto& Words>
+constexpr WordIndex kIndex{std::span<std::remove_reference_t<decltype(Words[0])>, std::size(Words)>(Words)};
 
 /// A word of a list; any other stands for a code of its own.
 template <auto Setter, const auto& Words, int OtherCode, class Element>
 HRESULT Word(Element& element, const Given& given) {
-    return (element.*Setter)(static_cast<Argument<Setter>>(CodeOf(Words, given.Value(), OtherCode)));
+    const ZANDicFormat::CodeWord* const row = kIndex<Words>.Find(given.Value());
+    return (element.*Setter)(static_cast<Argument<Setter>>(row != nullptr ? row->code : OtherCode));
 }
 
 /// A word of a list; any other changes nothing.
 template <auto Setter, const auto& Words, class Element>
 HRESULT KnownWord(Element& element, const Given& given) {
-    if (const ZANDicFormat::CodeWord* const row = FindWord(Words, given.Value()); row != nullptr) {
+    if (const ZANDicFormat::CodeWord* const row = kIndex<Words>.Find(given.Value()); row != nullptr) {
         return (element.*Setter)(static_cast<Argument<Setter>>(row->code));
     }
     Warn(ZanDicDiagnosticCode::UnknownWord, given, TraceLevel::Error, text::kUnknownWord,
@@ -107,7 +112,7 @@ HRESULT KnownWord(Element& element, const Given& given) {
 /// A word of a list; any other is refused.
 template <auto Setter, const auto& Words, class Element>
 HRESULT StrictWord(Element& element, const Given& given) {
-    const ZANDicFormat::CodeWord* const row = FindWord(Words, given.Value());
+    const ZANDicFormat::CodeWord* const row = kIndex<Words>.Find(given.Value());
     return row != nullptr ? (element.*Setter)(static_cast<Argument<Setter>>(row->code)) : E_FAIL;
 }
 
@@ -137,10 +142,6 @@ HRESULT Keep(Element& element, const Given& given) {
 }
 
 // The loop.
-
-/// The index of the words of a kind.
-template <const auto& Words>
-constexpr WordIndex kIndex{Words};
 
 /// Gives an attribute to the setter of its row. \returns S_OK; E_FAIL when the value is refused.
 template <class Element>
@@ -181,9 +182,9 @@ HRESULT FillAttributes(Reading& reading, const ZanDicTraceScope& trace, const ZE
             FillUnknown(element, given, texts.unknown);
             continue;
         }
-        const bool isIdentity =
-            attribute.Name() == ZANDicFormat::word::kName || attribute.Name() == ZANDicFormat::word::kUuid;
-        if (texts.tellsRepeats && !isIdentity && std::exchange(isGiven[kIndex<Words>.IndexOf(*row)], true)) {
+        if (texts.tellsRepeats && row->name != ZANDicFormat::word::kName &&
+            row->name != ZANDicFormat::word::kUuid &&
+            std::exchange(isGiven[kIndex<Words>.IndexOf(*row)], true)) {
             WarnOfRepeat(given, row->isReference);
         }
         if (!reading.faults.GoesOn(Fill(*row, element, given, texts.refused), result)) break;

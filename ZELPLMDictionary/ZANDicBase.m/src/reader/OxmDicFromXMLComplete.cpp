@@ -10,6 +10,7 @@
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
 #include "ZANDicWords.h"
+#include "ZanDicLoadRecord.h"
 
 using namespace ZANDicFormat;
 using namespace complete;
@@ -38,15 +39,16 @@ struct MemberSpot {
     Reading& reading;
     const ZELVBTXMLNode& node;
     const MemberNote& note;
+    OXMIDicElement& member;  ///< as the interface of its type
 
     ReferenceSpot At(const ZanDicTraceScope& trace, std::size_t slot) const {
-        return {reading, trace, node, note.member.Get(), note.references.At(slot, reading.document)};
+        return {reading, trace, node, &member, note.references.At(slot, reading.document)};
     }
 };
 
 HRESULT CompleteSimple(const MemberSpot& spot) {
     const ZanDicTraceScope trace(text::kCompleteSimple);
-    auto& member = static_cast<OXMIDicSimple&>(*spot.note.member);
+    auto& member = static_cast<OXMIDicSimple&>(spot.member);
     HRESULT result = S_OK;
     const HRESULT rc = CompleteOne<OXMIDicEnum>(spot.At(trace, slot::kTarget), kEnumKind, "SetType",
                                                 [&](OXMIDicEnum* target) { return member.SetType(target); });
@@ -75,7 +77,7 @@ HRESULT CompleteTarget(const ReferenceSpot& spot, Member& member) {
 
 HRESULT CompleteRelationship(const MemberSpot& spot) {
     const ZanDicTraceScope trace(text::kCompleteRelationship);
-    auto& member = static_cast<OXMIDicRelationship&>(*spot.note.member);
+    auto& member = static_cast<OXMIDicRelationship&>(spot.member);
     FaultReport& faults = spot.reading.faults;
     HRESULT result = S_OK;
     if (faults.GoesOn(CompleteTarget(spot.At(trace, slot::kTarget), member), result) &&
@@ -119,7 +121,7 @@ HRESULT CompleteInverseOf(const ReferenceSpot& spot, OXMIDicInverse& member) {
 
 HRESULT CompleteInverse(const MemberSpot& spot) {
     const ZanDicTraceScope trace(text::kCompleteInverse);
-    auto& member = static_cast<OXMIDicInverse&>(*spot.note.member);
+    auto& member = static_cast<OXMIDicInverse&>(spot.member);
     FaultReport& faults = spot.reading.faults;
     HRESULT result = S_OK;
     if (faults.GoesOn(CompleteTarget(spot.At(trace, slot::kTarget), member), result) &&
@@ -131,7 +133,7 @@ HRESULT CompleteInverse(const MemberSpot& spot) {
 
 HRESULT CompleteUnique(const MemberSpot& spot) {
     const ZanDicTraceScope trace(text::kCompleteUnique);
-    auto& member = static_cast<OXMIDicUnique&>(*spot.note.member);
+    auto& member = static_cast<OXMIDicUnique&>(spot.member);
     return CompleteEach<OXMIDicAttribute>(
         spot.At(trace, slot::kUniques), kAttributeKind, "AddElement",
         [&](OXMIDicAttribute* target) { return member.AddElement(target); });
@@ -149,10 +151,25 @@ constexpr MemberRow kMemberRows[] = {
     {OXMDicTYPE_Unique, CompleteUnique},
 };
 
+/// Fetches what the members behind one will need into the cache: their targets lie all over the package.
+void LookAhead(const Reading& reading, std::size_t index) {
+    constexpr std::size_t kStep = 6;
+    const std::vector<MemberNote>& members = reading.members;
+    if (index + 3 * kStep < members.size()) ZanDicPrefetchPlace(members[index + 3 * kStep].key);
+    if (index + 2 * kStep < members.size()) {
+        const MemberNote& note = members[index + 2 * kStep];
+        ZanDicPrefetchObject(note.key);
+        const ZELVBTXMLAttribute target = note.references.At(slot::kTarget, reading.document);
+        if (target) __builtin_prefetch(target.Value().data());
+    }
+    if (index + kStep < members.size()) ZanDicPrefetchLinks(members[index + kStep].key);
+}
+
 HRESULT CompleteMember(Reading& reading, const MemberNote& note) {
     const ZELVBTXMLNode node = reading.document.ElementAt(note.node);
+    const auto member = note.member.Own<OXMIDicElement>();
     for (const MemberRow& row : kMemberRows) {
-        if (row.type == note.type) return row.complete({reading, node, note});
+        if (row.type == note.type) return row.complete({reading, node, note, *member});
     }
     return S_OK;
 }
@@ -231,6 +248,7 @@ HRESULT CompleteClassPart(Reading& reading, const ZanDicTraceScope& trace, const
 
     reading.owner = NameOf(node);
     for (std::size_t index = note.firstMember; index < note.endMember; ++index) {
+        LookAhead(reading, index);
         if (!goesOn(CompleteMember(reading, reading.members[index]))) break;
     }
     reading.owner = {};

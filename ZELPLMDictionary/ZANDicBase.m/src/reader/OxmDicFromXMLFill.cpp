@@ -1,5 +1,6 @@
 #include "OxmDicFromXMLFill.h"
 
+#include <bit>
 #include <string>
 #include <type_traits>
 
@@ -12,6 +13,7 @@
 #include "OXMIDicRelationship.h"
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
+#include "ZanDicLoadRecord.h"
 
 using namespace ZANDicFormat;
 using namespace fill;
@@ -19,7 +21,7 @@ using namespace fill;
 namespace {
 
 HRESULT SimpleType(OXMIDicSimple& element, const Given& given) {
-    if (const CodeWord* const row = FindWord(kSimpleTypeWords, given.Value()); row != nullptr) {
+    if (const CodeWord* const row = kIndex<kSimpleTypeWords>.Find(given.Value()); row != nullptr) {
         return SetPrimitiveType(given.reading, element, row->code);
     }
     Warn(ZanDicDiagnosticCode::UnknownWord, given, TraceLevel::Call, text::kUnknownAttribute,
@@ -28,12 +30,12 @@ HRESULT SimpleType(OXMIDicSimple& element, const Given& given) {
 }
 
 HRESULT RelationType(OXMIDicRelationship& element, const Given& given) {
-    return SetPrimitiveType(given.reading, element,
-                            CodeOf(kRelationTypeWords, given.Value(), kOtherRelationType));
+    const CodeWord* const row = kIndex<kRelationTypeWords>.Find(given.Value());
+    return SetPrimitiveType(given.reading, element, row != nullptr ? row->code : kOtherRelationType);
 }
 
 HRESULT RelationTarget(OXMIDicRelationship& element, const Given& given) {
-    if (given.Value() != value::kAnyObject) return Reference<slot::kTarget>(element, given);
+    if (!IsWord<value::kAnyObject>(given.Value())) return Reference<slot::kTarget>(element, given);
     return SetPrimitiveType(given.reading, element, OXMDicPRIMITIVEType_AnyObject);
 }
 
@@ -168,18 +170,22 @@ constexpr AttributeWord<OXMIDicPackage> kPackageWords[] = {
 HRESULT FillRelation(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRelationship& element) {
     const ZanDicTraceScope trace(text::kFillRelation, "RC=");
     trace.Start();
-    std::array<ZELVBTXMLAttribute, std::size(kRelationWords)> first;
+    std::array<std::uint32_t, std::size(kRelationWords)> first;  // of the rows that are given
+    std::uint32_t given = 0;                                     // a bit for each row
+    static_assert(std::size(kRelationWords) <= 32);
     for (const ZELVBTXMLAttribute attribute : node.Attributes()) {
         const auto* const row = kIndex<kRelationWords>.Find(attribute.Name());
         if (row == nullptr) continue;
-        ZELVBTXMLAttribute& place = first[kIndex<kRelationWords>.IndexOf(*row)];
-        if (!place) place = attribute;
+        const std::size_t index = kIndex<kRelationWords>.IndexOf(*row);
+        if ((given >> index & 1U) == 0) first[index] = attribute.Index();
+        given |= 1U << index;
     }
 
     HRESULT result = S_OK;
-    for (std::size_t index = 0; index < first.size(); ++index) {
-        if (!first[index]) continue;
-        const HRESULT rc = Fill(kRelationWords[index], element, {reading, trace, node, first[index]});
+    for (; given != 0; given &= given - 1) {
+        const auto index = static_cast<std::size_t>(std::countr_zero(given));
+        const ZELVBTXMLAttribute attribute = reading.document.AttributeAt(first[index]);
+        const HRESULT rc = Fill(kRelationWords[index], element, {reading, trace, node, attribute});
         if (!reading.faults.GoesOn(rc, result)) break;
     }
     return trace.Exit(result);
@@ -187,10 +193,11 @@ HRESULT FillRelation(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRelatio
 
 /// Keeps a member for the second pass when it has something to resolve there.
 template <class Face>
-void NoteMember(Reading& reading, const ZELVBTXMLNode& node, OXMDicTYPE type, ZanDicRef<Face>& member) {
+void NoteMember(Reading& reading, const ZELVBTXMLNode& node, OXMDicTYPE type, const ZanDicRef<Face>& member) {
     if (!reading.references.HasAny()) return;
-    reading.members.push_back(
-        {ZanDicRef<OXMIDicElement>(member.Detach()), type, node.Index(), reading.references});
+    const ZELVBTXMLAttribute target = reading.references.At(slot::kTarget, reading.document);
+    const std::uint32_t key = target ? UuidFromText(target.Value()).ComputeHashKey() : 0;
+    reading.members.push_back({ZanDicHold(*member), type, node.Index(), reading.references, key});
 }
 
 // Members of a class.
@@ -292,12 +299,54 @@ constexpr MemberRow kMemberRows[] = {
 };
 constexpr WordIndex kMemberIndex{kMemberRows};
 
-HRESULT FillMember(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
+/// Who a child of a class or an enumeration says that it is.
+struct Identity {
+    ZELVBTXMLNode node;
+    std::string_view name;
+    bool hasUuid = false;
+    ZELDbBinary uuid;
+};
+
+/// Children of one tag on their way to members. Who they are is read of some at a time, so that their places
+/// in the registry come into the cache while those before them are filled.
+class Identities {
+public:
+    explicit Identities(const ZELVBTXMLNode& parent)
+        : _Next(parent.Children().begin()), _End(parent.Children().end()) {}
+
+    /// \returns the next child; null after the last.
+    const Identity* Next() {
+        if (_Taken == _Read) read_Block();
+        return _Taken != _Read ? &_BLOCK[_Taken++] : nullptr;
+    }
+
+private:
+    void read_Block() {
+        _Taken = _Read = 0;
+        for (; _Read < _BLOCK.size() && !(_Next == _End); ++_Next) {
+            Identity& identity = _BLOCK[_Read++];
+            identity.node = *_Next;
+            identity.name = NameOf(identity.node);
+            const auto uuid = identity.node.getAttributeValue(word::kUuid);
+            identity.hasUuid = uuid.has_value();
+            if (!uuid) continue;
+            identity.uuid = UuidFromText(*uuid);
+            ZanDicPrefetchPlace(identity.uuid.ComputeHashKey());
+        }
+    }
+
+    std::array<Identity, 16> _BLOCK;
+    std::size_t _Taken = 0;
+    std::size_t _Read = 0;
+    ZELVBTXMLChildren::iterator _Next;
+    ZELVBTXMLChildren::iterator _End;
+};
+
+HRESULT FillMember(Reading& reading, const ZanDicTraceScope& trace, const Identity& identity,
                    OXMIDicClass& owner) {
-    const std::string_view name = NameOf(node);
-    if (name.empty()) return S_OK;
-    const auto uuid = node.getAttributeValue(word::kUuid);
-    if (!uuid) return ReportMissing(reading, trace, node, word::kUuid);
+    const ZELVBTXMLNode& node = identity.node;
+    if (identity.name.empty()) return S_OK;
+    if (!identity.hasUuid) return ReportMissing(reading, trace, node, word::kUuid);
 
     const MemberRow* const row = kMemberIndex.Find(node.getTag());
     if (row == nullptr) {
@@ -305,7 +354,7 @@ HRESULT FillMember(Reading& reading, const ZanDicTraceScope& trace, const ZELVBT
         return S_OK;
     }
     reading.references = {};
-    return row->read({reading, trace, node, owner, reading.texts.Text(name), UuidFromText(*uuid)});
+    return row->read({reading, trace, node, owner, reading.texts.Text(identity.name), identity.uuid});
 }
 
 /// The flag cannot be left out, and has two words only.
@@ -325,24 +374,22 @@ HRESULT FillPersistent(Reading& reading, const ZanDicTraceScope& trace, const ZE
     return reading.faults.Report(fault);
 }
 
-HRESULT FillEnumeratorOf(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
+HRESULT FillEnumeratorOf(Reading& reading, const ZanDicTraceScope& trace, const Identity& identity,
                          OXMIDicEnum& owner) {
+    const ZELVBTXMLNode& node = identity.node;
     if (node.getTag() != tag::kEnumerator) {
         ReportUnknownTag(reading, trace, node);
         return S_OK;
     }
     if (const HRESULT rc = CheckIdentity(reading, trace, node); Failed(rc)) return rc;
-    const std::string_view nameText = NameOf(node);
-    const auto uuidText = node.getAttributeValue(word::kUuid);
 
-    const ZELString name = reading.texts.Text(nameText);
-    const ZELDbBinary uuid = UuidFromText(*uuidText);
+    const ZELString name = reading.texts.Text(identity.name);
     ZanDicRef<OXMIDicEnumerator> enumerator;
-    if (Failed(owner.CreateEnumerator(&name, &uuid, enumerator.Out())) || !enumerator) {
+    if (Failed(owner.CreateEnumerator(&name, &identity.uuid, enumerator.Out())) || !enumerator) {
         ZanDicRef<OXMIDicEnumerator> other;
         return ReportNotCreated(reading, trace, node, static_cast<bool>(enumerator),
                                 Succeeded(owner.GetEnumerator(&name, other.Out())),
-                                Joined({text::kCouldNotCreateMember, node.getTag(), " ", nameText}));
+                                Joined({text::kCouldNotCreateMember, node.getTag(), " ", name.View()}));
     }
     return FillPlain<kEnumeratorWords>(reading, text::kFillEnumerator, node, *enumerator);
 }
@@ -363,9 +410,11 @@ HRESULT FillClass(Reading& reading, const ZELVBTXMLNode& node, OXMIDicClass& ele
     note.references = reading.references;
     note.firstMember = reading.members.size();
     reading.owner = NameOf(node);
-    for (const ZELVBTXMLNode child : node.Children()) {
-        if (!reading.faults.GoesOn(FillMember(reading, trace, child, element), result)) break;
-        note.hasRelationships = note.hasRelationships || child.getTag() == tag::kRelationship;
+    ZanDicExpectMembers(element, node.Children().Count());
+    Identities children(node);
+    while (const Identity* const child = children.Next()) {
+        if (!reading.faults.GoesOn(FillMember(reading, trace, *child, element), result)) break;
+        note.hasRelationships = note.hasRelationships || IsWord<tag::kRelationship>(child->node.getTag());
     }
     reading.owner = {};
     note.endMember = reading.members.size();
@@ -380,8 +429,10 @@ HRESULT FillEnum(Reading& reading, const ZELVBTXMLNode& node, OXMIDicEnum& eleme
         return trace.Exit(result);
     }
     reading.owner = NameOf(node);
-    for (const ZELVBTXMLNode child : node.Children()) {
-        if (!reading.faults.GoesOn(FillEnumeratorOf(reading, trace, child, element), result)) break;
+    ZanDicExpectMembers(element, node.Children().Count());
+    Identities children(node);
+    while (const Identity* const child = children.Next()) {
+        if (!reading.faults.GoesOn(FillEnumeratorOf(reading, trace, *child, element), result)) break;
     }
     reading.owner = {};
     return trace.Exit(result);

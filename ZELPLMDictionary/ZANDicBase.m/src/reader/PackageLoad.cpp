@@ -325,6 +325,7 @@ PackageLoad::StepResult PackageLoad::load_UsedPackages() {
 PackageLoad::StepResult PackageLoad::create_Package() {
     _Reading =
         std::make_unique<Reading>(_Run.manager, _Run.faults, _Run.leftOut, _Run.untargeted, *_Document);
+    ZanDicExpectObjects(static_cast<int>(_Document->ElementCount()));
     const HRESULT rc = _Run.manager.CreatePackage(&_Name, &_Uuid, &_Domain, _Reading->package.Out());
     if (Succeeded(rc) && _Reading->package) {
         const CodeWord* const content = FindWord(kContentWords, _Extension.View());
@@ -405,6 +406,11 @@ PackageLoad::StepResult PackageLoad::add_Commands() { return next_After(Complete
 // The passes.
 
 PackageLoad::StepResult PackageLoad::fill_Elements() {
+    const int count = _Node.Children().Count();
+    ZanDicExpectMembers(*_Reading->package, count);
+    _Reading->elements.reserve(static_cast<std::size_t>(count));
+    // About as many as usual documents need; room that is not used costs nothing.
+    _Reading->members.reserve(_Document->ElementCount() / 3);
     for (const ZELVBTXMLNode child : _Node.Children()) {
         if (!goes_On(ReadElement(*_Reading, child))) return StepResult::Finished;
     }

@@ -1,5 +1,6 @@
 #include "Reading.h"
 
+#include "AttributeWord.h"
 #include "HexToBinary.h"
 #include "OXMIDicAttribute.h"
 #include "ReaderTexts.h"
@@ -40,6 +41,11 @@ void LeftOut::AddAll(const ZELVBTXMLNode& node) {
 }
 
 std::string_view NameOf(const ZELVBTXMLNode& node) {
+    // Nearly always the first attribute.
+    const ZELVBTXMLAttributes attributes = node.Attributes();
+    if (attributes.Size() != 0 && IsWord<word::kName>((*attributes.begin()).Name())) {
+        return (*attributes.begin()).Value();
+    }
     return node.getAttributeValue(word::kName).value_or(std::string_view());
 }
 

@@ -17,6 +17,7 @@
 #include "TextCache.h"
 #include "ZELDbBinary.h"
 #include "ZELVBTXMLNode.h"
+#include "ZanDicHold.h"
 #include "ZanDicRef.h"
 
 /// \returns "Package::Class::attribute" as far as the object has these.
@@ -55,18 +56,18 @@ public:
     /// Notes an attribute; the first of a name counts.
     void Note(std::size_t slot, const ZELVBTXMLAttribute& attribute) {
         if (_INDEXES[slot] == kNone) _INDEXES[slot] = attribute.Index();
-        _Any = true;
     }
 
     ZELVBTXMLAttribute At(std::size_t slot, const ZELVBTXMLDocument& document) const {
         return _INDEXES[slot] == kNone ? ZELVBTXMLAttribute() : document.AttributeAt(_INDEXES[slot]);
     }
 
-    bool HasAny() const { return _Any; }
+    bool HasAny() const { return *this != ReferenceNotes(); }
+
+    bool operator==(const ReferenceNotes&) const = default;
 
 private:
     std::array<std::uint32_t, kSlots> _INDEXES{kNone, kNone, kNone, kNone};
-    bool _Any = false;
 };
 
 /// The slots of ReferenceNotes by tag.
@@ -84,10 +85,11 @@ inline constexpr std::size_t kExtended = 3;  ///< Extension
 
 /// A member of a class that has references.
 struct MemberNote {
-    ZanDicRef<OXMIDicElement> member;  ///< as the interface of its type
+    ZanDicHold member;
     OXMDicTYPE type;
     std::uint32_t node;
     ReferenceNotes references;
+    std::uint32_t key;  ///< of the UUID in the first slot, where it is one
 };
 
 /// An object of a mapping: a root, a component or a path expression. An object is followed by what is inside.

@@ -1,0 +1,92 @@
+#ifndef ZAN_DIC_UUID_TABLE_H
+#define ZAN_DIC_UUID_TABLE_H
+
+#include <cstdint>
+#include <memory>
+
+#include "ZELDbBinary.h"
+#include "ZanDicExport.h"
+#include "ZanDicObj.h"
+
+/// Set of objects found by UUID: what the registry keeps them in. It does not own them.
+///
+/// One word of 8 bytes a place: the object's address with some bits of its key and the distance from where
+/// its key would have it. So a lookup reads one or two lines of the table and, mostly, one object. The key is
+/// that of the object's UUID, which must not change while the object is in the table. The number of places is
+/// free, so that a table of known size is no larger than it need be; three quarters of the places are taken
+/// at the most. Insert and Reserve throw std::bad_alloc when memory is short, and then change nothing. Growth
+/// is amortised. One thread.
+class ZANDICBASE_API ZanDicUuidTable {
+public:
+    int Size() const noexcept { return static_cast<int>(_Size); }
+
+    /// \returns the object of that UUID; null when there is none.
+    ZanDicObj* Find(const ZELDbBinary& uuid) const noexcept {
+        return _Size != 0 ? find_Key(uuid, uuid.ComputeHashKey()) : nullptr;
+    }
+
+    /// Adds \p object. \returns false when its UUID is there already, and nothing has changed.
+    bool Insert(ZanDicObj& object);
+
+    /// Removes that very object. \returns whether it was there.
+    bool Remove(const ZanDicObj& object) noexcept;
+
+    /// Removes all objects and gives the memory back.
+    void RemoveAll() noexcept;
+
+    /// Makes room for \p count objects in all.
+    void Reserve(int count);
+
+    /// Fetches the place of a UUID of that key into the cache, for a lookup some 100 ns later.
+    void Prefetch(std::uint32_t key) const noexcept {
+        if (_Places != 0) __builtin_prefetch(&_ENTRIES[home_Of(key)]);
+    }
+
+    /// \returns the first object that a lookup of a UUID of that key would look at; null when there is none.
+    const ZanDicObj* Guess(std::uint32_t key) const noexcept;
+
+    /// Calls \p visit with each object, in no particular order.
+    template <class Visit>
+    void ForEach(const Visit& visit) const {
+        for (std::uint32_t place = 0; place < _Places; ++place) {
+            if (_ENTRIES[place] != 0) visit(object_In(_ENTRIES[place]));
+        }
+    }
+
+private:
+    using Entry = std::uint64_t;  ///< address; from bit 48 the distance; above it bits of the key; 0: free
+
+    static constexpr unsigned kAddressBits = 48;
+    static constexpr unsigned kDistanceBits = 6;
+    static constexpr std::uint32_t kFar = (1U << kDistanceBits) - 1;  ///< that distance or more
+    static constexpr std::uint32_t kNone = 0xFFFFFFFF;
+
+    static ZanDicObj* object_In(Entry entry) noexcept {
+        return reinterpret_cast<ZanDicObj*>(entry & ((Entry{1} << kAddressBits) - 1));
+    }
+    /// The low bits of the key: the high ones say where an entry is at home.
+    static Entry mark_Of(std::uint32_t key) noexcept { return Entry{key} << (kAddressBits + kDistanceBits); }
+    static bool has_Mark(Entry entry, Entry mark) noexcept {
+        return (entry ^ mark) >> (kAddressBits + kDistanceBits) == 0;
+    }
+    static Entry new_Entry(ZanDicObj& object, std::uint32_t key) noexcept;
+    static Entry with_Distance(Entry entry, std::uint32_t distance) noexcept;
+
+    std::uint32_t home_Of(std::uint32_t key) const noexcept {
+        return static_cast<std::uint32_t>(std::uint64_t{key} * _Places >> 32);
+    }
+    std::uint32_t next_To(std::uint32_t place) const noexcept { return place + 1 != _Places ? place + 1 : 0; }
+    std::uint32_t way_Between(std::uint32_t from, std::uint32_t to) const noexcept {
+        return to >= from ? to - from : to + _Places - from;
+    }
+    ZanDicObj* find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept;
+    void place_Object(ZanDicObj& object, std::uint32_t key) noexcept;
+    std::uint32_t distance_At(std::uint32_t place) const noexcept;
+    void rehash_To(std::uint64_t places);
+
+    std::unique_ptr<Entry[]> _ENTRIES;
+    std::uint32_t _Places = 0;
+    std::uint32_t _Size = 0;
+};
+
+#endif

@@ -1,0 +1,32 @@
+/// An object held without any of its interfaces.
+#ifndef ZAN_DIC_HOLD_H
+#define ZAN_DIC_HOLD_H
+
+#include <new>
+
+#include "IUnknown.h"
+#include "ZanDicImplementation.h"
+#include "ZanDicRef.h"
+
+/// Holds one reference on the object behind an interface: whoever keeps many objects for later keeps no
+/// adapter for each meanwhile.
+class ZanDicHold {
+public:
+    /// \param face of an object of this library.
+    explicit ZanDicHold(const IUnknown& face)
+        : _Object(ZanDicRef<ZanDicObj>::Share(ImplementationOf(&face))) {}
+
+    /// \returns the object's own interface, the most specific one; \p Interface is a base of it. Throws
+    /// std::bad_alloc when there is no memory for it.
+    template <class Interface>
+    ZanDicRef<Interface> Own() const {
+        void* face = nullptr;
+        if (Failed(_Object->bind_Interface(OXMDicTYPE_UNDEFINED, &face))) throw std::bad_alloc();
+        return ZanDicRef<Interface>(static_cast<Interface*>(face));
+    }
+
+private:
+    ZanDicRef<ZanDicObj> _Object;
+};
+
+#endif

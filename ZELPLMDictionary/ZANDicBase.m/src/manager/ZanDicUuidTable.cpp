@@ -1,0 +1,110 @@
+#include "ZanDicUuidTable.h"
+
+#include <algorithm>
+#include <new>
+
+#include "ZELFatalError.h"
+
+namespace {
+
+constexpr std::uint64_t kFirstPlaces = 64;
+constexpr std::uint64_t kMostPlaces = 0x80000000;
+
+std::uint32_t KeyOf(const ZanDicObj& object) noexcept { return object.Uuid().ComputeHashKey(); }
+
+}  // namespace
+
+ZanDicUuidTable::Entry ZanDicUuidTable::new_Entry(ZanDicObj& object, std::uint32_t key) noexcept {
+    const auto address = static_cast<Entry>(reinterpret_cast<std::uintptr_t>(&object));
+    // Programs get addresses of 48 bits unless they ask for more.
+    if (address >> kAddressBits != 0) ZELFatalError("AssertionFailed:address", "ZanDicUuidTable", 24);
+    return mark_Of(key) | address;
+}
+
+/// The same entry at another distance from home.
+ZanDicUuidTable::Entry ZanDicUuidTable::with_Distance(Entry entry, std::uint32_t distance) noexcept {
+    return (entry & ~(Entry{kFar} << kAddressBits)) | Entry{std::min(distance, kFar)} << kAddressBits;
+}
+
+/// How far the entry at \p place is from home.
+std::uint32_t ZanDicUuidTable::distance_At(std::uint32_t place) const noexcept {
+    const Entry entry = _ENTRIES[place];
+    const std::uint32_t noted = static_cast<std::uint32_t>(entry >> kAddressBits) & kFar;
+    return noted < kFar ? noted : way_Between(home_Of(KeyOf(*object_In(entry))), place);
+}
+
+ZanDicObj* ZanDicUuidTable::find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept {
+    const Entry mark = mark_Of(key);
+    for (std::uint32_t place = home_Of(key);; place = next_To(place)) {
+        const Entry entry = _ENTRIES[place];
+        if (entry == 0) return nullptr;
+        if (has_Mark(entry, mark) && object_In(entry)->Uuid() == uuid) return object_In(entry);
+    }
+}
+
+const ZanDicObj* ZanDicUuidTable::Guess(std::uint32_t key) const noexcept {
+    if (_Size == 0) return nullptr;
+    std::uint32_t place = home_Of(key);
+    while (_ENTRIES[place] != 0 && !has_Mark(_ENTRIES[place], mark_Of(key))) place = next_To(place);
+    return object_In(_ENTRIES[place]);
+}
+
+bool ZanDicUuidTable::Insert(ZanDicObj& object) {
+    const std::uint32_t key = KeyOf(object);
+    if (_Size != 0 && find_Key(object.Uuid(), key) != nullptr) return false;
+    if ((std::uint64_t{_Size} + 1) * 4 > std::uint64_t{_Places} * 3) {
+        rehash_To(std::max(kFirstPlaces, std::uint64_t{_Places} * 2));
+    }
+    place_Object(object, key);
+    ++_Size;
+    return true;
+}
+
+void ZanDicUuidTable::place_Object(ZanDicObj& object, std::uint32_t key) noexcept {
+    const std::uint32_t home = home_Of(key);
+    std::uint32_t place = home;
+    while (_ENTRIES[place] != 0) place = next_To(place);
+    _ENTRIES[place] = with_Distance(new_Entry(object, key), way_Between(home, place));
+}
+
+bool ZanDicUuidTable::Remove(const ZanDicObj& object) noexcept {
+    if (_Size == 0) return false;
+    std::uint32_t gap = home_Of(KeyOf(object));
+    while (object_In(_ENTRIES[gap]) != &object) {
+        if (_ENTRIES[gap] == 0) return false;
+        gap = next_To(gap);
+    }
+    // Closes the gap by moving back what could not stand nearer to its home, so that no mark remains.
+    for (std::uint32_t place = next_To(gap); _ENTRIES[place] != 0; place = next_To(place)) {
+        const std::uint32_t distance = distance_At(place);
+        const std::uint32_t way = way_Between(gap, place);
+        if (distance < way) continue;
+        _ENTRIES[gap] = with_Distance(_ENTRIES[place], distance - way);
+        gap = place;
+    }
+    _ENTRIES[gap] = 0;
+    if (--_Size == 0) RemoveAll();
+    return true;
+}
+
+void ZanDicUuidTable::RemoveAll() noexcept {
+    _ENTRIES.reset();
+    _Places = 0;
+    _Size = 0;
+}
+
+void ZanDicUuidTable::Reserve(int count) {
+    const std::uint64_t needed = static_cast<std::uint64_t>(std::max(count, 0)) * 4 / 3 + 1;
+    // Many small calls must not make as many small steps.
+    if (needed > _Places) rehash_To(std::max(needed, std::uint64_t{_Places} * 3 / 2));
+}
+
+void ZanDicUuidTable::rehash_To(std::uint64_t places) {
+    if (places > kMostPlaces) throw std::bad_alloc();
+    ZanDicUuidTable larger;
+    larger._ENTRIES = std::make_unique<Entry[]>(static_cast<std::size_t>(places));
+    larger._Places = static_cast<std::uint32_t>(places);
+    ForEach([&larger](ZanDicObj* object) { larger.place_Object(*object, KeyOf(*object)); });
+    std::swap(_ENTRIES, larger._ENTRIES);
+    std::swap(_Places, larger._Places);
+}
