@@ -4,7 +4,10 @@
 #define FILL_WORDS_H
 
 #include <array>
+#include <cstddef>
+#include <initializer_list>
 #include <iterator>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -14,7 +17,7 @@
 #include "IntegerText.h"
 #include "ReaderTexts.h"
 #include "Reading.h"
-#include "ZANDicValueWords.h"
+#include "ZANDicTags.h"
 
 namespace fill {
 
@@ -44,6 +47,50 @@ struct AttributeWord {
     HRESULT (*fill)(Element&, const Given&);
     bool isReference = false;  ///< told in words of its own when it is given twice
 };
+
+/// Whether rows and vocabulary agree: each row's name is an attribute of one of the tags, and each attribute
+/// of the tags has a row. Relationships need none for their identity and for what only repeats.
+template <class Row, std::size_t N>
+consteval bool AreAttributesOf(const Row (&rows)[N], std::initializer_list<std::string_view> tagNames) {
+    using namespace ZANDicFormat;
+    const auto hasRow = [&rows](std::string_view name) {
+        for (const Row& row : rows) {
+            if (row.name == name) return true;
+        }
+        return false;
+    };
+    for (const Row& row : rows) {
+        bool isKnown = false;
+        for (const std::string_view name : tagNames) {
+            isKnown = isKnown || FindAttribute(*FindTag(kTags, name), row.name) != nullptr;
+        }
+        if (!isKnown) return false;
+    }
+    const bool hasIdentity = hasRow(word::kName);
+    for (const std::string_view name : tagNames) {
+        for (const AttributeRow& attribute : FindTag(kTags, name)->attributes) {
+            const bool needsNone =
+                !hasIdentity && (attribute.form == AttributeForm::Repeated || attribute.name == word::kName ||
+                                 attribute.name == word::kUuid);
+            if (!needsNone && !hasRow(attribute.name)) return false;
+        }
+    }
+    return true;
+}
+
+/// Whether rows of tags and vocabulary agree on what may stand inside a tag.
+template <class Row, std::size_t N>
+consteval bool AreChildrenOf(const Row (&rows)[N], std::string_view tagName) {
+    const std::span<const std::string_view> children =
+        ZANDicFormat::FindTag(ZANDicFormat::kTags, tagName)->children;
+    if (children.size() != N) return false;
+    for (const Row& row : rows) {
+        bool isChild = false;
+        for (const std::string_view child : children) isChild = isChild || child == row.name;
+        if (!isChild) return false;
+    }
+    return true;
+}
 
 /// The argument of a setter, without pointer and const.
 template <class Setter>
