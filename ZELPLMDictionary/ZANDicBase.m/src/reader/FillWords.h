@@ -48,31 +48,42 @@ struct AttributeWord {
     bool isReference = false;  ///< told in words of its own when it is given twice
 };
 
+/// The row of a tag of the vocabulary; one without attributes and children when there is none.
+/// By value: the sanitizers let no pointer to a table be compared while the compiler works.
+constexpr ZANDicFormat::TagRow TagRowOf(std::string_view tagName) {
+    for (const ZANDicFormat::TagRow& row : ZANDicFormat::kTags) {
+        if (row.tag == tagName) return row;
+    }
+    return {};
+}
+
+template <class Rows>
+constexpr bool HasName(const Rows& rows, std::string_view name) {
+    for (const auto& row : rows) {
+        if (row.name == name) return true;
+    }
+    return false;
+}
+
 /// Whether rows and vocabulary agree: each row's name is an attribute of one of the tags, and each attribute
 /// of the tags has a row. Relationships need none for their identity and for what only repeats.
 template <class Row, std::size_t N>
-consteval bool AreAttributesOf(const Row (&rows)[N], std::initializer_list<std::string_view> tagNames) {
+constexpr bool AreAttributesOf(const Row (&rows)[N], std::initializer_list<std::string_view> tagNames) {
     using namespace ZANDicFormat;
-    const auto hasRow = [&rows](std::string_view name) {
-        for (const Row& row : rows) {
-            if (row.name == name) return true;
-        }
-        return false;
-    };
     for (const Row& row : rows) {
         bool isKnown = false;
         for (const std::string_view name : tagNames) {
-            isKnown = isKnown || FindAttribute(*FindTag(kTags, name), row.name) != nullptr;
+            isKnown = isKnown || HasName(TagRowOf(name).attributes, row.name);
         }
         if (!isKnown) return false;
     }
-    const bool hasIdentity = hasRow(word::kName);
+    const bool hasIdentity = HasName(rows, word::kName);
     for (const std::string_view name : tagNames) {
-        for (const AttributeRow& attribute : FindTag(kTags, name)->attributes) {
+        for (const AttributeRow& attribute : TagRowOf(name).attributes) {
             const bool needsNone =
                 !hasIdentity && (attribute.form == AttributeForm::Repeated || attribute.name == word::kName ||
                                  attribute.name == word::kUuid);
-            if (!needsNone && !hasRow(attribute.name)) return false;
+            if (!needsNone && !HasName(rows, attribute.name)) return false;
         }
     }
     return true;
@@ -80,16 +91,12 @@ consteval bool AreAttributesOf(const Row (&rows)[N], std::initializer_list<std::
 
 /// Whether rows of tags and vocabulary agree on what may stand inside a tag.
 template <class Row, std::size_t N>
-consteval bool AreChildrenOf(const Row (&rows)[N], std::string_view tagName) {
-    const std::span<const std::string_view> children =
-        ZANDicFormat::FindTag(ZANDicFormat::kTags, tagName)->children;
-    if (children.size() != N) return false;
-    for (const Row& row : rows) {
-        bool isChild = false;
-        for (const std::string_view child : children) isChild = isChild || child == row.name;
-        if (!isChild) return false;
+constexpr bool AreChildrenOf(const Row (&rows)[N], std::string_view tagName) {
+    const ZANDicFormat::TagRow tagRow = TagRowOf(tagName);
+    for (const std::string_view child : tagRow.children) {
+        if (!HasName(rows, child)) return false;
     }
-    return true;
+    return tagRow.children.size() == N;
 }
 
 /// The argument of a setter, without pointer and const.
