@@ -61,7 +61,7 @@ constexpr AttributeMeaning kAttributeMeanings[] = {
     // packages
     {{},
      word::kDomain,
-     "The domain; `VALKOR` unless given. Elements of different domains never refer to each other."},
+     "The domain; `VALKOR` unless given. What refers to an element of another domain is a fault."},
     {{},
      word::kUseNames,
      "Packages that are loaded first. A name may have a content word, as in `Items.rbodef`."},
