@@ -15,7 +15,7 @@ public:
 }  // namespace
 
 TEST(ZanDicDiagnosticTest, EveryCodeHasAWordOfItsOwn) {
-    constexpr int kCodes = static_cast<int>(ZanDicDiagnosticCode::InvalidBlock) + 1;
+    constexpr int kCodes = kZanDicDiagnosticCodeCount;
     std::set<std::string_view> names;
     for (int code = 0; code < kCodes; ++code) {
         names.insert(ZanDicDiagnosticName(static_cast<ZanDicDiagnosticCode>(code)));

@@ -214,6 +214,19 @@ TEST_F(ZandicHppTest, TypeOfIsNullWithoutAType) {
     EXPECT_FALSE(zandic::TypeOf(*untyped));
 }
 
+TEST_F(ZandicHppTest, CreateGivesNullForATakenNameOrUuid) {
+    const auto package = dictionary.Package("BomItems");
+
+    const auto made = zandic::Create(*package, &OXMIDicPackage::CreateClass, "New", TestUuid(1));
+    const auto ofTakenName = zandic::Create(*package, &OXMIDicPackage::CreateClass, "New", TestUuid(2));
+    const auto ofTakenUuid = zandic::Create(*package, &OXMIDicPackage::CreateClass, "Newer", TestUuid(1));
+
+    EXPECT_TRUE(made);
+    EXPECT_FALSE(ofTakenName);
+    EXPECT_FALSE(ofTakenUuid);
+    EXPECT_TRUE(zandic::Find(*package, &OXMIDicPackage::GetElement, "Newer"));
+}
+
 TEST_F(ZandicHppTest, FreeAttributesComeAsPairs) {
     const auto element = ClassNamed("BomAssembly");
 

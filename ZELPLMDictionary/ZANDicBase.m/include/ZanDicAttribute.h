@@ -67,8 +67,8 @@ public:
     HRESULT SetProxyable(unsigned char proxyable);
     HRESULT GetProxyable(unsigned char* proxyable) const;
 
-    /// Links. Setters: \returns S_OK; E_FAIL for what is not in the dictionary or of the wrong kind.
-    /// Getters: \param[out] carries one reference. \returns S_OK; S_FALSE when unset.
+    /// Links. \returns S_OK; setters E_FAIL for what is not in the dictionary or of the wrong kind, getters
+    /// S_FALSE when unset. What a getter hands out carries one reference.
     HRESULT GetOrigin(OXMIDicClass** origin) const;
     HRESULT SetType(const OXMIDicElement* type);
     HRESULT GetType(OXMIDicElement** type) const;

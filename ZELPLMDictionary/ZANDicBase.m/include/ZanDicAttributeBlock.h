@@ -31,8 +31,8 @@ public:
     ZELMetaClass& MetaObject() const override { return ClassMeta(); }
     _type get_type() const override { return _type_AttributeBlock; }
 
-    /// Links. Setters: \returns S_OK; E_FAIL for what is not in the dictionary or of another kind.
-    /// Getters: \param[out] carries one reference. \returns S_OK; S_FALSE when unset.
+    /// Links. \returns S_OK; setters E_FAIL for what is not in the dictionary or of another kind, getters
+    /// S_FALSE when unset. What a getter hands out carries one reference.
     HRESULT SetClass(const OXMIDicClass* owner);
     HRESULT GetClass(OXMIDicClass** owner) const;
     /// Inherited attributes of the father before are given up. Costs the length of the chain above

@@ -49,6 +49,9 @@ enum class ZanDicDiagnosticCode : std::uint8_t {
     InvalidBlock,
 };
 
+/// How many codes there are.
+inline constexpr int kZanDicDiagnosticCodeCount = static_cast<int>(ZanDicDiagnosticCode::InvalidBlock) + 1;
+
 /// \returns the stable word of a code, such as "duplicate-uuid"; static storage.
 ZANDICBASE_API std::string_view ZanDicDiagnosticName(ZanDicDiagnosticCode code);
 

@@ -210,7 +210,8 @@ List<T> All(Object& object, HRESULT (Interface::*getter)(ZELListPtrIUnknown&)) {
     return list;
 }
 
-/// Makes what \p creator makes, under that name and UUID. Null when it refuses.
+/// Makes what \p creator makes, under that name and UUID. Null when it refuses; where only the UUID is taken,
+/// packages and classes keep what they made, which is then registered nowhere.
 ///
 ///     zandic::Create(package, &OXMIDicPackage::CreateClass, "Part", zandic::NewUuid())
 template <class Object, class Interface, class Made>
@@ -219,7 +220,7 @@ Handle<Made> Create(Object& object,
                     std::string_view name, const ZELDbBinary& uuid) {
     const ZELString key(name);
     Handle<Made> made;
-    (object.*creator)(&key, &uuid, made.Out());
+    if (Failed((object.*creator)(&key, &uuid, made.Out()))) made.Reset();
     return made;
 }
 

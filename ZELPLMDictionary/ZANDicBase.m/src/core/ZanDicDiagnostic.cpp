@@ -15,7 +15,7 @@ constexpr std::string_view kNames[] = {
     "duplicate-name",         "duplicate-uuid",         "reference-not-found",  "reference-of-wrong-kind",
     "cross-domain-reference", "reference-refused",      "invalid-redefinition", "invalid-block",
 };
-static_assert(std::size(kNames) == static_cast<std::size_t>(ZanDicDiagnosticCode::InvalidBlock) + 1);
+static_assert(std::size(kNames) == kZanDicDiagnosticCodeCount);
 
 constinit ZanDicDiagnosticObserver* diagnosticObserver = nullptr;
 

@@ -13,7 +13,7 @@ constexpr std::string_view kTypeNames[] = {
     "Enumerator",   "AttributeBlock",    "RBOClass",  "RBOMapping", "RBORoot",
     "RBOComponent", "RBOPathExpression",
 };
-static_assert(std::size(kTypeNames) == OXMDicTYPE_RBOPathExpression + 1);
+static_assert(std::size(kTypeNames) == kZanDicTypeCount);
 
 }  // namespace
 

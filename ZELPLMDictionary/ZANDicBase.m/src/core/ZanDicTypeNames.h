@@ -6,7 +6,10 @@
 
 #include "OXMDicTypes.h"
 
-/// \returns the name of a type code for trace lines; "?" for one outside 1 to 26.
+/// How many type codes there are, 0 included: the size of a table by type code.
+inline constexpr int kZanDicTypeCount = OXMDicTYPE_RBOPathExpression + 1;
+
+/// \returns the name of a type code for trace lines; "?" for one that is none.
 std::string_view ZanDicTypeName(OXMDicTYPE type);
 
 #endif

@@ -46,7 +46,7 @@ constexpr ReasonRow kReasons[] = {
     {InvalidRedefinition, "\"{element}\" does not redefine what it inherits: {detail}"},
     {InvalidBlock, "attribute blocks of \"{element}\": {detail}"},
 };
-static_assert(std::size(kReasons) == static_cast<std::size_t>(InvalidBlock) + 1);
+static_assert(std::size(kReasons) == kZanDicDiagnosticCodeCount);
 
 std::string_view AttributeName(const Fault& fault) {
     return fault.attribute ? fault.attribute.Name() : fault.attributeName;

@@ -4,7 +4,10 @@
 #define FILL_WORDS_H
 
 #include <array>
+#include <cstddef>
+#include <initializer_list>
 #include <iterator>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -14,7 +17,7 @@
 #include "IntegerText.h"
 #include "ReaderTexts.h"
 #include "Reading.h"
-#include "ZANDicValueWords.h"
+#include "ZANDicTags.h"
 
 namespace fill {
 
@@ -44,6 +47,57 @@ struct AttributeWord {
     HRESULT (*fill)(Element&, const Given&);
     bool isReference = false;  ///< told in words of its own when it is given twice
 };
+
+/// The row of a tag of the vocabulary; one without attributes and children when there is none.
+/// By value: the sanitizers let no pointer to a table be compared while the compiler works.
+constexpr ZANDicFormat::TagRow TagRowOf(std::string_view tagName) {
+    for (const ZANDicFormat::TagRow& row : ZANDicFormat::kTags) {
+        if (row.tag == tagName) return row;
+    }
+    return {};
+}
+
+template <class Rows>
+constexpr bool HasName(const Rows& rows, std::string_view name) {
+    for (const auto& row : rows) {
+        if (row.name == name) return true;
+    }
+    return false;
+}
+
+/// Whether rows and vocabulary agree: each row's name is an attribute of one of the tags, and each attribute
+/// of the tags has a row. Relationships need none for their identity and for what only repeats.
+template <class Row, std::size_t N>
+constexpr bool AreAttributesOf(const Row (&rows)[N], std::initializer_list<std::string_view> tagNames) {
+    using namespace ZANDicFormat;
+    for (const Row& row : rows) {
+        bool isKnown = false;
+        for (const std::string_view name : tagNames) {
+            isKnown = isKnown || HasName(TagRowOf(name).attributes, row.name);
+        }
+        if (!isKnown) return false;
+    }
+    const bool hasIdentity = HasName(rows, word::kName);
+    for (const std::string_view name : tagNames) {
+        for (const AttributeRow& attribute : TagRowOf(name).attributes) {
+            const bool needsNone =
+                !hasIdentity && (attribute.form == AttributeForm::Repeated || attribute.name == word::kName ||
+                                 attribute.name == word::kUuid);
+            if (!needsNone && !HasName(rows, attribute.name)) return false;
+        }
+    }
+    return true;
+}
+
+/// Whether rows of tags and vocabulary agree on what may stand inside a tag.
+template <class Row, std::size_t N>
+constexpr bool AreChildrenOf(const Row (&rows)[N], std::string_view tagName) {
+    const ZANDicFormat::TagRow tagRow = TagRowOf(tagName);
+    for (const std::string_view child : tagRow.children) {
+        if (!HasName(rows, child)) return false;
+    }
+    return tagRow.children.size() == N;
+}
 
 /// The argument of a setter, without pointer and const.
 template <class Setter>

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "FillWords.h"
 #include "HexToBinary.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicEnum.h"
@@ -133,6 +134,7 @@ constexpr ElementRow kElementRows[] = {
     {tag::kComment, nullptr},
     {tag::kKVAComment, nullptr},
 };
+static_assert(fill::AreChildrenOf(kElementRows, tag::kPackage));
 
 const ElementRow* FindElementRow(std::string_view tagName) {
     for (const ElementRow& row : kElementRows) {

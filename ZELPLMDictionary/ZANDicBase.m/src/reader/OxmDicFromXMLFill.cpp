@@ -74,6 +74,7 @@ constexpr AttributeWord<OXMIDicClass> kClassWords[] = {
     {word::kScopeNames, Skip},
     {word::kInterfaceRefs, Skip},
 };
+static_assert(AreAttributesOf(kClassWords, {tag::kClass, tag::kInstance, tag::kExtension}));
 
 constexpr AttributeWord<OXMIDicSimple> kSimpleWords[] = {
     {word::kName, Skip},
@@ -98,6 +99,7 @@ constexpr AttributeWord<OXMIDicSimple> kSimpleWords[] = {
     {word::kUpper, Integer<&OXMIDicSimple::SetUpper>},
     {word::kCollectionType, KnownWord<&OXMIDicSimple::SetCollectionType, kCollectionWords>},
 };
+static_assert(AreAttributesOf(kSimpleWords, {tag::kSimple}));
 
 /// Read in this order, whatever the document's: `Type` stands behind `TargetRef` and wins.
 constexpr AttributeWord<OXMIDicRelationship> kRelationWords[] = {
@@ -125,6 +127,7 @@ constexpr AttributeWord<OXMIDicRelationship> kRelationWords[] = {
     {word::kInverseOfRef, Reference<slot::kInverseOf>},
     {word::kCategoryRefs, Reference<slot::kCategories>},
 };
+static_assert(AreAttributesOf(kRelationWords, {tag::kRelationship, tag::kInverse}));
 
 constexpr AttributeWord<OXMIDicUnique> kUniqueWords[] = {
     {word::kName, Skip},
@@ -132,12 +135,14 @@ constexpr AttributeWord<OXMIDicUnique> kUniqueWords[] = {
     {word::kAlias, Text<&OXMIDicUnique::SetAlias>},
     {word::kUniqueRefs, Reference<slot::kUniques>},
 };
+static_assert(AreAttributesOf(kUniqueWords, {tag::kUnique}));
 
 constexpr AttributeWord<OXMIDicEnum> kEnumWords[] = {
     {word::kName, Skip},
     {word::kUuid, Skip},
     {word::kAlias, Text<&OXMIDicEnum::SetAlias>},
 };
+static_assert(AreAttributesOf(kEnumWords, {tag::kEnum}));
 
 constexpr AttributeWord<OXMIDicEnumerator> kEnumeratorWords[] = {
     {word::kName, Skip},
@@ -145,6 +150,7 @@ constexpr AttributeWord<OXMIDicEnumerator> kEnumeratorWords[] = {
     {word::kAlias, Text<&OXMIDicEnumerator::SetAlias>},
     {word::kValue, EnumeratorValue},
 };
+static_assert(AreAttributesOf(kEnumeratorWords, {tag::kEnumerator}));
 
 constexpr AttributeWord<OXMIDicCategory> kCategoryWords[] = {
     {word::kName, Skip},
@@ -152,6 +158,7 @@ constexpr AttributeWord<OXMIDicCategory> kCategoryWords[] = {
     {word::kAlias, Text<&OXMIDicCategory::SetAlias>},
     {word::kGroup, Text<&OXMIDicCategory::SetGroup>},
 };
+static_assert(AreAttributesOf(kCategoryWords, {tag::kCategory}));
 
 constexpr AttributeWord<OXMIDicPackage> kPackageWords[] = {
     {word::kName, Skip},
@@ -164,6 +171,7 @@ constexpr AttributeWord<OXMIDicPackage> kPackageWords[] = {
     {word::kExpositionLevel, Text<&OXMIDicPackage::SetExpositionLevel>},
     {word::kVersion, Keep},  // no field holds it
 };
+static_assert(AreAttributesOf(kPackageWords, {tag::kPackage}));
 
 /// Relationships and inverses: the first attribute of each name, in the order of the rows. Others are
 /// never looked at.
@@ -297,6 +305,7 @@ constexpr MemberRow kMemberRows[] = {
     {tag::kImplement, RefuseMember<&OXMIDicClass::CreateImplement>},
     {tag::kSecurity, RefuseMember<&OXMIDicClass::CreateSecurity>},
 };
+static_assert(AreChildrenOf(kMemberRows, tag::kClass));
 constexpr WordIndex kMemberIndex{kMemberRows};
 
 /// Who a child of a class or an enumeration says that it is.

@@ -28,12 +28,14 @@ constexpr AttributeWord<OXMIDicInterface> kInterfaceWords[] = {
     {word::kAlias, Text<&OXMIDicInterface::SetAlias>},
     {word::kSuperRef, Reference<slot::kSuper>},
 };
+static_assert(AreAttributesOf(kInterfaceWords, {tag::kInterface}));
 
 constexpr AttributeWord<OXMIDicMethod> kMethodWords[] = {
     {word::kName, Skip},
     {word::kUuid, Skip},
     {word::kAlias, Text<&OXMIDicMethod::SetAlias>},
 };
+static_assert(AreAttributesOf(kMethodWords, {tag::kMethod}));
 
 constexpr AttributeWord<OXMIDicParameter> kParameterWords[] = {
     {word::kName, Skip},
@@ -45,6 +47,7 @@ constexpr AttributeWord<OXMIDicParameter> kParameterWords[] = {
     {word::kKind, StrictWord<&OXMIDicParameter::SetKind, kKindWords>},
     {word::kDefault, Text<&OXMIDicParameter::SetDefault>},
 };
+static_assert(AreAttributesOf(kParameterWords, {tag::kParameter}));
 
 /// Checks that a method or parameter has `Name` and `Uuid`. \returns S_OK; E_FAIL, reported.
 HRESULT CheckMemberIdentity(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node) {

@@ -38,6 +38,7 @@ constexpr AttributeWord<OXMIDicRBOClass> kRBOClassWords[] = {
     {word::kUuid, Skip},
     {word::kAlias, Text<&OXMIDicRBOClass::SetAlias>},
 };
+static_assert(AreAttributesOf(kRBOClassWords, {tag::kRBOClass}));
 
 constexpr AttributeWord<OXMIDicRBOMapping> kRBOMappingWords[] = {
     {word::kName, Skip},
@@ -46,6 +47,7 @@ constexpr AttributeWord<OXMIDicRBOMapping> kRBOMappingWords[] = {
     {word::kApplyToRBOClass, Text<&OXMIDicRBOMapping::SetApplyToRBOClassName>},
     {word::kApplyToRBOClassRef, StoredReference<&OXMIDicRBOMapping::SetApplyToRBOClassRef>, true},
 };
+static_assert(AreAttributesOf(kRBOMappingWords, {tag::kRBOMapping}));
 
 constexpr AttributeWord<OXMIDicRBORoot> kRBORootWords[] = {
     {word::kName, Skip},
@@ -54,6 +56,7 @@ constexpr AttributeWord<OXMIDicRBORoot> kRBORootWords[] = {
     {word::kBaseClass, Text<&OXMIDicRBORoot::SetBaseClassName>},
     {word::kBaseClassRef, StoredReference<&OXMIDicRBORoot::SetBaseClassRef>, true},
 };
+static_assert(AreAttributesOf(kRBORootWords, {tag::kRBORoot}));
 
 constexpr AttributeWord<OXMIDicRBOComponent> kRBOComponentWords[] = {
     {word::kName, Skip},
@@ -63,6 +66,7 @@ constexpr AttributeWord<OXMIDicRBOComponent> kRBOComponentWords[] = {
     {word::kBaseClassRef, StoredReference<&OXMIDicRBOComponent::SetBaseClassRef>, true},
     {word::kValidityRule, Text<&OXMIDicRBOComponent::SetValidityRule>},
 };
+static_assert(AreAttributesOf(kRBOComponentWords, {tag::kRBOComponent}));
 
 constexpr AttributeWord<OXMIDicRBOPathExpression> kRBOPathExpressionWords[] = {
     {word::kName, Skip},
@@ -73,6 +77,7 @@ constexpr AttributeWord<OXMIDicRBOPathExpression> kRBOPathExpressionWords[] = {
     {word::kTargetName, TextUnlessEmpty<&OXMIDicRBOPathExpression::SetTargetName>},
     {word::kTargetRef, StoredReference<&OXMIDicRBOPathExpression::SetTargetRef>, true},
 };
+static_assert(AreAttributesOf(kRBOPathExpressionWords, {tag::kRBOPathExpression}));
 
 // Making the objects.
 

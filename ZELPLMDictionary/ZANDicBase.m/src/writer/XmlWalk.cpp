@@ -6,6 +6,7 @@
 
 #include "OXMIDicClass.h"
 #include "WriterTexts.h"
+#include "ZanDicTypeNames.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ constexpr const XmlKind* kKinds[] = {
 /// The kinds by type code; null where a code has none. Made once.
 const XmlKind* KindOf(OXMDicTYPE type) {
     static const auto kinds = [] {
-        std::array<const XmlKind*, OXMDicTYPE_RBOPathExpression + 1> table{};
+        std::array<const XmlKind*, kZanDicTypeCount> table{};
         for (const XmlKind* const kind : kKinds) table[static_cast<std::size_t>(kind->type)] = kind;
         return table;
     }();
