@@ -11,8 +11,8 @@ namespace {
 
 __extension__ typedef unsigned __int128 Product;
 
-/// Folds the 128-bit product of two words. Both words carry bits of this seed, so that nobody outside can make
-/// one of them zero.
+/// Folds the 128-bit product of two words. Both words carry bits of this seed, so that nobody outside can
+/// make one of them zero.
 std::uint64_t Fold(std::uint64_t a, std::uint64_t b) noexcept {
     const Product product = static_cast<Product>(a) * b;
     return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);

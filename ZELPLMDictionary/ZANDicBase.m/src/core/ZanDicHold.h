@@ -8,8 +8,8 @@
 #include "ZanDicImplementation.h"
 #include "ZanDicRef.h"
 
-/// Holds one reference on the object behind an interface: whoever keeps many objects for later keeps no adapter
-/// for each meanwhile. An object of another library is held by the interface itself.
+/// Holds one reference on the object behind an interface: whoever keeps many objects for later keeps no
+/// adapter for each meanwhile. An object of another library is held by the interface itself.
 class ZanDicHold {
 public:
     /// \param face the object's own interface, the most specific one.
@@ -17,8 +17,8 @@ public:
         : _Object(ZanDicRef<ZanDicObj>::Share(ImplementationOf(&face))),
           _Foreign(_Object ? ZanDicRef<IUnknown>() : ZanDicRef<IUnknown>::Share(&face)) {}
 
-    /// \returns the object's own interface; \p Interface is a base of it. Throws std::bad_alloc when there is no
-    /// memory for it.
+    /// \returns the object's own interface; \p Interface is a base of it. Throws std::bad_alloc when there is
+    /// no memory for it.
     template <class Interface>
     ZanDicRef<Interface> Own() const {
         if (_Foreign) return ZanDicRef<Interface>::Share(static_cast<Interface*>(_Foreign.Get()));
