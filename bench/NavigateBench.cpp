@@ -24,14 +24,18 @@ class Lookups {
 public:
     template <class Of>
     Lookups(const LoadedPackage& loaded, Of of) : classes_(zandic::Classes(*loaded.Package())) {
+        std::vector<Lookup> inOrder;
         for (OXMIDicClass& element : classes_) {
             for (OXMIDicAttribute& attribute : of(element)) {
-                // A text of its own, as a caller makes it: nothing about it is known yet.
-                lookups_.push_back(
-                    {&element, ZELString(zandic::Name(attribute).View()), zandic::Uuid(attribute)});
+                inOrder.push_back({&element, zandic::Name(attribute), zandic::Uuid(attribute)});
             }
         }
-        std::shuffle(lookups_.begin(), lookups_.end(), std::mt19937(20));
+        std::shuffle(inOrder.begin(), inOrder.end(), std::mt19937(20));
+        // A caller has the name at hand, as a text of its own of which nothing is known yet.
+        lookups_.reserve(inOrder.size());
+        for (const Lookup& each : inOrder) {
+            lookups_.push_back({each.element, ZELString(each.name.View()), each.uuid});
+        }
     }
 
     auto begin() const { return lookups_.begin(); }
