@@ -111,7 +111,7 @@ ZanDicAllAttributes::Answer ZanDicAllAttributes::Descent::Next(const ZanHashList
     for (int position = 1; position <= size; ++position) {
         auto* const attribute = static_cast<ZanDicAttribute*>(own[position]);
         // Deliberate: what once redefined an attribute is left out for good when that is no longer inherited
-        // (ZanDicClassTest.AFormerRedefinitionIsNotListedAgain).
+        // (ZanDicClassHierarchyTest.AFormerRedefinitionIsNotListedAgain).
         if (attribute->get_Specialized() != nullptr) continue;
         answer->_ADDED.emplace_back(attribute);
         _LISTED.push_back(attribute);

@@ -92,7 +92,7 @@ HRESULT ZanDicClass::GetSuperClasses(ZELListPtrIUnknown* superClasses) const {
     for (const ZanDicClass* above = _SuperClass.Get(); above != nullptr; above = above->_SuperClass.Get()) {
         AppendInterface(*above, superClasses);
     }
-    // Deliberate: what the root answers (ZanDicClassTest.GetSuperClassesAlwaysEndsWithOne).
+    // Deliberate: what the root answers (ZanDicClassHierarchyTest.GetSuperClassesAlwaysEndsWithOne).
     return S_FALSE;
 }
 
@@ -166,7 +166,7 @@ void ZanDicClass::forget_AllAttributes() {
 HRESULT ZanDicClass::GetAllElements(ZELListPtrIUnknown* attributes) {
     ZanDicAllAttributes::List listed = ZanDicAllAttributes::ListAlive(_ALLATTRIBUTES);
     if (listed.empty() && !_SuperClass) {
-        // Deliberate: a root computes nothing (ZanDicClassTest.ARootAnswersFromItsOwnAttributes).
+        // Deliberate: a root computes nothing (ZanDicClassHierarchyTest.ARootAnswersFromItsOwnAttributes).
         for (int position = 1; position <= _ATTRIBUTES.Size(); ++position) {
             listed.push_back(static_cast<ZanDicAttribute*>(_ATTRIBUTES[position]));
         }
