@@ -233,14 +233,17 @@ void BM_Shape(benchmark::State& state) {
     }
 }
 
-#define SIZES(small, large) Arg(small)->Arg(large)->Iterations(1)->Unit(benchmark::kMillisecond)
-BENCHMARK(BM_Shape<kManyAttributes>)->SIZES(10'000, 100'000);
-BENCHMARK(BM_Shape<kManySubclasses>)->SIZES(10'000, 100'000);
-BENCHMARK(BM_Shape<kChain>)->SIZES(1'000, 10'000);
-BENCHMARK(BM_Shape<kChainOfPackages>)->SIZES(500, 5'000);
-BENCHMARK(BM_Shape<kManyEnumerators>)->SIZES(100'000, 1'000'000);
-BENCHMARK(BM_Shape<kManyInverses>)->SIZES(5'000, 50'000);
-BENCHMARK(BM_Shape<kScope>)->SIZES(5'000, 50'000);
-#undef SIZES
+/// The two sizes of a shape.
+template <int small, int large>
+void Sizes(benchmark::internal::Benchmark* benchmark) {
+    benchmark->Arg(small)->Arg(large)->Iterations(1)->Unit(benchmark::kMillisecond);
+}
+BENCHMARK(BM_Shape<kManyAttributes>)->Apply(Sizes<10'000, 100'000>);
+BENCHMARK(BM_Shape<kManySubclasses>)->Apply(Sizes<10'000, 100'000>);
+BENCHMARK(BM_Shape<kChain>)->Apply(Sizes<1'000, 10'000>);
+BENCHMARK(BM_Shape<kChainOfPackages>)->Apply(Sizes<500, 5'000>);
+BENCHMARK(BM_Shape<kManyEnumerators>)->Apply(Sizes<100'000, 1'000'000>);
+BENCHMARK(BM_Shape<kManyInverses>)->Apply(Sizes<5'000, 50'000>);
+BENCHMARK(BM_Shape<kScope>)->Apply(Sizes<5'000, 50'000>);
 
 }  // namespace

@@ -81,13 +81,17 @@ int Spawn(const std::vector<std::string>& arguments, const Pipe& out, const Pipe
     return error;
 }
 
-/// Reads both streams as they come, so that neither fills up while the other is waited for.
+/// Reads both streams as they come, so that neither fills up while the other is waited for. Both are closed
+/// after that, also where waiting fails: the other process then ends, since nobody reads what it writes.
 void ReadBoth(Pipe& out, Pipe& err, SecondRun& run) {
     while (out.readEnd.IsOpen() || err.readEnd.IsOpen()) {
         // Of a closed one the number is negative: it is passed over.
         std::array<pollfd, 2> waiting{pollfd{out.readEnd.Number(), POLLIN, 0},
                                       pollfd{err.readEnd.Number(), POLLIN, 0}};
-        if (poll(waiting.data(), waiting.size(), -1) < 0 && errno != EINTR) return;
+        if (poll(waiting.data(), waiting.size(), -1) < 0 && errno != EINTR) {
+            out.readEnd.Close();
+            err.readEnd.Close();
+        }
         if (waiting[0].revents != 0) out.Read(run.out);
         if (waiting[1].revents != 0) err.Read(run.err);
     }
