@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "DictionaryFixture.h"
+#include "FakeIdentity.h"
 #include "OXMIDicPackage.h"
 
 /// \returns \p E_NOINTERFACE unless \p id is that of \p Interface.
@@ -17,7 +18,7 @@ HRESULT AnswerOne(Interface& face, const ZELInterfaceId& id, void** out) {
 }
 
 /// Named "P". What it lists is not owned.
-struct FakePackage final : OXMIDicPackage {
+struct FakePackage final : FakeIdentity<OXMIDicPackage> {
     std::vector<IUnknown*> elements;    ///< may hold null
     std::vector<IUnknown*> classes;     ///< may hold null
     std::vector<IUnknown*> interfaces;  ///< may hold null
@@ -39,16 +40,6 @@ struct FakePackage final : OXMIDicPackage {
     HRESULT GetClasses(ZELListPtrIUnknown* list) override { return Append(classes, list); }
     HRESULT GetInterfaces(ZELListPtrIUnknown* list) override { return Append(interfaces, list); }
 
-    HRESULT SetName(const ZELString*) override { return E_FAIL; }
-    HRESULT SetUuid(const ZELDbBinary*) override { return E_FAIL; }
-    HRESULT GenUuid() override { return E_FAIL; }
-    HRESULT SetOtherAttribute(const ZELUnicodeString&, const ZELUnicodeString&) override { return E_FAIL; }
-    HRESULT GetOtherAttribute(const ZELUnicodeString&, ZELUnicodeString&) override { return E_FAIL; }
-    HRESULT AddCategory(const OXMIDicCategory*) override { return E_FAIL; }
-    HRESULT RemoveCategory(const OXMIDicCategory*) override { return E_FAIL; }
-    HRESULT IsCategory(const ZELString*, unsigned char*) override { return E_FAIL; }
-    HRESULT GetCategories(ZELListPtrIUnknown*) override { return E_FAIL; }
-    HRESULT GetLostLinks(int*) override { return E_FAIL; }
     HRESULT SetAlias(const ZELUnicodeString*) override { return E_FAIL; }
     HRESULT GetAlias(ZELUnicodeString*) override { return E_FAIL; }
     HRESULT SetExpositionLevel(const ZELUnicodeString*) override { return E_FAIL; }

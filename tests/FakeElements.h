@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "DictionaryFixture.h"
+#include "FakeIdentity.h"
 #include "OXMIDicClass.h"
 #include "OXMIDicInterface.h"
 #include "OXMIDicMethod.h"
@@ -22,7 +23,7 @@
 
 /// Names, UUID, type, alias and free attributes, for any interface of an element.
 template <class Interface>
-class FakeElement : public Interface {
+class FakeElement : public FakeIdentity<Interface> {
 public:
     using Interface::GetType;
     FakeElement(OXMDicTYPE type, const char* name, unsigned number)
@@ -72,16 +73,6 @@ public:
     }
     HRESULT GetAlias(ZELUnicodeString* out) override { return *out = alias, S_OK; }
 
-    HRESULT SetName(const ZELString*) override { return E_FAIL; }
-    HRESULT SetUuid(const ZELDbBinary*) override { return E_FAIL; }
-    HRESULT GenUuid() override { return E_FAIL; }
-    HRESULT SetOtherAttribute(const ZELUnicodeString&, const ZELUnicodeString&) override { return E_FAIL; }
-    HRESULT GetOtherAttribute(const ZELUnicodeString&, ZELUnicodeString&) override { return E_FAIL; }
-    HRESULT AddCategory(const OXMIDicCategory*) override { return E_FAIL; }
-    HRESULT RemoveCategory(const OXMIDicCategory*) override { return E_FAIL; }
-    HRESULT IsCategory(const ZELString*, unsigned char*) override { return E_FAIL; }
-    HRESULT GetCategories(ZELListPtrIUnknown*) override { return E_FAIL; }
-    HRESULT GetLostLinks(int*) override { return E_FAIL; }
     HRESULT SetAlias(const ZELUnicodeString*) override { return E_FAIL; }
     HRESULT SetExpositionLevel(const ZELUnicodeString*) override { return E_FAIL; }
     HRESULT SetVisibility(OXMDicVISIBILITY) override { return E_FAIL; }
