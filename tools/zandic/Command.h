@@ -56,6 +56,7 @@ void RunBlocks(Session& session, const Options& options, Output& output);
 void RunDump(Session& session, const Options& options, Output& output);
 void RunSave(Session& session, const Options& options, Output& output);
 void RunExpress(Session& session, const Options& options, Output& output);
+void RunCompletion(Session& session, const Options& options, Output& output);
 void RunHelp(Session& session, const Options& options, Output& output);
 
 }  // namespace tool
