@@ -11,9 +11,10 @@
 
 #include "Command.h"
 #include "Files.h"
-#include "Find.h"
 #include "Model.h"
+#include "ProfilingScope.h"
 #include "Streams.h"
+#include "Targets.h"
 #include "ZELFile.h"
 
 namespace tool {
@@ -80,6 +81,7 @@ std::optional<ZELFileContent> Export(Session& session, OXMIDicPackage& package,
     const ZELString name = zandic::Name(package);
     const FileWatch file(SchemaPath(directory, name.View()));
     const LineScope errorsAreTold(LineRule::Errors);
+    const ProfilingScope step("express", name.View());
     const zandic::Result result = session.Dictionary().Manager().SaveExpress(directory.c_str(), &name);
 
     if (!result || !file.IsWritten()) {
@@ -112,22 +114,26 @@ void RunExpress(Session& session, const Options& options, Output& output) {
 
     // Everything is loaded first: which attribute redefines another, and which class has subclasses, is then
     // the same for all.
-    const std::vector<AskedPackage> packages = FindPackages(session, options.names);
+    const std::vector<AskedPackage> packages = Targets(session, options).Packages();
     AskForAllAttributes(session.Dictionary());
+    session.Expect("writing", packages.size());
     std::set<std::string, std::less<>> exported;
+    std::vector<std::string> files;
     for (const auto& [asked, package] : packages) {
         if (!package) continue;
         const std::string name(zandic::Name(*package).View());
         if (!exported.insert(name).second) continue;
         const auto schema = Export(session, *package, directory);
+        session.Done();
         if (!schema) continue;
         TellLeftOut(session, *package);
         if (passing) {
             output.Write(schema->View());
         } else {
-            output.Write(SchemaPath(directory, name) + "\n");
+            files.push_back(SchemaPath(directory, name));
         }
     }
+    if (!passing) WriteFileList(files, options.json, output);
 }
 
 }  // namespace tool

@@ -70,6 +70,14 @@ void JsonWriter::Number(std::int64_t number) {
     _Output.Write({digits.data(), static_cast<std::size_t>(end - digits.data())});
 }
 
+void JsonWriter::Decimal(double number, int digits) {
+    BeginValue();
+    std::array<char, 64> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed, digits).ptr;
+    _Output.Write({text.data(), static_cast<std::size_t>(end - text.data())});
+}
+
 void JsonWriter::Flag(bool flag) {
     BeginValue();
     _Output.Write(flag ? "true" : "false");
@@ -78,6 +86,22 @@ void JsonWriter::Flag(bool flag) {
 void JsonWriter::Null() {
     BeginValue();
     _Output.Write("null");
+}
+
+void JsonWriter::TextOf(std::string_view key, std::string_view text) {
+    Key(key);
+    if (text.empty()) {
+        Null();
+    } else {
+        Text(text);
+    }
+}
+
+void JsonWriter::TextsOf(std::string_view key, const std::vector<std::string>& texts) {
+    Key(key);
+    BeginArray();
+    for (const std::string& text : texts) Text(text);
+    EndArray();
 }
 
 void JsonWriter::BeginValue() {

@@ -1,6 +1,7 @@
 #ifndef ZANDIC_TOOL_SESSION_H
 #define ZANDIC_TOOL_SESSION_H
 
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -9,9 +10,16 @@
 #include "Faults.h"
 #include "LoadClock.h"
 #include "Options.h"
+#include "Progress.h"
 #include "zandic.hpp"
 
 namespace tool {
+
+/// Which documents of the path.
+enum class PathDocuments {
+    Metadata,  ///< those of the content word "metadata"
+    All,       ///< those of packages, of every content word
+};
 
 /// One run of the tool over the dictionary: sets the four doors, loads packages, gathers what went wrong.
 /// One at a time.
@@ -33,14 +41,27 @@ public:
         return _Dictionary.Package(_Observer.NameIn(asked));
     }
 
-    /// One load that was tried: the package's name and the time that it took by itself.
-    struct LoadTime {
+    /// One load that was tried: the package's name and what it took by itself.
+    struct LoadOf {
         std::string package;
-        LoadClock::Duration own;
+        LoadCost own;
     };
 
     /// \returns the loads, those first that ended first: a package after what it uses.
-    std::vector<LoadTime> LoadTimes() const;
+    std::vector<LoadOf> LoadCosts() const;
+
+    /// Says what is done from now on, and with how many packages: for those who wait.
+    void Expect(std::string_view doing, std::size_t packages) {
+        if (_Progress) _Progress->Expect(doing, static_cast<int>(packages));
+    }
+
+    /// One of the expected packages is done.
+    void Done() {
+        if (_Progress) _Progress->Done();
+    }
+
+    /// Lets the loads from now on be measured in memory, too.
+    void MeasureMemory() { _Clock.MeasureMemory(); }
 
     /// \returns the directories that are searched, separated by ":"; empty when there are none.
     const std::string& Path() const { return _Path; }
@@ -49,8 +70,10 @@ public:
     /// \returns whether it is there; else the fault is noted, on the first try.
     bool Load(const std::string& name);
 
-    /// Loads every package document of the path, in the order of their names.
-    void LoadWholePath();
+    /// Loads package documents of the path, in the order of their names. One that does not load is a warning,
+    /// and costs exit status 1.
+    /// \returns the names that were tried.
+    std::vector<std::string> LoadPath(PathDocuments documents);
 
     /// Note what could not be done, and what must not be asked for.
     void Refuse(std::string subject, std::string text);
@@ -66,12 +89,14 @@ public:
     ExitStatus Close();
 
 private:
-    void Note(const Fault& fault, ExitStatus status);
+    void Note(const Fault& fault, ExitStatus status, Gravity gravity = Gravity::Error);
+    bool LoadAs(const std::string& name, Gravity gravity);
     void Tell(std::string line);
 
     zandic::Dictionary _Dictionary;
     FaultObserver _Observer;
     LoadClock _Clock;
+    std::optional<Progress> _Progress;  ///< none where nobody would see it
     std::string _Path;
     std::string _TraceMethods;
     std::set<std::string, std::less<>> _LOADED;   ///< names asked for that are there

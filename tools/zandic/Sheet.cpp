@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "Style.h"
+
 namespace tool {
 namespace {
 
@@ -12,41 +14,6 @@ constexpr std::size_t kValueColumn = 22;  // of fields
 constexpr std::size_t kNoteIndent = 6;    // of the free text below a row
 constexpr std::size_t kGap = 2;           // between columns
 constexpr std::size_t kNarrowCell = 16;
-
-std::string Printable(std::string_view text) {
-    std::string printable;
-    for (const char c : text) {
-        const auto code = static_cast<unsigned char>(c);
-        if (c == '\n') {
-            printable += "\\n";
-        } else if (c == '\t') {
-            printable += "\\t";
-        } else if (code < 0x20 || code == 0x7f) {
-            printable += fmt::format("\\x{:02X}", code);
-        } else {
-            printable += c;
-        }
-    }
-    return printable;
-}
-
-/// \returns the lines of \p text, none wider than \p width unless it is a single word.
-std::vector<std::string> Wrapped(std::string_view text, std::size_t width) {
-    std::vector<std::string> lines(1);
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(' '), text.size());
-        const std::string_view word = text.substr(0, end);
-        const std::size_t used = WidthOf(lines.back());
-        if (used > 0 && used + 1 + WidthOf(word) > width) {
-            lines.emplace_back(word);
-        } else {
-            if (used > 0) lines.back() += ' ';
-            lines.back() += word;
-        }
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return lines;
-}
 
 std::string Padded(std::string_view text, std::size_t width) {
     const std::size_t used = WidthOf(text);
@@ -67,9 +34,53 @@ void FitIntoLine(std::vector<std::size_t>& widths) {
 
 }  // namespace
 
+std::string Printable(std::string_view text) {
+    std::string printable;
+    for (const char c : text) {
+        const auto code = static_cast<unsigned char>(c);
+        if (c == '\n') {
+            printable += "\\n";
+        } else if (c == '\t') {
+            printable += "\\t";
+        } else if (code < 0x20 || code == 0x7f) {
+            printable += fmt::format("\\x{:02X}", code);
+        } else {
+            printable += c;
+        }
+    }
+    return printable;
+}
+
 std::size_t WidthOf(std::string_view text) {
     return static_cast<std::size_t>(std::count_if(
         text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xc0U) != 0x80U; }));
+}
+
+std::vector<std::string> Wrapped(std::string_view text, std::size_t width) {
+    std::vector<std::string> lines(1);
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(' '), text.size());
+        const std::string_view word = text.substr(0, end);
+        const std::size_t used = WidthOf(lines.back());
+        if (used > 0 && used + 1 + WidthOf(word) > width) {
+            lines.emplace_back(word);
+        } else {
+            if (used > 0) lines.back() += ' ';
+            lines.back() += word;
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+std::string Beginning(std::string_view text, std::size_t count) {
+    std::size_t end = 0;
+    while (end < text.size()) {
+        const bool isCharacter = (static_cast<unsigned char>(text[end]) & 0xc0U) != 0x80U;
+        if (isCharacter && count-- == 0) break;
+        ++end;
+    }
+    return std::string(text.substr(0, end));
 }
 
 std::string Joined(const std::vector<std::string>& texts) {
@@ -81,7 +92,7 @@ std::string Counted(std::size_t count, std::string_view one, std::string_view ma
 }
 
 void Sheet::Title(std::string_view tag, std::string_view name) {
-    Write(0, fmt::format("{} {}", tag, Printable(name)));
+    Write(0, Style::Output().Paint(Role::Heading, fmt::format("{} {}", tag, Printable(name))));
     _Output.Write("\n");
 }
 
@@ -89,7 +100,7 @@ void Sheet::Field(std::string_view label, std::string_view value) {
     if (value.empty()) return;
     std::string_view shown = label;
     for (const std::string& line : Wrapped(Printable(value), kWidth - kValueColumn)) {
-        Write(kIndent, Padded(shown, kValueColumn - kIndent) + line);
+        Write(kIndent, Style::Output().Paint(Role::Label, Padded(shown, kValueColumn - kIndent)) + line);
         shown = {};
     }
 }
@@ -100,7 +111,7 @@ void Sheet::Field(std::string_view label, const std::vector<std::string>& values
 
 void Sheet::Section(std::string_view heading) {
     _Output.Write("\n");
-    Write(0, heading);
+    Write(0, Style::Output().Paint(Role::Heading, heading));
 }
 
 void Sheet::Line(std::string_view text) {

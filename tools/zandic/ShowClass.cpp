@@ -1,13 +1,12 @@
 #include <fmt/format.h>
 
-#include <algorithm>
+#include <string>
+#include <unordered_map>
 
+#include "AttributeText.h"
 #include "Model.h"
 #include "OXMIDicExtension.h"
-#include "OXMIDicInverse.h"
-#include "OXMIDicPrimitive.h"
 #include "OXMIDicRelationship.h"
-#include "OXMIDicSimple.h"
 #include "Views.h"
 
 namespace tool {
@@ -43,28 +42,6 @@ std::string DerivableText(OXMIDicClass& classElement) {
     return inherited.empty() ? "" : fmt::format("{} (inherited)", inherited);
 }
 
-/// \returns what a relationship or inverse points at, in the width of a column.
-std::string TargetText(const View& view, OXMIDicRelationship& relation, OXMIDicElement* type) {
-    if (zandic::Kind(relation) == OXMDicTYPE_Inverse) {
-        const auto inverse = zandic::As<OXMIDicInverse>(relation);
-        if (const auto of = zandic::Link(*inverse, &OXMIDicInverse::GetInverse))
-            return "<- " + NameIn(view, *of);
-    }
-    const std::string scope(WordOf(relation, &OXMIDicRelationship::GetScope, ZANDicFormat::kScopeWords));
-    if (type == nullptr) return "-> ?";
-    return "-> " + NameIn(view, *type) + (scope.empty() ? "" : fmt::format(" ({})", scope));
-}
-
-std::string TypeText(const View& view, OXMIDicAttribute& attribute) {
-    const auto type = zandic::TypeOf(attribute);
-    if (zandic::Kind(attribute) != OXMDicTYPE_Simple) {
-        return TargetText(view, *zandic::As<OXMIDicRelationship>(attribute), type.Get());
-    }
-    if (!type) return "?";
-    const int maxLength = zandic::Get(attribute, &OXMIDicAttribute::GetMaxLength).value_or(-1);
-    return NameIn(view, *type) + (maxLength >= 0 ? fmt::format("({})", maxLength) : "");
-}
-
 void AddRelationNotes(const View& view, OXMIDicRelationship& relation, std::vector<std::string>& notes) {
     if (zandic::Kind(relation) != OXMDicTYPE_Relationship) return;
     if (zandic::Get(relation, &OXMIDicRelationship::GetAggregationMode) == OXMDicAGGREGATION_Composition) {
@@ -97,8 +74,8 @@ std::string NotesOf(const View& view, OXMIDicAttribute& attribute) {
 }
 
 std::vector<std::string> AttributeRow(const View& view, OXMIDicAttribute& attribute) {
-    return {std::string(zandic::Name(attribute).View()), TypeText(view, attribute), ValuesText(attribute),
-            NotesOf(view, attribute)};
+    return {std::string(zandic::Name(attribute).View()), AttributeTypeText(view, attribute),
+            ValuesText(attribute), NotesOf(view, attribute)};
 }
 
 /// Attributes that the same class declares, one section each: the root's first, the own ones last.
@@ -109,15 +86,15 @@ struct Origin {
 
 void ShowInherited(const View& view, OXMIDicClass& classElement) {
     std::vector<Origin> origins;
+    std::unordered_map<std::string, std::size_t> places;  // of the origins, by name
     for (OXMIDicAttribute& attribute :
          zandic::All<OXMIDicAttribute>(classElement, &OXMIDicClass::GetAllElements)) {
         const auto origin = zandic::Link(attribute, &OXMIDicAttribute::GetOrigin);
         if (!origin || IsSame(*origin, classElement)) continue;
         const std::string name = NameIn(view, *origin);
-        auto found = std::find_if(origins.begin(), origins.end(),
-                                  [&name](const Origin& each) { return each.name == name; });
-        if (found == origins.end()) found = origins.insert(found, {name, {}});
-        found->rows.push_back(AttributeRow(view, attribute));
+        const auto [place, isNew] = places.try_emplace(name, origins.size());
+        if (isNew) origins.push_back({name, {}});
+        origins[place->second].rows.push_back(AttributeRow(view, attribute));
     }
     for (const Origin& origin : origins) {
         view.sheet.Section(fmt::format("Attributes inherited from {} ({})", origin.name, origin.rows.size()));

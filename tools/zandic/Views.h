@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "JsonWriter.h"
 #include "OXMIDicAttributeBlock.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicClass.h"
@@ -57,10 +58,16 @@ std::string AppliesTo(const View& view, OXMIDicRBOMapping& mapping);
 /// where there is none yet.
 void ShowBlocksOf(const View& view, OXMIDicClass& classElement);
 
+/// The same as JSON. Names have their packages where \p view names none.
+void WriteBlocksJson(const View& view, OXMIDicClass& classElement, JsonWriter& json);
+
 /// A section of the blocks that are visible in a class, one line each.
 void ShowVisibleBlocks(const View& view, OXMIDicClass& classElement);
 
 // What several sheets share.
+
+/// \returns the package of the object, or its own name when it is one: the first part of its name.
+std::string PackageNameOf(OXMIDicElementH& object);
 
 /// \returns the qualified name, without the package when that is the one of the view.
 std::string NameIn(const View& view, OXMIDicElementH& object);
