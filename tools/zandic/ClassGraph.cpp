@@ -44,6 +44,27 @@ void SortOnce(std::vector<int>& numbers) {
     numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
 }
 
+std::vector<int> ScopesOf(OXMIDicClass& element, const ClassGraph& graph) {
+    std::vector<int> scopes;
+    const auto extension = zandic::As<OXMIDicExtension>(element);
+    if (!extension) return scopes;
+    for (OXMIDicClass& scope : zandic::All<OXMIDicClass>(*extension, &OXMIDicExtension::GetScopes)) {
+        if (const int index = graph.IndexOf(scope); index >= 0) scopes.push_back(index);
+    }
+    SortOnce(scopes);
+    return scopes;
+}
+
+/// \returns the scopes of an extension without those that it has from the extension above it.
+std::vector<int> OwnScopesOf(OXMIDicClass& element, const ClassGraph& graph) {
+    std::vector<int> own = ScopesOf(element, graph);
+    if (const auto super = zandic::Link(element, &OXMIDicClass::GetSuperClass)) {
+        const std::vector<int> above = ScopesOf(*super, graph);
+        std::erase_if(own, [&](int scope) { return std::binary_search(above.begin(), above.end(), scope); });
+    }
+    return own;
+}
+
 /// Where the attribute of a UUID stands.
 struct AttributePlace {
     int classIndex;
@@ -73,15 +94,14 @@ void ClassGraph::ReadClass(OXMIDicClass& element, GraphClass& read) {
     read.name = zandic::Name(element).View();
     read.isAbstract = zandic::Flag(element, &OXMIDicClass::GetAbstract);
     if (zandic::Flag(element, &OXMIDicClass::GetInstance)) read.form = GraphClass::Form::Instance;
+    if (const auto reference = zandic::Link(element, &OXMIDicClass::GetReference)) {
+        read.reference = IndexOf(*reference);
+    }
     if (const auto super = zandic::Link(element, &OXMIDicClass::GetSuperClass))
         read.superClass = IndexOf(*super);
     if (zandic::Kind(element) == OXMDicTYPE_Extension) {
         read.form = GraphClass::Form::Extension;
-        const auto extension = zandic::As<OXMIDicExtension>(element);
-        for (OXMIDicClass& scope : zandic::All<OXMIDicClass>(*extension, &OXMIDicExtension::GetScopes)) {
-            if (const int index = IndexOf(scope); index >= 0) read.scopes.push_back(index);
-        }
-        SortOnce(read.scopes);
+        read.scopes = OwnScopesOf(element, *this);
     }
     for (OXMIDicAttribute& attribute : zandic::OwnAttributes(element)) {
         GraphAttribute& row = read.attributes.emplace_back();
@@ -142,6 +162,7 @@ std::vector<int> ClassGraph::Named(int index) const {
     const GraphClass& from = (*this)[index];
     std::vector<int> named = from.scopes;
     if (from.superClass >= 0) named.push_back(from.superClass);
+    if (from.reference >= 0) named.push_back(from.reference);
     for (const GraphAttribute& attribute : from.attributes) {
         if (attribute.target >= 0) named.push_back(attribute.target);
     }

@@ -39,7 +39,8 @@ struct GraphClass {
     Form form = Form::Class;
     bool isAbstract = false;
     int superClass = -1;      ///< -1: none
-    std::vector<int> scopes;  ///< the classes that an extension extends
+    int reference = -1;       ///< the class that it refers to; -1: none
+    std::vector<int> scopes;  ///< the classes that an extension extends, those of its super class aside
     std::vector<GraphAttribute> attributes;
 
     std::string QualifiedName() const { return package + "::" + name; }
@@ -60,14 +61,14 @@ public:
     /// \returns the number of a class; -1 when it is none of a loaded package.
     int IndexOf(OXMIDicClass& element) const;
 
-    /// The classes that one is joined to by a super class, a scope or a relationship of either side: sorted,
-    /// each once, never itself.
+    /// The classes that one is joined to by a super class, a scope, a reference or a relationship of either
+    /// side: sorted, each once, never itself.
     const std::vector<int>& Neighbours(int index) const {
         return _NEIGHBOURS[static_cast<std::size_t>(index)];
     }
 
-    /// The classes that one names itself: its super class, scopes and targets. Sorted, each once, never
-    /// itself.
+    /// The classes that one names itself: its super class, scopes, reference and targets. Sorted, each once,
+    /// never itself.
     std::vector<int> Named(int index) const;
 
 private:

@@ -112,7 +112,7 @@ private:
         while (_Diagram.boxes.size() < room) {
             const int index = growth.Next();
             if (index < 0) break;
-            _Diagram.boxes.push_back({.index = index});
+            _Diagram.boxes.emplace_back().index = index;
         }
         std::sort(_Diagram.boxes.begin(), _Diagram.boxes.end(),
                   [](const DiagramBox& a, const DiagramBox& b) { return a.index < b.index; });
@@ -134,16 +134,24 @@ private:
         return found != _PLACES.end() ? found->second : -1;
     }
 
+    void AddEdge(DiagramEdge::Kind kind, int from, int to) {
+        DiagramEdge& edge = _Diagram.edges.emplace_back();
+        edge.kind = kind;
+        edge.from = from;
+        edge.to = to;
+    }
+
     void DrawInheritance(DiagramBox& box) {
         const GraphClass& element = _Graph[box.index];
         if (element.superClass >= 0) DrawAbove(box, element.superClass, DiagramEdge::Kind::Super);
         for (const int scope : element.scopes) DrawAbove(box, scope, DiagramEdge::Kind::Scope);
+        if (element.reference >= 0) DrawAbove(box, element.reference, DiagramEdge::Kind::Reference);
     }
 
     void DrawAbove(DiagramBox& box, int above, DiagramEdge::Kind kind) {
         const int to = PlaceOf(above);
         if (to >= 0) {
-            _Diagram.edges.push_back({kind, PlaceOf(box.index), to, {}});
+            AddEdge(kind, PlaceOf(box.index), to);
         } else if (!box.isContext) {
             box.above.push_back(above);
         }
@@ -185,7 +193,7 @@ private:
         const auto kind =
             attribute.isComposition ? DiagramEdge::Kind::Composition : DiagramEdge::Kind::Relationship;
         const auto [known, isNew] = _RELATIONS.emplace(std::tuple(from, to, kind), _Diagram.edges.size());
-        if (isNew) _Diagram.edges.push_back({kind, from, to, {}});
+        if (isNew) AddEdge(kind, from, to);
         DiagramEdge& edge = _Diagram.edges[known->second];
         const bool hasInverse = attribute.kind == Kind::Relationship && attribute.otherClass >= 0;
         const GraphAttribute* const inverse =

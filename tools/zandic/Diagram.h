@@ -30,11 +30,11 @@ struct DiagramRow {
 
 /// A class in the picture.
 struct DiagramBox {
-    int index;                     ///< in the graph
+    int index = -1;                ///< in the graph
     bool isContext = false;        ///< its name only
     std::vector<DiagramRow> rows;  ///< the attributes that no edge stands for
     std::size_t folded = 0;        ///< how many more there are
-    std::vector<int> above;        ///< the super class and scopes that have no box
+    std::vector<int> above;        ///< the super class, scopes and reference that have no box
 };
 
 /// A relationship, as an edge is labelled.
@@ -45,11 +45,11 @@ struct DiagramRole {
 
 /// An edge between two boxes, by their places among the boxes.
 struct DiagramEdge {
-    enum class Kind { Super, Scope, Relationship, Composition };
+    enum class Kind { Super, Scope, Reference, Relationship, Composition };
 
-    Kind kind;
-    int from;  ///< the subclass, the extension, the class that has the relationship
-    int to;
+    Kind kind = Kind::Super;
+    int from = -1;  ///< the subclass, the extension, the class that has the relationship
+    int to = -1;
     std::vector<DiagramRole> roles;  ///< of relationships: all that lead the same way
     std::size_t folded = 0;          ///< how many more there are
 };

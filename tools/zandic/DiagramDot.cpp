@@ -33,6 +33,12 @@ constexpr std::string_view kHead =
     "  edge [fontname=\"Helvetica,Arial,sans-serif\" fontsize=9 fontcolor=\"#33414e\" color=\"#5f6b76\"\n"
     "        arrowsize=0.8]\n";
 
+/// \returns how a class is joined to one that stands above it.
+std::string_view AboveWord(const GraphClass& element, int above) {
+    if (above == element.superClass) return "is a";
+    return above == element.reference ? "refers to" : "extends";
+}
+
 const BoxStyle& StyleOf(const GraphClass& element, const DiagramBox& box) {
     if (box.isContext) return kContextStyle;
     if (element.form == Form::Instance) return kInstanceStyle;
@@ -83,16 +89,19 @@ std::string WideRow(std::string_view label) {
     return fmt::format("<TR><TD COLSPAN=\"2\" ALIGN=\"LEFT\">{}</TD></TR>", label);
 }
 
+/// Whether what an edge leads to stands above.
+bool IsUpward(Kind kind) { return kind == Kind::Super || kind == Kind::Scope || kind == Kind::Reference; }
+
 /// Which box has to stand above which, so that super classes stand above their subclasses. Relationships are
 /// fitted in one by one: one that would lead in a circle is drawn from its target.
 class Levels {
 public:
     explicit Levels(const Diagram& diagram) : _BELOW(diagram.boxes.size()), _SEEN(diagram.boxes.size()) {
         for (const DiagramEdge& edge : diagram.edges) {
-            if (edge.kind == Kind::Super || edge.kind == Kind::Scope) Place(edge.to, edge.from);
+            if (IsUpward(edge.kind)) Place(edge.to, edge.from);
         }
         for (const DiagramEdge& edge : diagram.edges) {
-            if (edge.kind == Kind::Super || edge.kind == Kind::Scope) continue;
+            if (IsUpward(edge.kind)) continue;
             if (!IsAbove(edge.to, edge.from)) Place(edge.from, edge.to);
         }
     }
@@ -183,7 +192,7 @@ private:
         head += element.isAbstract ? fmt::format("<B><I>{}</I></B>", name) : fmt::format("<B>{}</B>", name);
         for (const int above : box.above) {
             const GraphClass& other = _Graph[above];
-            const std::string_view verb = above == element.superClass ? "is a" : "extends";
+            const std::string_view verb = AboveWord(element, above);
             const std::string otherName =
                 other.package == element.package ? other.name : other.QualifiedName();
             head += "<BR/>" + Faint(Label(fmt::format("{} {}", verb, otherName)));
@@ -211,6 +220,9 @@ private:
             case Kind::Scope:
                 WriteEdge(to, from, "dir=back arrowtail=empty style=dashed color=\"#96691c\"");
                 return;
+            case Kind::Reference:
+                WriteEdge(to, from, "dir=back arrowtail=vee style=dotted label=<" + Faint("reference") + ">");
+                return;
             case Kind::Relationship:
                 if (_Levels.IsAbove(edge.to, edge.from)) {
                     WriteEdge(to, from, "dir=back arrowtail=vee" + Roles(edge));
@@ -235,7 +247,7 @@ private:
     std::string Roles(const DiagramEdge& edge) const {
         std::string label;
         const auto addLine = [&label](const std::string& line) {
-            label += fmt::format("<TR><TD ALIGN=\"LEFT\">{}</TD></TR>", line);
+            label += fmt::format("&#160;{}<BR ALIGN=\"LEFT\"/>", line);
         };
         for (const DiagramRole& role : edge.roles) {
             addLine(fmt::format("{} {}", Label(role.attribute->name), Faint(role.attribute->values)));
@@ -245,9 +257,7 @@ private:
         }
         if (edge.folded > 0)
             addLine(fmt::format("<I>{}</I>", Faint(fmt::format("and {} more", edge.folded))));
-        return fmt::format(
-            " label=<<TABLE BORDER=\"0\" CELLBORDER=\"0\" CELLSPACING=\"0\" CELLPADDING=\"0\">{}</TABLE>>",
-            label);
+        return fmt::format(" label=<{}>", label);
     }
 
     std::string NameOf(int place) const {

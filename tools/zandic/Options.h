@@ -23,6 +23,12 @@ struct Options {
     std::optional<std::string> traceMethods;  ///< a file
     std::optional<std::string> to;            ///< the directory for files
     bool toOutput = false;                    ///< standard output takes them
+    std::optional<std::string> format;        ///< in which a picture is written
+    std::optional<std::string> around;        ///< the class in the middle of a picture
+    std::optional<int> depth;                 ///< how far from it
+    std::optional<int> maxBoxes;              ///< of a picture
+    std::optional<int> maxRows;               ///< of a box
+    bool check = false;                       ///< nothing is written
     bool json = false;
     bool quiet = false;
 
