@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "Documents.h"
 #include "Finding.h"
-#include "ZELVBTXMLNode.h"
 #include "zandic.hpp"
 
 namespace tool {
@@ -13,8 +13,9 @@ namespace tool {
 /// A well-formed document with a package tag, as the rules look at it. What it uses is loaded, as far as that
 /// could be. The rules do not report again what the reader reports.
 struct CheckedDocument {
-    const std::string& file;            ///< as it is named in findings
-    const ZELVBTXMLDocument& document;  ///< what is in it
+    const std::string& file;       ///< as it is named in findings
+    const DocumentPlaces& places;  ///< what is in it, and where
+    Documents& documents;          ///< where other elements stand, for notes
     const zandic::Dictionary& dictionary;
     /// What it became; null when the document has an error, and of a tuning document the package that it
     /// tunes. Without a package only the document can be looked at, and its faulty parts must not give
