@@ -26,6 +26,10 @@ constexpr OptionRow kExpressOptions[] = {
     {"--stdout", "", "write the schemas to standard output", &Options::toOutput},
 };
 
+constexpr OptionRow kWhyOptions[] = {
+    {"--in", "NAME ...", "packages to load beside: their extensions count too", &Options::in},
+    kJsonOption,
+};
 constexpr OptionRow kGraphOptions[] = {
     kInOption,
     {"--format", "svg|dot|mermaid", "what is written; svg unless given", &Options::format},
@@ -63,6 +67,15 @@ constexpr Command kCommands[] = {
      "that no other block holds. That is made for this answer, in the memory of this run only. Of a package, "
      "classes without blocks are only named.",
      RunBlocks},
+    {"why",
+     Group::Look,
+     "where an attribute comes from, file and line",
+     {"NAME", "PACKAGE::CLASS::ATTRIBUTE, own or inherited, or the UUID of an attribute", true},
+     kWhyOptions,
+     "Says where the attribute is declared and how it comes to the class, what it redefines and what that "
+     "changes, which attribute block it is in and why, what extends the class, and to which classes a "
+     "relationship applies: each with file, line and column.",
+     RunWhy},
     {"load", Group::Check, "load packages, and count what is in them", kPackages, kListOptions,
      "Writes one line for each package that got loaded, those that a NAME uses included: name, UUID, "
      "elements by kind, its own milliseconds. The last line is the total.",

@@ -87,6 +87,13 @@ bool Session::LoadAs(const std::string& name, Gravity gravity) {
     return false;
 }
 
+std::string Session::AskedFor(std::string_view package) const {
+    for (const std::string& asked : _Clock.Finished()) {
+        if (_Observer.NameIn(asked) == package) return asked.substr(0, asked.find('.'));
+    }
+    return std::string(package);
+}
+
 std::vector<Session::LoadTime> Session::LoadTimes() const {
     std::vector<LoadTime> times;
     for (const std::string& asked : _Clock.Finished()) {

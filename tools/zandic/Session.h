@@ -40,6 +40,9 @@ public:
         return _Dictionary.Package(_Observer.NameIn(asked));
     }
 
+    /// \returns the name, without a content word, under which a loaded package was looked for on the path.
+    std::string AskedFor(std::string_view package) const;
+
     /// One load that was tried: the package's name and the time that it took by itself.
     struct LoadTime {
         std::string package;
