@@ -11,6 +11,33 @@ constexpr Operands kAnything{"NAME", "PACKAGE, PACKAGE::ELEMENT, PACKAGE::ELEMEN
 constexpr Operands kClasses{
     "NAME", "PACKAGE or PACKAGE::CLASS, the package maybe with a content word; or the UUID of either"};
 
+constexpr OptionRow kTreeOptions[] = {
+    kInOption,
+    {"--attributes", "", "with the own attributes of each class", &Options::attributes},
+    {"--depth", "N", "how many levels below the first, from 0", &Options::depth},
+    kJsonOption,
+};
+constexpr OptionRow kFindOptions[] = {
+    kInOption,
+    {"--kind", "KIND", "only objects of this tag, as Class or Simple; Attribute is all three",
+     &Options::kind},
+    {"--type", "PATTERN", "only attributes and parameters of such a type", &Options::type},
+    {"--refers-to", "NAME", "only what refers to this object, with how it does", &Options::refersTo},
+    kJsonOption,
+};
+
+std::string_view WrongSearch(const Options& options) {
+    const bool isAnything = !options.names.empty() || options.kind || options.type || options.refersTo;
+    return isAnything ? "" : "PATTERN is missing";
+}
+
+constexpr OptionRow kLoadOptions[] = {kInOption, kNoTimesOption, kJsonOption};
+constexpr OptionRow kStatsOptions[] = {
+    kInOption,
+    {"--top", "N", "how many of each list, 10 unless told", &Options::top},
+    kNoTimesOption,
+    kJsonOption,
+};
 constexpr OptionRow kListOptions[] = {kInOption};
 constexpr OptionRow kDumpOptions[] = {
     kInOption,
@@ -55,6 +82,25 @@ std::string_view WrongPlaces(const Options& options) {
 }
 
 constexpr Command kCommands[] = {
+    {"tree", Group::Look, "the hierarchy of classes", kClasses, kTreeOptions,
+     "Of a class: what it is derived from, and all that is derived from it in the loaded packages. Of a "
+     "package: the hierarchies that begin in it. Of all packages: each hierarchy once, where it begins. "
+     "Names of other packages stand with them.",
+     RunTree},
+    {"find",
+     Group::Look,
+     "objects by name, UUID, kind, or by whom they refer to",
+     {"PATTERN",
+      "a name of any case, with *, ? and [a-z]; with '::' one with its owners; or at least four "
+      "digits that a UUID begins with",
+      false, true},
+     kFindOptions,
+     "Looks in the packages that --in names, else in every *.metadata of the path. One line for each object: "
+     "its name, its kind, and what there is to say of it. What refers to NAME: subclasses, attributes, "
+     "inverses, scopes, extensions, mappings, parameters, blocks, keys, and packages that use it.\n"
+     "The exit status is 1 when nothing was found.",
+     RunFind,
+     WrongSearch},
     {"show", Group::Look, "all about a package, an element or a member", kAnything, kListOptions,
      "A MEMBER is an attribute, a unique key, a block, an enumerator, a method or a root. The name may go "
      "on: "
@@ -76,7 +122,13 @@ constexpr Command kCommands[] = {
      "changes, which attribute block it is in and why, what extends the class, and to which classes a "
      "relationship applies: each with file, line and column.",
      RunWhy},
-    {"load", Group::Check, "load packages, and count what is in them", kPackages, kListOptions,
+    {"stats", Group::Look, "how many, how deep, how wide, and what a load takes", kPackages, kStatsOptions,
+     "Counts what is loaded, those packages that a NAME uses included. Deepest: the classes on the way from "
+     "a "
+     "root down, both included. Widest: own and inherited attributes. Referred to: by everything but "
+     "redefinitions, primitives left out. Memory is what a load leaves on the heap.",
+     RunStats},
+    {"load", Group::Check, "load packages, and count what is in them", kPackages, kLoadOptions,
      "Writes one line for each package that got loaded, those that a NAME uses included: name, UUID, "
      "elements by kind, its own milliseconds. The last line is the total.",
      RunLoad},

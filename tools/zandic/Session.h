@@ -43,14 +43,17 @@ public:
     /// \returns the name, without a content word, under which a loaded package was looked for on the path.
     std::string AskedFor(std::string_view package) const;
 
-    /// One load that was tried: the package's name and the time that it took by itself.
-    struct LoadTime {
+    /// One load that was tried: the package's name and what it took by itself.
+    struct LoadOf {
         std::string package;
-        LoadClock::Duration own;
+        LoadCost own;
     };
 
     /// \returns the loads, those first that ended first: a package after what it uses.
-    std::vector<LoadTime> LoadTimes() const;
+    std::vector<LoadOf> LoadCosts() const;
+
+    /// Lets the loads from now on be measured in memory, too.
+    void MeasureMemory() { _Clock.MeasureMemory(); }
 
     /// \returns the directories that are searched, separated by ":"; empty when there are none.
     const std::string& Path() const { return _Path; }
