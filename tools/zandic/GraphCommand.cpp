@@ -86,7 +86,12 @@ zandic::Handle<OXMIDicClass> LoadMiddle(Session& session, const Options& options
     return element;
 }
 
-/// The classes within some steps of one.
+/// Whether the middle of a picture is looked for by its plain name in what is loaded.
+bool IsPlain(const std::string& name) {
+    return name.find(kNameSeparator) == std::string::npos && !zandic::ParseUuid(name);
+}
+
+/// The classes within some steps of one; none around -1.
 DiagramSubjects SubjectsAround(const ClassGraph& graph, int middle, int depth) {
     std::vector<int> steps(static_cast<std::size_t>(graph.Size()), -1);
     std::queue<int> waiting;
@@ -96,7 +101,7 @@ DiagramSubjects SubjectsAround(const ClassGraph& graph, int middle, int depth) {
         known = step;
         waiting.push(index);
     };
-    reach(middle, 0);
+    if (middle >= 0) reach(middle, 0);
     while (!waiting.empty()) {
         const int index = waiting.front();
         waiting.pop();
@@ -152,26 +157,22 @@ void WritePicture(Session& session, const ClassGraph& graph, const Diagram& diag
 }  // namespace
 
 void RunGraph(Session& session, const Options& options, Output& output) {
-    // A plain name of the middle is looked for in what is loaded; any other loads its package.
-    const bool isPlain = options.around && options.around->find(kNameSeparator) == std::string::npos &&
-                         !zandic::ParseUuid(*options.around);
     const std::vector<AskedObject> objects = Targets(session, options).Objects();
-    const auto middle =
-        options.around && !isPlain ? LoadMiddle(session, options) : zandic::Handle<OXMIDicClass>();
-    if (options.around && !isPlain && !middle) return;
+    zandic::Handle<OXMIDicClass> middle;
+    if (options.around && !IsPlain(*options.around)) middle = LoadMiddle(session, options);
 
     const ClassGraph graph(session.Dictionary());
     DiagramSubjects subjects;
-    if (options.around) {
-        const int index = isPlain ? FindByPlainName(session, graph, *options.around) : graph.IndexOf(*middle);
-        if (index < 0) return;
-        subjects = SubjectsAround(graph, index, options.depth.value_or(kUsualDepth));
-    } else {
+    if (!options.around) {
         subjects = SubjectsOf(session, graph, objects, options.names.empty());
+    } else {
+        int index = middle ? graph.IndexOf(*middle) : -1;
+        if (IsPlain(*options.around)) index = FindByPlainName(session, graph, *options.around);
+        subjects = SubjectsAround(graph, index, options.depth.value_or(kUsualDepth));
     }
     if (subjects.classes.empty()) {
         if (session.IsClean()) session.Refuse("", "there is no class to draw");
-        return;
+        if (!options.json) return;
     }
     DiagramLimits limits;
     limits.boxes = options.maxBoxes.value_or(limits.boxes);

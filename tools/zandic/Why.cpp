@@ -272,10 +272,13 @@ private:
     void AddScopes(Why& why) {
         if (zandic::Kind(_Attribute) != OXMDicTYPE_Relationship) return;
         const auto relation = zandic::As<OXMIDicRelationship>(_Attribute);
+        const bool isExtension = zandic::Kind(_Owner) == OXMDicTYPE_Extension;
         why.scopeWord = WordOf(*relation, &OXMIDicRelationship::GetScope, format::kScopeWords);
         for (OXMIDicElement& scope :
              zandic::All<OXMIDicElement>(*relation, &OXMIDicRelationship::GetScopes)) {
-            why.scopes.push_back({_Sources.PlaceOf(scope), IsBelow(scope)});
+            WhyScope& row = why.scopes.emplace_back();
+            row.of = _Sources.PlaceOf(scope);
+            if (!isExtension) row.covers = IsBelow(scope);
         }
     }
 

@@ -1,6 +1,7 @@
 #ifndef ZANDIC_TOOL_WHY_H
 #define ZANDIC_TOOL_WHY_H
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -59,7 +60,9 @@ struct WhyExtension {
 /// A class to which a relationship applies.
 struct WhyScope {
     WhyPlace of;
-    bool covers;  ///< the class that was asked for, or one above it
+    /// Whether it is the class that was asked for or one above it; none where that is an extension, whose
+    /// objects are those of other classes.
+    std::optional<bool> covers;
 };
 
 /// Why an attribute is in a class as it is.

@@ -100,7 +100,11 @@ void ShowScopes(const Why& why, Sheet& sheet) {
     sheet.Section(fmt::format("Classes to which it applies ({})", why.scopes.size()));
     Rows rows;
     for (const WhyScope& each : why.scopes) {
-        rows.push_back({each.of.name, each.covers ? "covers this class" : "does not cover this class",
+        const bool covers = each.covers.value_or(false);
+        rows.push_back({each.of.name,
+                        !each.covers ? ""
+                        : covers     ? "covers this class"
+                                     : "does not cover this class",
                         PlaceText(each.of.at)});
     }
     sheet.Rows(rows);
@@ -109,7 +113,7 @@ void ShowScopes(const Why& why, Sheet& sheet) {
 void Show(const Why& why, Sheet& sheet) {
     sheet.Title(why.tag, why.attribute.name);
     sheet.Field("Asked of", why.owner.name);
-    sheet.Field("Stored", why.scopeWord);
+    sheet.Field("Scope", why.scopeWord);
     ShowOrigin(why, sheet);
     ShowRedefined(why, sheet);
     ShowBlock(why, sheet);
@@ -191,11 +195,12 @@ void Write(const Why& why, JsonWriter& json) {
         WriteText("extends", each.of, json);
     });
     WriteAll("extends", why.extends, json, [&](const WhyPlace& each) { WritePlace(each, json); });
-    if (!why.scopeWord.empty()) WriteText("stored", why.scopeWord, json);
+    if (!why.scopeWord.empty()) WriteText("scope", why.scopeWord, json);
     WriteAll("scopes", why.scopes, json, [&](const WhyScope& each) {
         WritePlace(each.of, json);
+        if (!each.covers) return;
         json.Key("covers");
-        json.Flag(each.covers);
+        json.Flag(*each.covers);
     });
     json.EndObject();
 }
@@ -245,9 +250,12 @@ void RunWhy(Session& session, const Options& options, Output& output) {
     const std::vector<Why> answers = FindAnswers(session, Targets(session, options).Objects());
     if (options.json) {
         JsonWriter json(output);
+        json.BeginObject();
+        json.Key("answers");
         json.BeginArray();
         for (const Why& each : answers) Write(each, json);
         json.EndArray();
+        json.EndObject();
         return json.End();
     }
     Sheet sheet(output);
