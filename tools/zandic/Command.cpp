@@ -38,7 +38,7 @@ constexpr OptionRow kStatsOptions[] = {
     kNoTimesOption,
     kJsonOption,
 };
-constexpr OptionRow kListOptions[] = {kInOption};
+constexpr OptionRow kListOptions[] = {kInOption, kJsonOption};
 constexpr OptionRow kDumpOptions[] = {
     kInOption,
     {"--json", "", "the only form there is, and needed", &Options::json, true},
@@ -46,11 +46,13 @@ constexpr OptionRow kDumpOptions[] = {
 constexpr OptionRow kSaveOptions[] = {
     kInOption,
     {"--to", "DIR", "the directory for the documents", &Options::to, true},
+    kJsonOption,
 };
 constexpr OptionRow kExpressOptions[] = {
     kInOption,
     {"--to", "DIR", "the directory for the schemas, else the present one", &Options::to},
     {"--stdout", "", "write the schemas to standard output", &Options::toOutput},
+    kJsonOption,
 };
 
 constexpr OptionRow kWhyOptions[] = {
@@ -78,7 +80,8 @@ std::string_view WrongPicture(const Options& options) {
 }
 
 std::string_view WrongPlaces(const Options& options) {
-    return options.to && options.toOutput ? "--to and --stdout exclude each other" : "";
+    if (options.to && options.toOutput) return "--to and --stdout exclude each other";
+    return options.json && options.toOutput ? "--json and --stdout exclude each other" : "";
 }
 
 constexpr Command kCommands[] = {
