@@ -1,7 +1,10 @@
 #include <fmt/format.h>
 
+#include <functional>
+#include <queue>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -24,11 +27,12 @@ constexpr BoxStyle kInstanceStyle{"#d9efdc", "#3f7a4b", "instance"};
 constexpr BoxStyle kExtensionStyle{"#fbe8c8", "#96691c", "extension"};
 constexpr BoxStyle kContextStyle{"#eef0f2", "#8a939c", ""};
 
+constexpr int kMostInARow = 5;
 constexpr std::string_view kFaint = "#5f6b76";
 constexpr std::string_view kHead =
     "digraph classes {\n"
     "  graph [fontname=\"Helvetica,Arial,sans-serif\" fontsize=11 fontcolor=\"#33414e\" bgcolor=white\n"
-    "         pad=0.25 nodesep=0.4 ranksep=0.55 rankdir=TB newrank=true]\n"
+    "         pad=0.25 nodesep=0.3 ranksep=0.55 rankdir=TB newrank=true]\n"
     "  node [shape=plain fontname=\"Helvetica,Arial,sans-serif\" fontsize=10 fontcolor=\"#1d2730\"]\n"
     "  edge [fontname=\"Helvetica,Arial,sans-serif\" fontsize=9 fontcolor=\"#33414e\" color=\"#5f6b76\"\n"
     "        arrowsize=0.8]\n";
@@ -92,51 +96,83 @@ std::string WideRow(std::string_view label) {
 /// Whether what an edge leads to stands above.
 bool IsUpward(Kind kind) { return kind == Kind::Super || kind == Kind::Scope || kind == Kind::Reference; }
 
-/// Which box has to stand above which, so that super classes stand above their subclasses. Relationships are
-/// fitted in one by one: one that would lead in a circle is drawn from its target.
+/// Which of two boxes stands above the other: a super class above its subclasses, and as far as that goes
+/// what refers above what it refers to. The boxes are put into an order one by one: among those whose super
+/// classes have a place already the one to which fewest relationships lead from boxes without a place.
 class Levels {
 public:
-    explicit Levels(const Diagram& diagram) : _BELOW(diagram.boxes.size()), _SEEN(diagram.boxes.size()) {
+    explicit Levels(const Diagram& diagram) : _BOXES(diagram.boxes.size()) {
         for (const DiagramEdge& edge : diagram.edges) {
-            if (IsUpward(edge.kind)) Place(edge.to, edge.from);
+            if (edge.from == edge.to) continue;
+            const bool isUpward = IsUpward(edge.kind);
+            At(isUpward ? edge.to : edge.from).below.push_back({isUpward ? edge.from : edge.to, isUpward});
+            (isUpward ? At(edge.from).supers : At(edge.to).users) += 1;
         }
-        for (const DiagramEdge& edge : diagram.edges) {
-            if (IsUpward(edge.kind)) continue;
-            if (!IsAbove(edge.to, edge.from)) Place(edge.from, edge.to);
-        }
+        for (int place = 0; place < static_cast<int>(_BOXES.size()); ++place) Offer(place);
+        while (!_WAITING.empty()) PlaceNext();
     }
 
-    /// \returns whether \p upper has to stand above \p lower.
-    bool IsAbove(int upper, int lower) {
-        if (upper == lower) return false;
-        ++_Walk;
-        std::vector<int> waiting{upper};
-        while (!waiting.empty()) {
-            const int next = waiting.back();
-            waiting.pop_back();
-            for (const int below : _BELOW[static_cast<std::size_t>(next)]) {
-                if (below == lower) return true;
-                if (std::exchange(_SEEN[static_cast<std::size_t>(below)], _Walk) != _Walk)
-                    waiting.push_back(below);
-            }
-        }
-        return false;
+    bool IsAbove(int upper, int lower) const {
+        return _BOXES[static_cast<std::size_t>(upper)].order < _BOXES[static_cast<std::size_t>(lower)].order;
     }
 
 private:
-    void Place(int upper, int lower) {
-        if (upper != lower) _BELOW[static_cast<std::size_t>(upper)].push_back(lower);
+    static constexpr int kNone = -1;
+
+    struct Link {
+        int below;
+        bool isUpward;
+    };
+
+    struct Box {
+        std::vector<Link> below;
+        int supers = 0;  ///< that have no place yet
+        int users = 0;   ///< that have no place yet
+        int order = kNone;
+    };
+
+    /// Users, what is below with its sign turned, and the place: fewest users first, of these most below.
+    using Waiting = std::tuple<int, int, int>;
+
+    Box& At(int place) { return _BOXES[static_cast<std::size_t>(place)]; }
+
+    void Offer(int place) {
+        const Box& box = At(place);
+        if (box.supers == 0 && box.order == kNone)
+            _WAITING.push({box.users, -static_cast<int>(box.below.size()), place});
     }
 
-    std::vector<std::vector<int>> _BELOW;
-    std::vector<int> _SEEN;  ///< the last walk that came by
-    int _Walk = 0;
+    void PlaceNext() {
+        const int users = std::get<0>(_WAITING.top());
+        const int place = std::get<2>(_WAITING.top());
+        _WAITING.pop();
+        Box& box = At(place);
+        if (box.order != kNone || users != box.users) return;  // a better entry is there
+        box.order = _Placed++;
+        for (const Link& link : box.below) {
+            Box& other = At(link.below);
+            (link.isUpward ? other.supers : other.users) -= 1;
+            Offer(link.below);
+        }
+    }
+
+    std::vector<Box> _BOXES;
+    std::priority_queue<Waiting, std::vector<Waiting>, std::greater<>> _WAITING;
+    int _Placed = 0;
 };
 
 class DotText {
 public:
     DotText(const ClassGraph& graph, const Diagram& diagram, Output& output)
-        : _Graph(graph), _Diagram(diagram), _Output(output), _Levels(diagram) {}
+        : _Graph(graph),
+          _Diagram(diagram),
+          _Output(output),
+          _Levels(diagram),
+          _SUBCLASSES(diagram.boxes.size()) {
+        for (const DiagramEdge& edge : diagram.edges) {
+            if (edge.kind == Kind::Super) ++_SUBCLASSES[static_cast<std::size_t>(edge.to)].count;
+        }
+    }
 
     void Write(std::string_view caption) {
         _Output.Write(kHead);
@@ -152,6 +188,12 @@ public:
     }
 
 private:
+    /// The subclasses of a box.
+    struct Subclasses {
+        int count = 0;
+        int written = 0;
+    };
+
     void WriteCluster(const std::string& package, std::size_t first, std::size_t end) {
         _Output.Write(fmt::format(
             "  subgraph {} {{\n"
@@ -215,7 +257,7 @@ private:
         const std::string to = NameOf(edge.to);
         switch (edge.kind) {
             case Kind::Super:
-                WriteEdge(to, from, "dir=back arrowtail=empty weight=4 color=\"#3d5a80\"");
+                WriteEdge(to, from, "dir=back arrowtail=empty weight=4" + RowOf(edge) + " color=\"#3d5a80\"");
                 return;
             case Kind::Scope:
                 WriteEdge(to, from, "dir=back arrowtail=empty style=dashed color=\"#96691c\"");
@@ -238,6 +280,14 @@ private:
                 }
                 return;
         }
+    }
+
+    /// \returns how far below its super class a subclass stands: many of one class share several rows.
+    std::string RowOf(const DiagramEdge& edge) {
+        Subclasses& all = _SUBCLASSES[static_cast<std::size_t>(edge.to)];
+        const int rows = (all.count + kMostInARow - 1) / kMostInARow;
+        const int row = all.written++ % rows;
+        return row == 0 ? "" : fmt::format(" minlen={}", row + 1);
     }
 
     void WriteEdge(const std::string& upper, const std::string& lower, const std::string& attributes) {
@@ -268,6 +318,7 @@ private:
     const Diagram& _Diagram;
     Output& _Output;
     Levels _Levels;
+    std::vector<Subclasses> _SUBCLASSES;  ///< by box
 };
 
 }  // namespace
