@@ -59,6 +59,7 @@ void RunExpress(Session& session, const Options& options, Output& output);
 void RunWhy(Session& session, const Options& options, Output& output);
 void RunGraph(Session& session, const Options& options, Output& output);
 void RunFmt(Session& session, const Options& options, Output& output);
+void RunCompletion(Session& session, const Options& options, Output& output);
 void RunHelp(Session& session, const Options& options, Output& output);
 
 }  // namespace tool
