@@ -56,6 +56,9 @@ void RunBlocks(Session& session, const Options& options, Output& output);
 void RunDump(Session& session, const Options& options, Output& output);
 void RunSave(Session& session, const Options& options, Output& output);
 void RunExpress(Session& session, const Options& options, Output& output);
+void RunWhy(Session& session, const Options& options, Output& output);
+void RunGraph(Session& session, const Options& options, Output& output);
+void RunFmt(Session& session, const Options& options, Output& output);
 void RunCompletion(Session& session, const Options& options, Output& output);
 void RunHelp(Session& session, const Options& options, Output& output);
 
