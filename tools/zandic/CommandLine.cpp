@@ -1,10 +1,10 @@
 #include "CommandLine.h"
 
 #include <fmt/format.h>
+#include <getopt.h>
 
 #include <algorithm>
 #include <charconv>
-#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -21,8 +21,6 @@
 namespace tool {
 namespace {
 
-constexpr std::string_view kEndOfOptions = "--";
-
 /// The rows of \p command and the common ones. \p command may be null.
 template <class Visit>
 void ForEachRow(const Command* command, Visit&& visit) {
@@ -31,36 +29,93 @@ void ForEachRow(const Command* command, Visit&& visit) {
     for (const OptionRow& row : command->options) visit(row);
 }
 
-/// \returns the row of an option as it stands on the command line, whichever command has it; null when none
-/// has.
-const OptionRow* FindRow(std::string_view argument) {
-    const std::string_view name = argument.substr(0, argument.find('='));
-    const OptionRow* found = nullptr;
-    const auto look = [&](const OptionRow& row) { found = row.name == name ? &row : found; };
-    ForEachRow(nullptr, look);
-    for (const Command& command : Commands()) ForEachRow(&command, look);
-    return found;
-}
-
 /// Whether an argument is an option, though it stands where a value may stand. A number below zero is none.
 bool IsOption(std::string_view argument) { return argument.starts_with("--") || argument == kHelpLetter; }
 
-/// \returns the first argument that is neither an option nor the value of one: the command.
-std::string_view CommandWord(std::span<const std::string> arguments) {
-    for (std::size_t index = 0; index < arguments.size(); ++index) {
-        const std::string_view argument = arguments[index];
-        if (argument == kEndOfOptions) continue;
-        if (!argument.starts_with('-')) return argument;
-        const OptionRow* const row = FindRow(argument);
-        if (row == nullptr || row->value.empty() || argument.find('=') != argument.npos) continue;
-        ++index;
-        if (!TakesSeveral(*row)) continue;
-        while (index + 1 < arguments.size() && !arguments[index + 1].starts_with('-') &&
-               FindCommand(arguments[index + 1]) == nullptr) {
-            ++index;
+/// One thing that the command line says.
+struct Word {
+    enum class Kind {
+        Operand,
+        LastOperand,  ///< behind "--": whatever it looks like
+        Option,
+        Help,
+        Version,
+        UnknownOption,
+        NoValue,        ///< an option that needs a value has none
+        NeedlessValue,  ///< one that takes none has one
+    };
+    Kind kind;
+    std::string text;              ///< an operand, a value, or an unknown option as it stands there
+    std::string_view option = {};  ///< the name
+};
+
+/// The names of all options of all commands for the C library. One that several commands have takes a value
+/// for all of them or for none, so the words can be told apart before the command is known.
+class OptionTable {
+public:
+    static constexpr int kFirstCode = 256;  ///< above every letter
+    static constexpr int kHelp = 'h';
+
+    OptionTable() {
+        Add(kHelpOption, false, kHelp);
+        Add(kVersionOption, false);
+        const auto add = [this](const OptionRow& row) { Add(row.name, !row.value.empty()); };
+        ForEachRow(nullptr, add);
+        for (const Command& command : Commands()) {
+            for (const OptionRow& row : command.options) add(row);
+        }
+        _ROWS.push_back({});
+    }
+
+    const option* Rows() const { return _ROWS.data(); }
+    bool IsOption(int code) const { return code >= kFirstCode; }
+    std::string_view NameOf(int code) const { return _NAMES[static_cast<std::size_t>(code - kFirstCode)]; }
+
+private:
+    /// \param name ends in a zero, as all literals do.
+    void Add(std::string_view name, bool takesValue, int code = 0) {
+        if (std::find(_NAMES.begin(), _NAMES.end(), name) != _NAMES.end()) return;
+        if (code == 0) code = kFirstCode + static_cast<int>(_NAMES.size());
+        _NAMES.push_back(name);
+        _ROWS.push_back({name.data() + 2, takesValue ? required_argument : no_argument, nullptr, code});
+    }
+
+    std::vector<option> _ROWS;
+    std::vector<std::string_view> _NAMES;
+};
+
+/// Splits the command line into its words.
+std::vector<Word> Split(int argc, char** argv) {
+    using Kind = Word::Kind;
+    const OptionTable table;
+    std::vector<Word> words;
+    opterr = 0;
+    optind = 0;
+    for (;;) {
+        const int at = std::max(optind, 1);
+        // Operands in their order, and a missing value told from an unknown option.
+        const int code = getopt_long(argc, argv, "-:h", table.Rows(), nullptr);
+        if (code == -1) break;
+        if (code == 1) {
+            words.push_back({Kind::Operand, optarg});
+        } else if (code == OptionTable::kHelp) {
+            words.push_back({Kind::Help, ""});
+        } else if (code == ':') {
+            words.push_back({Kind::NoValue, "", table.NameOf(optopt)});
+        } else if (code == '?' && table.IsOption(optopt)) {
+            words.push_back({Kind::NeedlessValue, "", table.NameOf(optopt)});
+        } else if (code == '?') {
+            words.push_back({Kind::UnknownOption, argv[at]});
+        } else if (const std::string_view name = table.NameOf(code); name == kVersionOption) {
+            words.push_back({Kind::Version, ""});
+        } else if (optarg != nullptr && optarg == argv[optind - 1] && IsOption(optarg)) {
+            words.push_back({Kind::NoValue, "", name});  // the C library would take any argument for one
+        } else {
+            words.push_back({Kind::Option, optarg != nullptr ? optarg : "", name});
         }
     }
-    return {};
+    for (; optind < argc; ++optind) words.push_back({Kind::LastOperand, argv[optind]});
+    return words;
 }
 
 std::string WrongValue(const OptionRow& row, const std::string& value) {
@@ -95,40 +150,72 @@ std::string SetText(const OptionRow& row, const std::string& value, std::optiona
     return "";
 }
 
-/// Reads one command line, which is that of a known command or of none.
+/// Reads the words of a command line.
 class Reader {
 public:
-    Reader(const Command* command, std::span<const std::string> arguments)
-        : _Command(command), _Arguments(arguments) {}
+    explicit Reader(std::vector<Word> words) : _Words(std::move(words)) { FindOperands(); }
 
-    /// \returns what does not fit, said so that its author finds it there; empty when all does.
-    std::string Read();
+    /// \returns the word that stands for the command; empty when there is none.
+    const std::string& CommandWord() const { return _CommandWord; }
+
+    /// \param command the one of that word; null for none. \returns what does not fit, said so that its
+    /// author finds it there; empty when all does.
+    std::string Read(const Command* command);
 
     bool WantsHelp() const { return _WantsHelp; }
     bool WantsVersion() const { return _WantsVersion; }
     const Options& Result() const { return _Options; }
 
 private:
-    std::string ReadOption(std::string_view argument);
-    std::string ReadValue(const OptionRow& row, std::optional<std::string> given);
-    std::string Set(const OptionRow& row, const std::string& value);
+    void FindOperands();
+    std::string ReadWord(const Word& word);
+    std::string Set(std::string_view option, const std::string& value);
     const OptionRow* Find(std::string_view name) const;
     std::string Unknown(std::string_view argument) const;
 
-    /// \returns whether the next argument is a value of a list that has one already.
-    bool GoesOn() const {
-        return _Next < _Arguments.size() && !_Arguments[_Next].starts_with('-') &&
-               (_HasCommand || FindCommand(_Arguments[_Next]) != _Command);
-    }
-
-    const Command* _Command;
-    std::span<const std::string> _Arguments;
-    std::size_t _Next = 0;  ///< index of the argument that is read next
-    bool _HasCommand = false;
+    const Command* _Command = nullptr;
+    std::vector<Word> _Words;
+    std::string _CommandWord;
     bool _WantsHelp = false;
     bool _WantsVersion = false;
     Options _Options;
 };
+
+/// \returns a row of that name, whichever command has it: whether it takes one value or several is the same
+/// for all.
+const OptionRow* AnyRow(std::string_view name) {
+    const OptionRow* found = nullptr;
+    const auto look = [&](const OptionRow& row) { found = row.name == name ? &row : found; };
+    ForEachRow(nullptr, look);
+    for (const Command& command : Commands()) ForEachRow(&command, look);
+    return found;
+}
+
+/// Tells the command's word, the values of an option that takes several, and the other operands from each
+/// other.
+void Reader::FindOperands() {
+    std::string_view list;  // the option whose values may go on
+    std::vector<Word> words;
+    for (Word& word : _Words) {
+        if (word.kind == Word::Kind::Option) {
+            const OptionRow* const row = AnyRow(word.option);
+            list = row != nullptr && TakesSeveral(*row) ? word.option : std::string_view();
+        } else if (word.kind != Word::Kind::Operand) {
+            list = {};
+        }
+        const bool isOperand = word.kind == Word::Kind::Operand || word.kind == Word::Kind::LastOperand;
+        const bool mayBeCommand = isOperand && _CommandWord.empty();
+        if (!list.empty() && isOperand && !(mayBeCommand && FindCommand(word.text) != nullptr)) {
+            words.push_back({Word::Kind::Option, std::move(word.text), list});
+        } else if (mayBeCommand) {
+            _CommandWord = std::move(word.text);
+            list = {};
+        } else {
+            words.push_back(std::move(word));
+        }
+    }
+    _Words = std::move(words);
+}
 
 const OptionRow* Reader::Find(std::string_view name) const {
     const OptionRow* found = nullptr;
@@ -145,60 +232,51 @@ std::string Reader::Unknown(std::string_view argument) const {
 }
 
 /// Sets the field of an option. \returns what is wrong with its value; empty when nothing is.
-std::string Reader::Set(const OptionRow& row, const std::string& value) {
-    if (const auto* const flag = std::get_if<bool Options::*>(&row.target)) {
+std::string Reader::Set(std::string_view option, const std::string& value) {
+    const OptionRow* const row = Find(option);
+    if (row == nullptr) return Unknown(option);
+    if (const auto* const flag = std::get_if<bool Options::*>(&row->target)) {
         _Options.*(*flag) = true;
         return "";
     }
-    if (const auto* const number = std::get_if<std::optional<int> Options::*>(&row.target)) {
-        return SetNumber(row, value, _Options.*(*number));
+    if (const auto* const number = std::get_if<std::optional<int> Options::*>(&row->target)) {
+        return SetNumber(*row, value, _Options.*(*number));
     }
-    if (const auto* const text = std::get_if<std::optional<std::string> Options::*>(&row.target)) {
-        return SetText(row, value, _Options.*(*text));
+    if (const auto* const text = std::get_if<std::optional<std::string> Options::*>(&row->target)) {
+        return SetText(*row, value, _Options.*(*text));
     }
-    (_Options.*std::get<std::vector<std::string> Options::*>(row.target)).push_back(value);
+    (_Options.*std::get<std::vector<std::string> Options::*>(row->target)).push_back(value);
     return "";
 }
 
-std::string Reader::ReadValue(const OptionRow& row, std::optional<std::string> given) {
-    if (!given && _Next < _Arguments.size() && !IsOption(_Arguments[_Next])) given = _Arguments[_Next++];
-    if (!given) return fmt::format("{} needs a value", row.name);
-    std::string fault = Set(row, *given);
-    while (fault.empty() && TakesSeveral(row) && GoesOn()) fault = Set(row, _Arguments[_Next++]);
-    return fault;
+std::string Reader::ReadWord(const Word& word) {
+    switch (word.kind) {
+        case Word::Kind::Operand:
+        case Word::Kind::LastOperand:
+            _Options.names.push_back(word.text);
+            return "";
+        case Word::Kind::Option:
+            return Set(word.option, word.text);
+        case Word::Kind::Help:
+            _WantsHelp = true;
+            return "";
+        case Word::Kind::Version:
+            _WantsVersion = true;
+            return "";
+        case Word::Kind::UnknownOption:
+            return Unknown(word.text);
+        case Word::Kind::NoValue:
+            return fmt::format("{} needs a value", word.option);
+        case Word::Kind::NeedlessValue:
+            return fmt::format("{} takes no value", word.option);
+    }
+    return "";
 }
 
-std::string Reader::ReadOption(std::string_view argument) {
-    if (argument == kHelpLetter || argument == kHelpOption) {
-        _WantsHelp = true;
-        return "";
-    }
-    if (argument == kVersionOption) {
-        _WantsVersion = true;
-        return "";
-    }
-    const std::size_t end = argument.find('=');
-    const OptionRow* const row = Find(argument.substr(0, end));
-    if (row == nullptr) return Unknown(argument);
-    std::optional<std::string> value;
-    if (end != argument.npos) value = argument.substr(end + 1);
-    if (!row->value.empty()) return ReadValue(*row, std::move(value));
-    return value ? fmt::format("{} takes no value", row->name) : Set(*row, "");
-}
-
-std::string Reader::Read() {
-    bool isOver = false;  // no option follows
-    while (_Next < _Arguments.size()) {
-        const std::string& argument = _Arguments[_Next++];
-        if (!isOver && argument == kEndOfOptions) {
-            isOver = true;
-        } else if (!isOver && argument.size() > 1 && argument.starts_with('-')) {
-            if (std::string fault = ReadOption(argument); !fault.empty()) return fault;
-        } else if (!_HasCommand) {
-            _HasCommand = true;
-        } else {
-            _Options.names.push_back(argument);
-        }
+std::string Reader::Read(const Command* command) {
+    _Command = command;
+    for (const Word& word : _Words) {
+        if (std::string fault = ReadWord(word); !fault.empty()) return fault;
     }
     return "";
 }
@@ -264,8 +342,8 @@ ExitStatus Print(const std::string& text) {
 }  // namespace
 
 std::variant<Invocation, ExitStatus> ReadCommandLine(int argc, char** argv) {
-    const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
-    const std::string_view word = CommandWord(arguments);
+    Reader reader(Split(argc, argv));
+    const std::string& word = reader.CommandWord();
     const Command* const command = FindCommand(word);
     if (command == nullptr && !word.empty()) {
         Nearest nearest(word);
@@ -273,8 +351,7 @@ std::variant<Invocation, ExitStatus> ReadCommandLine(int argc, char** argv) {
         return RejectUse(fmt::format("there is no command '{}'{}", word, nearest.Question()), nullptr);
     }
 
-    Reader reader(command, arguments);
-    if (const std::string fault = reader.Read(); !fault.empty()) return RejectUse(fault, command);
+    if (const std::string fault = reader.Read(command); !fault.empty()) return RejectUse(fault, command);
     if (reader.WantsVersion()) return Print("zandic " ZANDIC_VERSION "\n");
     if (reader.WantsHelp()) return Print(command != nullptr ? HelpOnCommand(*command) : HelpOnTool());
     if (command == nullptr) return RejectUse("a command is missing", nullptr);
