@@ -76,7 +76,7 @@ int ReadAll(int descriptor, std::size_t expected, Room& room, std::size_t& lengt
     for (;;) {
         if (length == room.size && !room.Resize(room.size * 2)) return ENOMEM;
         const std::size_t step = std::min(room.size - length, kReadStep);
-        ZELTakePages(room.bytes + length, step);
+        if (step == kReadStep) ZELTakePages(room.bytes + length, step);
         const ssize_t count = read(descriptor, room.bytes + length, step);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return LastError();
