@@ -6,7 +6,8 @@
 
 #include "HexToBinary.h"
 #include "Model.h"
-#include "OXMIDicAttribute.h"
+#include "OXMIDicAttributeBlock.h"
+#include "OXMIDicClass.h"
 #include "ZANDicTags.h"
 
 namespace tool {
@@ -19,6 +20,19 @@ auto OrderOf(const ZanDicPlace& place) { return std::tie(place.line, place.colum
 
 /// The name of the package in an item of `UseNames`, which may have a content word behind it.
 std::string_view BeforeDot(std::string_view item) { return item.substr(0, item.find('.')); }
+
+/// The package of an element, a member or an attribute block; empty for what does not know it.
+std::string PackageOf(OXMIDicElementH& object) {
+    zandic::Handle<OXMIDicElement> element = zandic::As<OXMIDicElement>(object);
+    if (zandic::Kind(object) == OXMDicTYPE_AttributeBlock) {
+        const auto block = zandic::As<OXMIDicAttributeBlock>(object);
+        if (block)
+            element = zandic::As<OXMIDicElement>(zandic::Link(*block, &OXMIDicAttributeBlock::GetClass));
+    }
+    if (!element) return "";
+    const auto name = zandic::Get(*element, &OXMIDicElement::GetPackageName);
+    return name ? std::string(name->View()) : "";
+}
 
 std::string_view CodeOf(ZanDicDiagnosticCode code) { return ZanDicDiagnosticName(code); }
 
@@ -134,8 +148,9 @@ bool RuleDocument::IsLeftOut(const ZELVBTXMLNode& node) const {
 
 // What references mean.
 
-Party RuleDocument::Find(std::string_view uuidText) {
-    const ZELDbBinary uuid = UuidFromText(uuidText);
+Party RuleDocument::Find(std::string_view uuidText) { return Find(UuidFromText(uuidText)); }
+
+Party RuleDocument::Find(const ZELDbBinary& uuid) {
     if (const ZELVBTXMLNode node = _Checked.places.Find(uuid)) return {uuid, node, {}, nullptr, nullptr};
     const auto known = _ELSEWHERE.find(uuid);
     if (known != _ELSEWHERE.end()) return known->second;
@@ -145,13 +160,7 @@ Party RuleDocument::Find(std::string_view uuidText) {
 Party RuleDocument::find_Elsewhere(const ZELDbBinary& uuid) {
     Party party{uuid, {}, _Checked.dictionary.Search(uuid), nullptr, nullptr};
     if (party.object) {
-        std::string package;
-        if (const auto element = zandic::As<OXMIDicElement>(party.object)) {
-            if (const auto name = zandic::Get(*element, &OXMIDicElement::GetPackageName)) {
-                package = name->View();
-            }
-        }
-        party.package = &*_PACKAGES.insert(std::move(package)).first;
+        party.package = &*_PACKAGES.insert(PackageOf(*party.object)).first;
         return party;
     }
     for (const auto& [package, places] : _UNLOADED) {

@@ -18,10 +18,10 @@ namespace tool {
 /// What a reference points at. Cheap to copy.
 struct Party {
     ZELDbBinary uuid;
-    ZELVBTXMLNode node;                           ///< its tag, in this document or in one that did not load
-    zandic::Handle<OXMIDicElementH> object;       ///< of a loaded package; null when there is a node
-    const std::string* package = nullptr;         ///< of another document; null for this one's
-    const DocumentPlaces* places = nullptr;       ///< of the node when it is of another document
+    ZELVBTXMLNode node;                      ///< its tag, in this document or in one that did not load
+    zandic::Handle<OXMIDicElementH> object;  ///< of a loaded package; null when there is a node
+    const std::string* package = nullptr;    ///< of another document; null for this one's
+    const DocumentPlaces* places = nullptr;  ///< of the node when it is of another document
 
     /// Whether anything was found.
     explicit operator bool() const { return node || object; }
@@ -66,6 +66,7 @@ public:
 
     /// \returns what the UUID means: an element of this document, of a loaded package, or of the document
     /// of a package that this one names and that did not load.
+    Party Find(const ZELDbBinary& uuid);
     Party Find(std::string_view uuidText);
 
     std::string NameOf(const Party& party) const;
@@ -114,8 +115,8 @@ private:
     std::string _PackageName;
     std::vector<std::uint32_t> _OWNERS;  ///< by element
     std::vector<Told> _TOLD;
-    std::set<std::string, std::less<>> _PACKAGES;                    ///< names that parties point to
-    std::unordered_map<ZELDbBinary, Party, UuidHash> _ELSEWHERE;     ///< what was found outside
+    std::set<std::string, std::less<>> _PACKAGES;                 ///< names that parties point to
+    std::unordered_map<ZELDbBinary, Party, UuidHash> _ELSEWHERE;  ///< what was found outside
     std::vector<std::pair<const std::string*, const DocumentPlaces*>> _UNLOADED;
 };
 

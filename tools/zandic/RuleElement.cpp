@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace tool {
 namespace {
@@ -80,9 +81,15 @@ TagWords::TagWords(const TagRow& row, bool isTuning)
     _WORDS.reserve(row.attributes.size());
     for (const AttributeRow& attribute : row.attributes) {
         const bool isUnread = IsUnread(row.tag, attribute.name);
-        _WORDS.push_back({&attribute, isUnread ? Slot::None : SlotOf(attribute.name), isUnread,
-                          static_cast<std::uint8_t>(_WORDS.size())});
-        std::uint8_t place = PlaceOf(attribute.name);
+        Word word{&attribute, KnownText(attribute.name),
+                  {},         isUnread ? Slot::None : SlotOf(attribute.name),
+                  isUnread,   static_cast<std::uint8_t>(_WORDS.size())};
+        for (const CodeWord& each : attribute.words) word.values.emplace_back(each.word);
+        if (attribute.form == AttributeForm::Flag) {
+            for (const std::string_view each : {value::kYes, value::kNo}) word.values.emplace_back(each);
+        }
+        _WORDS.push_back(std::move(word));
+        std::uint8_t place = PlaceOf(_WORDS.back().name.head);
         while (_PLACES[place] != 0) place = Next(place);
         _PLACES[place] = static_cast<std::uint8_t>(_WORDS.size());
     }

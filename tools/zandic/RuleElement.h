@@ -2,9 +2,12 @@
 #ifndef ZANDIC_TOOL_RULE_ELEMENT_H
 #define ZANDIC_TOOL_RULE_ELEMENT_H
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <vector>
 
@@ -79,6 +82,53 @@ struct RuleElement {
     }
 };
 
+/// The first 16 bytes of a text as two numbers, with zeros behind its end: compared in two steps.
+struct TextHead {
+    std::uint64_t first = 0;
+    std::uint64_t second = 0;
+
+    /// \param text at least 16 bytes can be read from its beginning, as of any text of a document.
+    static TextHead OfDocument(std::string_view text) {
+        TextHead head;
+        std::memcpy(&head.first, text.data(), sizeof head.first);
+        std::memcpy(&head.second, text.data() + sizeof head.first, sizeof head.second);
+        head.first &= MaskOf(std::min<std::size_t>(text.size(), 8));
+        head.second &= MaskOf(text.size() > 8 ? std::min<std::size_t>(text.size() - 8, 8) : 0);
+        return head;
+    }
+
+    /// The same for any text.
+    static TextHead Of(std::string_view text) {
+        char bytes[16] = {};
+        text.copy(bytes, sizeof bytes);
+        return OfDocument(std::string_view(bytes, std::min(text.size(), sizeof bytes)));
+    }
+
+    friend bool operator==(const TextHead& a, const TextHead& b) {
+        return ((a.first ^ b.first) | (a.second ^ b.second)) == 0;
+    }
+
+private:
+    static std::uint64_t MaskOf(std::size_t bytes) {
+        static_assert(std::endian::native == std::endian::little);
+        return bytes == 0 ? 0 : ~std::uint64_t{0} >> (64 - 8 * bytes);
+    }
+};
+
+/// A word that texts of documents are compared with.
+struct KnownText {
+    std::string_view text;
+    TextHead head;
+
+    explicit KnownText(std::string_view word) : text(word), head(TextHead::Of(word)) {}
+
+    /// Whether \p other, a text of a document that begins with \p otherHead, is this word.
+    bool Is(std::string_view other, const TextHead& otherHead) const {
+        if (text.size() != other.size() || !(head == otherHead)) return false;
+        return text.size() <= 16 || text == other;
+    }
+};
+
 /// A tag of the vocabulary, its attributes and children found quickly. Made once, for one of the two tables.
 class TagWords {
 public:
@@ -91,9 +141,20 @@ public:
 
     struct Word {
         const ZANDicFormat::AttributeRow* row;
+        KnownText name;
+        std::vector<KnownText> values;  ///< that the attribute may have: words, those of flags too
         Slot slot;
         bool isUnread;  ///< admitted, and never looked at
         std::uint8_t index;
+
+        /// Whether a value is one of the words.
+        bool Has(std::string_view value) const {
+            const TextHead head = TextHead::OfDocument(value);
+            for (const KnownText& each : values) {
+                if (each.Is(value, head)) return true;
+            }
+            return false;
+        }
     };
 
     TagWords(const ZANDicFormat::TagRow& row, bool isTuning);
@@ -113,25 +174,21 @@ public:
         return nullptr;
     }
 
-    /// \returns the word of an attribute, or null.
+    /// \returns the word of an attribute of a document, or null.
     const Word* Find(std::string_view name) const {
-        for (std::uint8_t place = PlaceOf(name); _PLACES[place] != 0; place = Next(place)) {
-            const Word& word = _WORDS[_PLACES[place] - 1];
-            if (word.row->name == name) return &word;
+        const TextHead head = TextHead::OfDocument(name);
+        for (std::uint8_t place = PlaceOf(head); _PLACES[place] != 0; place = Next(place)) {
+            const Word& word = _WORDS[_PLACES[place] - 1U];
+            if (word.name.Is(name, head)) return &word;
         }
         return nullptr;
     }
 
 private:
     static constexpr std::size_t kPlaces = 128;
-    static std::uint8_t Next(std::uint8_t place) {
-        return static_cast<std::uint8_t>((place + 1U) % kPlaces);
-    }
-    static std::uint8_t PlaceOf(std::string_view name) {
-        const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(name[index]); };
-        const std::size_t mixed = name.size() * 31 + byte(0) * 7U + byte(name.size() - 1) * 3U +
-                                  byte(name.size() / 2) * 13U;
-        return static_cast<std::uint8_t>(mixed % kPlaces);
+    static std::uint8_t Next(std::uint8_t place) { return static_cast<std::uint8_t>((place + 1U) % kPlaces); }
+    static std::uint8_t PlaceOf(const TextHead& head) {
+        return static_cast<std::uint8_t>(((head.first ^ head.second) * 0x9E3779B97F4A7C15U) >> 57);
     }
 
     const ZANDicFormat::TagRow* _Row;

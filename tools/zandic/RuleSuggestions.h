@@ -19,8 +19,8 @@ std::string SuggestWord(const ZANDicFormat::AttributeRow& row, std::string_view 
 /// \returns the same of the tags that may stand inside another; of all tags when \p parent is null.
 std::string SuggestTag(const ZANDicFormat::TagRow* parent, std::string_view tag);
 
-/// \returns what belongs behind the reason of a fault that the reader tells; empty for other faults than words
-/// that it does not know.
+/// \returns what belongs behind the reason of a fault that the reader tells; empty for other faults than
+/// words that it does not know.
 std::string SuggestionFor(const ZanDicDiagnostic& fault);
 
 }  // namespace tool

@@ -49,6 +49,18 @@ constexpr std::array<bool, 256> kIsDigit = [] {
     return isDigit;
 }();
 
+bool IsDigit(char c) { return kIsDigit[static_cast<unsigned char>(c)]; }
+
+/// As the dictionary writes it.
+bool IsUsualUuid(std::string_view text) {
+    if (text.size() != 35 || text[8] != '-' || text[13] != '-' || text[18] != '-') return false;
+    bool areDigits = true;
+    for (std::size_t at = 0; at < 8; ++at) areDigits &= IsDigit(text[at]);
+    for (std::size_t at = 0; at < 4; ++at) areDigits &= IsDigit(text[9 + at]) && IsDigit(text[14 + at]);
+    for (std::size_t at = 19; at < 35; ++at) areDigits &= IsDigit(text[at]);
+    return areDigits;
+}
+
 std::string_view CodeOf(ZanDicDiagnosticCode code) { return ZanDicDiagnosticName(code); }
 
 bool IsIdentity(std::string_view name) { return name == word::kName || name == word::kUuid; }
@@ -56,12 +68,10 @@ bool IsIdentity(std::string_view name) { return name == word::kName || name == w
 }  // namespace
 
 bool IsUuidText(std::string_view text) {
+    if (IsUsualUuid(text)) return true;
     std::size_t at = text.starts_with('-') ? 1 : 0;
     for (int byte = 0; byte < ZELDbBinary::kCapacity; ++byte) {
-        if (at + 1 >= text.size() || !kIsDigit[static_cast<unsigned char>(text[at])] ||
-            !kIsDigit[static_cast<unsigned char>(text[at + 1])]) {
-            return false;
-        }
+        if (at + 1 >= text.size() || !IsDigit(text[at]) || !IsDigit(text[at + 1])) return false;
         at += 2;
         if (at < text.size() && text[at] == '-') ++at;
     }
@@ -110,10 +120,10 @@ void WordRules::check_Value(const Given& given, const TagWords::Word& word) {
     switch (word.row->form) {
         case AttributeForm::Flag:
         case AttributeForm::Word:
-            check_Word(given, *word.row);
+            if (!word.Has(text)) tell_UnknownWord(given, *word.row);
             break;
         case AttributeForm::Reference:
-            if (FindWord(word.row->words, text) != nullptr) break;
+            if (!word.values.empty() && word.Has(text)) break;
             [[fallthrough]];
         case AttributeForm::Uuid:
             check_Uuid(given, text);
@@ -126,12 +136,8 @@ void WordRules::check_Value(const Given& given, const TagWords::Word& word) {
     }
 }
 
-void WordRules::check_Word(const Given& given, const AttributeRow& row) {
+void WordRules::tell_UnknownWord(const Given& given, const AttributeRow& row) {
     const std::string_view text = given.attribute.Value();
-    if (row.form == AttributeForm::Flag ? text == value::kYes || text == value::kNo
-                                        : FindWord(row.words, text) != nullptr) {
-        return;
-    }
     const std::string_view countsAs = CountsAs(given.element, row);
     if (countsAs.empty()) return;
     _Document.Tell(CodeOf(ZanDicDiagnosticCode::UnknownWord), given.element.node, given.attribute,
@@ -141,18 +147,18 @@ void WordRules::check_Word(const Given& given, const AttributeRow& row) {
 
 void WordRules::check_Uuid(const Given& given, std::string_view text) {
     if (IsUuidText(text) || _Document.IsTold(given.attribute)) return;
-    _Document.Tell(rule::kMalformedUuid, given.element.node, given.attribute,
-                   fmt::format("{} of {} is no UUID: {} is not 32 hexadecimal digits, with or without dashes",
-                               given.attribute.Name(), Quoted(_Document.Name(given.element.node)),
-                               Quoted(text)));
+    _Document.Tell(
+        rule::kMalformedUuid, given.element.node, given.attribute,
+        fmt::format("{} of {} is no UUID: {} is not 32 hexadecimal digits, with or without dashes",
+                    given.attribute.Name(), Quoted(_Document.Name(given.element.node)), Quoted(text)));
 }
 
 void WordRules::tell_Unread(const Given& given) {
     const std::string_view name = given.attribute.Name();
-    _Document.Tell(rule::kUnreadAttribute, given.element.node, given.attribute,
-                   fmt::format("attribute {} of {} {} is never read{}", name, given.words.Row().tag,
-                               Quoted(_Document.Name(given.element.node)),
-                               SuggestAttribute(given.words.Row(), name)));
+    _Document.Tell(
+        rule::kUnreadAttribute, given.element.node, given.attribute,
+        fmt::format("attribute {} of {} {} is never read{}", name, given.words.Row().tag,
+                    Quoted(_Document.Name(given.element.node)), SuggestAttribute(given.words.Row(), name)));
 }
 
 void WordRules::tell_Repeated(const Given& given, const ZELVBTXMLAttribute& before, bool lastCounts) {
@@ -160,11 +166,11 @@ void WordRules::tell_Repeated(const Given& given, const ZELVBTXMLAttribute& befo
         !IsIdentity(given.attribute.Name())) {
         return;
     }
-    Finding* const finding =
-        _Document.Tell(CodeOf(ZanDicDiagnosticCode::RepeatedAttribute), given.element.node, given.attribute,
-                       fmt::format("attribute {} of {} {} is given more than once; the {} one counts",
-                                   given.attribute.Name(), given.words.Row().tag,
-                                   Quoted(_Document.Name(given.element.node)), lastCounts ? "last" : "first"));
+    Finding* const finding = _Document.Tell(
+        CodeOf(ZanDicDiagnosticCode::RepeatedAttribute), given.element.node, given.attribute,
+        fmt::format("attribute {} of {} {} is given more than once; the {} one counts",
+                    given.attribute.Name(), given.words.Row().tag, Quoted(_Document.Name(given.element.node)),
+                    lastCounts ? "last" : "first"));
     _Document.Note(finding, before, "it is given here too");
 }
 

@@ -1,5 +1,5 @@
-/// The rules about the words of a tag: attributes that nobody reads, words that are none, UUIDs that are none,
-/// attributes given twice.
+/// The rules about the words of a tag: attributes that nobody reads, words that are none, UUIDs that are
+/// none, attributes given twice.
 #ifndef ZANDIC_TOOL_RULE_WORDS_H
 #define ZANDIC_TOOL_RULE_WORDS_H
 
@@ -26,7 +26,7 @@ private:
     };
 
     void check_Value(const Given& given, const TagWords::Word& word);
-    void check_Word(const Given& given, const ZANDicFormat::AttributeRow& row);
+    void tell_UnknownWord(const Given& given, const ZANDicFormat::AttributeRow& row);
     void check_Uuid(const Given& given, std::string_view text);
     void tell_Unread(const Given& given);
     void tell_Repeated(const Given& given, const ZELVBTXMLAttribute& before, bool lastCounts);
@@ -37,8 +37,8 @@ private:
     std::vector<ZELVBTXMLAttribute> _UNKNOWN;  ///< of the tag at hand
 };
 
-/// Whether the reader takes every character of \p text as it is meant: 32 digits of either case, a dash in front
-/// or behind any byte.
+/// Whether the reader takes every character of \p text as it is meant: 32 digits of either case, a dash in
+/// front or behind any byte.
 bool IsUuidText(std::string_view text);
 
 }  // namespace tool
