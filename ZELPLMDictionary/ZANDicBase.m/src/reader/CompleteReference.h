@@ -67,6 +67,10 @@ std::string ReferenceLine(const ReferenceSpot& spot, std::string_view reason);
 /// A failed reference as a fault, its lines apart.
 Fault ReferenceFault(const ReferenceSpot& spot, ZanDicDiagnosticCode code, OXMIDicElementH* target);
 
+/// Reports that a reference follows the object that it means into the fault of number \p cause.
+/// \returns E_FAIL.
+HRESULT ReportLeftOut(const ReferenceSpot& spot, std::string_view uuidText, int cause);
+
 /// Reports that a setter refused the target. \returns E_FAIL.
 HRESULT ReportSetterFailed(const ReferenceSpot& spot, OXMIDicElementH& target, std::string_view setter);
 
@@ -79,8 +83,8 @@ using AddLine = void (*)(Fault&, const ReferenceSpot&, std::string_view reason);
 void AddReferenceLine(Fault& fault, const ReferenceSpot& spot, std::string_view reason);
 
 /// Finds the object that a UUID of the document means, of the kind and in the domain that it must have.
-/// \param[out] target null when the object was left out after a fault of its own: no fault again.
-/// \returns S_OK; E_FAIL, reported.
+/// \returns S_OK; E_FAIL, reported: where the object was left out after a fault of its own, as what follows
+/// from that.
 template <class Face>
 HRESULT Resolve(const ReferenceSpot& spot, std::string_view uuidText, const TargetKind& kind,
                 ZanDicRef<Face>& target, AddLine addLine = AddReferenceLine) {
@@ -88,12 +92,13 @@ HRESULT Resolve(const ReferenceSpot& spot, std::string_view uuidText, const Targ
 
     Reading& reading = spot.reading;
     const ZELDbBinary uuid = UuidFromText(uuidText);
-    if (reading.leftOut.Has(uuid)) return S_OK;
     ZanDicRef<OXMIDicElementH> found;
-    if (Failed(reading.manager.Search(&uuid, found.Out())) || !found) {
-        if (reading.leftOut.MayHave(uuid)) return S_OK;
-        Fault fault = ReferenceFault(spot, ReferenceNotFound, nullptr);
-        fault.detail = uuidText;
+    const bool isFound = Succeeded(reading.manager.Search(&uuid, found.Out())) && found;
+    if (!isFound || (reading.isThorough && !reading.Reaches(*found))) {
+        if (const int cause = reading.CauseOf(uuid); cause != 0) return ReportLeftOut(spot, uuidText, cause);
+        Fault fault = ReferenceFault(spot, ReferenceNotFound, isFound ? found.Get() : nullptr);
+        fault.detail = isFound ? Joined({uuidText, " but ", fault.otherParty, ", whose package is not used"})
+                               : std::string(uuidText);
         addLine(fault, spot, Joined({text::kNoObject, uuidText}));
         return reading.faults.Report(fault);
     }
@@ -102,6 +107,9 @@ HRESULT Resolve(const ReferenceSpot& spot, std::string_view uuidText, const Targ
     found->GetType(&type);
     if (!kind.Admits(type) || Failed(found->QueryInterface(kind.interfaceId, target.OutVoid()))) {
         target.Reset();
+        if (const int cause = reading.leftOut.CauseOf(uuid); cause != 0) {
+            return ReportLeftOut(spot, uuidText, cause);
+        }
         Fault fault = ReferenceFault(spot, ReferenceOfWrongKind, found.Get());
         addLine(fault, spot, Joined({text::kQueryInterface, kind.interfaceName, text::kQueryFailed}));
         return reading.faults.Report(fault);

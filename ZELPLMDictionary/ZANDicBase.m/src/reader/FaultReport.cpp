@@ -79,8 +79,8 @@ std::string WholeLine(const FaultLine& line) {
 /// A fault as the observer sees it.
 class ReportedFault final : public ZanDicDiagnostic {
 public:
-    ReportedFault(const Fault& fault, const FaultDocument* document)
-        : _Fault(fault), _Document(document), _Reason(PlainReason(fault)) {
+    ReportedFault(const Fault& fault, const FaultDocument* document, int number)
+        : _Fault(fault), _Document(document), _Number(number), _Reason(PlainReason(fault)) {
         for (const FaultLine& line : fault.lines) {
             if (!_TraceText.empty()) _TraceText += '\n';
             _TraceText += WholeLine(line);
@@ -118,10 +118,15 @@ public:
             _Fault.attribute ? _Fault.attribute.Position() : _Fault.node.Position();
         return {position.line, position.column};
     }
+    ZELDbBinary OtherUuid() const override { return _Fault.otherUuid; }
+    std::string_view OtherPackage() const override { return _Fault.otherPackage; }
+    int Number() const override { return _Number; }
+    int Cause() const override { return _Fault.cause; }
 
 private:
     const Fault& _Fault;
     const FaultDocument* _Document;
+    int _Number;
     std::string _Reason;
     std::string _TraceText;
 };
@@ -146,7 +151,10 @@ HRESULT FaultReport::Report(const Fault& fault) {
     const bool isFailure = isError || fault.asksToGoOn;
     bool goesOn = false;
     if (ZanDicDiagnosticObserver* const observer = ZanDicGetDiagnosticObserver(); observer != nullptr) {
-        goesOn = observer->OnDiagnostic(ReportedFault(fault, _Document));
+        goesOn = observer->OnDiagnostic(ReportedFault(fault, _Document, ++*_LastNumber));
+        if (isFailure && _Document != nullptr && _Document->firstFailure == 0) {
+            _Document->firstFailure = fault.cause != 0 ? fault.cause : LastNumber();
+        }
     }
     const ZELLineSeverity severity = isError ? ZELLineSeverity::Error : ZELLineSeverity::Warning;
     for (const FaultLine& line : fault.lines) {
@@ -157,4 +165,10 @@ HRESULT FaultReport::Report(const Fault& fault) {
     if (!isFailure) return S_OK;
     if (!goesOn) _Stopped = true;
     return E_FAIL;
+}
+
+HRESULT FaultReport::ReportConsequence(Fault fault, int cause) {
+    if (!IsThorough()) return E_FAIL;
+    fault.cause = cause;
+    return Report(fault);
 }
