@@ -144,12 +144,19 @@ TEST_F(ToolBlocksTest, WhatHasNoBlocksIsRefused) {
                 "attribute blocks");
 }
 
-TEST_F(ToolBlocksTest, WhatIsNoClassIsWrongUse) {
-    ExpectFault("BomItems::BomPart::Mass", 2,
-                "BomItems::BomPart::Mass: error: a class has blocks, a member has none: give PACKAGE::CLASS");
-    ExpectFault("5AAF3900-5E46-4551-BB9AE4FD947B8003", 2,
-                "5AAF3900-5E46-4551-BB9AE4FD947B8003: error: blocks are shown by name: give PACKAGE or "
-                "PACKAGE::CLASS");
+TEST_F(ToolBlocksTest, AMemberHasNoBlocks) {
+    ExpectFault(
+        "BomItems::BomPart::Mass", 1,
+        "BomItems::BomPart::Mass: error: Simple BomItems::BomPart::Mass is no class and has no attribute "
+        "blocks");
+}
+
+TEST_F(ToolBlocksTest, AClassIsFoundByItsUuid) {
+    EXPECT_EQ(OnSample({"--quiet", "blocks", "5AAF3900-5E46-4551-BB9AE4FD947B8003"}).out,
+              ExpectedOutput("blocks-class.txt"));
+}
+
+TEST_F(ToolBlocksTest, ATuningDocumentIsWrongUse) {
     ExpectFault("BomItems.tuning", 2,
                 "BomItems.tuning: error: a tuning document is read with its package, not by itself: give "
                 "the package's name");

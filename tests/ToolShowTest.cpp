@@ -188,7 +188,7 @@ TEST_F(ToolShowTest, WhatIsNotFoundIsNamed) {
     ExpectRefused("BomStorageMap.rbomap::ItemMapping::Part::Nothing",
                   "BomStorageMap.rbomap::ItemMapping::Part::Nothing: error: RBOMapping "
                   "BomStorageMap::ItemMapping has no member Part::Nothing");
-    ExpectRefused("BomItems::bompart", "BomItems::bompart: error: package BomItems has no element bompart");
+    ExpectRefused("BomItems::bompart", "BomItems::bompart: error: package BomItems has no element bompart; did you mean BomPart?");
     ExpectRefused(
         "00000000-0000-0000-0000000000000001",
         "00000000-0000-0000-0000000000000001: error: no object of the loaded packages has this UUID");

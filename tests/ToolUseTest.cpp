@@ -1,4 +1,6 @@
 // The command line itself: help, version, wrong use, and where options may stand.
+#include <algorithm>
+
 #include "ToolRunner.h"
 
 namespace {
@@ -18,10 +20,11 @@ protected:
     }
 
     /// Runs the tool and checks that it refuses one NAME and names it.
-    void ExpectWrongName(const std::vector<std::string>& arguments, std::string_view line) const {
+    void ExpectWrongName(const std::vector<std::string>& arguments, std::string_view line,
+                         int status = kWrongUse) const {
         const ToolRun run = OnSample(arguments);
 
-        EXPECT_EQ(run.status, kWrongUse);
+        EXPECT_EQ(run.status, status);
         EXPECT_EQ(run.out, "");
         EXPECT_EQ(run.err, "zandic: " + std::string(line) + "\n");
     }
@@ -39,11 +42,30 @@ TEST_F(ToolUseTest, HelpListsTheCommandsOnOneScreen) {
 TEST_F(ToolUseTest, EachCommandHasItsHelp) {
     EXPECT_EQ(Run({"load", "--help"}).out, ExpectedOutput("help-load.txt"));
     EXPECT_EQ(Run({"show", "--help"}).out, ExpectedOutput("help-show.txt"));
-    EXPECT_EQ(Run({"blocks", "--help"}).out, ExpectedOutput("help-blocks.txt"));
-    EXPECT_EQ(Run({"dump", "-h"}).out, ExpectedOutput("help-dump.txt"));
-    EXPECT_EQ(Run({"save", "--help"}).out, ExpectedOutput("help-save.txt"));
-    EXPECT_EQ(Run({"express", "--help"}).out, ExpectedOutput("help-express.txt"));
+    EXPECT_EQ(Run({"dump", "-h"}).out, Run({"dump", "--help"}).out);
+    EXPECT_EQ(Run({"--help", "dump"}).out, Run({"dump", "--help"}).out);
     EXPECT_EQ(Run({"dump", "-h"}).status, kDone);
+}
+
+TEST_F(ToolUseTest, HelpIsACommandToo) {
+    EXPECT_EQ(Run({"help"}).out, Run({"--help"}).out);
+    EXPECT_EQ(Run({"help", "load"}).out, ExpectedOutput("help-load.txt"));
+    EXPECT_EQ(Run({"help", "options"}).out, ExpectedOutput("help-options.txt"));
+    EXPECT_EQ(Run({"help", "load"}).status, kDone);
+    ExpectWrongUse({"help", "laod"}, "there is no command 'laod'; did you mean load?");
+    ExpectWrongUse({"help", "load", "show"},
+                   "help takes one COMMAND, and there is 'show' as well (see 'zandic help --help')");
+}
+
+TEST_F(ToolUseTest, NoLineOfAHelpIsWiderThanATerminal) {
+    for (const ToolRun& run : {Run({"help"}), Run({"help", "options"}), Run({"help", "show"}),
+                               Run({"help", "save"}), Run({"help", "express"})}) {
+        std::size_t widest = 0;
+        for (std::size_t at = 0, end = 0; (end = run.out.find('\n', at)) != run.out.npos; at = end + 1) {
+            widest = std::max(widest, end - at);
+        }
+        EXPECT_LE(widest, 80U) << run.out;
+    }
 }
 
 TEST_F(ToolUseTest, HelpNeedsNothingElse) {
@@ -88,23 +110,91 @@ TEST_F(ToolUseTest, WithoutACommandItPointsAtTheHelp) {
 }
 
 TEST_F(ToolUseTest, AnUnknownCommandIsNamed) {
-    ExpectWrongUse({"lod", "BomItems"}, "there is no command 'lod' (see 'zandic --help')");
+    ExpectWrongUse({"lod", "BomItems"},
+                   "there is no command 'lod'; did you mean load? (see 'zandic --help')");
 }
 
 TEST_F(ToolUseTest, AnUnknownOptionIsNamed) {
     ExpectWrongUse({"load", "--fast", "BomItems"}, "there is no option '--fast' (see 'zandic load --help')");
-    ExpectWrongUse({"load", "--json", "BomItems"}, "load does not know --json (see 'zandic load --help')");
-    ExpectWrongUse({"blocks", "--json", "BomItems"},
-                   "blocks does not know --json (see 'zandic blocks --help')");
+    ExpectWrongUse({"load", "--phat", "x"},
+                   "there is no option '--phat'; did you mean --path? (see 'zandic load --help')");
+    ExpectWrongUse({"load", "-x"}, "there is no option '-x' (see 'zandic load --help')");
     ExpectWrongUse({"--fast"}, "there is no option '--fast' (see 'zandic --help')");
+    ExpectWrongUse({"--quite"}, "there is no option '--quite'; did you mean --quiet? (see 'zandic --help')");
 }
 
-TEST_F(ToolUseTest, AMissingNameIsSaid) {
-    ExpectWrongUse({"load"}, "NAME is missing (see 'zandic load --help')");
-    ExpectWrongUse({"show"}, "NAME is missing (see 'zandic show --help')");
-    ExpectWrongUse({"blocks"}, "NAME is missing (see 'zandic blocks --help')");
-    ExpectWrongUse({"dump", "--json"}, "NAME is missing (see 'zandic dump --help')");
-    ExpectWrongUse({"show", "--in", "BomItems"}, "NAME is missing (see 'zandic show --help')");
+TEST_F(ToolUseTest, WithoutANameInSaysWhatToWorkOn) {
+    EXPECT_EQ(OnSample({"--quiet", "show", "--in", "BomWorkshop"}).out,
+              OnSample({"--quiet", "show", "BomWorkshop"}).out);
+    EXPECT_EQ(OnSample({"--quiet", "dump", "--json", "--in", "BomItems", "BomDocuments"}).out,
+              OnSample({"--quiet", "dump", "--json", "BomItems", "BomDocuments"}).out);
+}
+
+TEST_F(ToolUseTest, WithoutAnythingItIsEveryMetadataDocumentOfThePath) {
+    const ToolRun run = OnSample({"--quiet", "dump", "--json"});
+
+    EXPECT_EQ(run.status, kDone);
+    EXPECT_EQ(run.out, OnSample({"--quiet", "dump", "--json", "BomDocuments", "BomEffectivity", "BomItems",
+                                 "BomPeople", "BomServices", "BomWorkshop"})
+                           .out);
+    EXPECT_EQ(run.out.find("BomStorage"), run.out.npos) << "tables and mappings are not asked for";
+}
+
+TEST_F(ToolUseTest, ADocumentThatNobodyAskedForCostsNotTheAnswer) {
+    MakePackage("Good", R"(Uuid="00000000-0000-0000-0000000000000001")", "");
+    Own().MakeFile("Bad.metadata", "<Package");
+
+    const ToolRun run = OnOwn({"--quiet", "show"});
+
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out.find("Package Good\n"), 0U);
+    EXPECT_EQ(WithoutPlaces(run.err).find("zandic: own/Bad.metadata:1:"), 0U);
+    EXPECT_NE(run.err.find(": warning: "), run.err.npos);
+    EXPECT_EQ(LinesIn(run.err), 1);
+}
+
+TEST_F(ToolUseTest, OfTwoDocumentsOfOneNameTheFirstCounts) {
+    const std::string first = Own().MakeDirectory("first");
+    const std::string second = Own().MakeDirectory("second");
+    Own().MakeFile("first/P.metadata",
+                   R"(<Package Name="P" Uuid="00000000-0000-0000-0000000000000001" Alias="one"/>)");
+    Own().MakeFile("second/P.metadata",
+                   R"(<Package Name="P" Uuid="00000000-0000-0000-0000000000000001" Alias="two"/>)");
+
+    const ToolRun run = Run({"show", "--path", first + ":" + second});
+
+    EXPECT_EQ(run.status, kDone);
+    EXPECT_NE(run.out.find("one"), run.out.npos);
+    EXPECT_EQ(run.out.find("two"), run.out.npos);
+}
+
+TEST_F(ToolUseTest, WithoutADocumentThereIsNothingToWorkOn) {
+    const ToolRun empty = OnOwn({"load"});
+    const ToolRun nowhere = Run({"load"});
+
+    EXPECT_EQ(empty.status, 1);
+    EXPECT_EQ(WithoutPlaces(empty.err), "zandic: own: error: no package document on the path\n");
+    EXPECT_EQ(nowhere.status, 1);
+    EXPECT_EQ(nowhere.err,
+              "zandic: error: there is no path to search: give --path, or set ZELDictionaryPath\n");
+}
+
+TEST_F(ToolUseTest, TheNearestNamesAreOffered) {
+    const auto line = [this](const std::string& name) { return OnSample({"--quiet", "show", name}).err; };
+
+    EXPECT_EQ(WithoutPlaces(line("BomItem")),
+              "zandic: BomItem: error: there is no document BomItem.metadata in samples; did you mean "
+              "BomItems?\n");
+    EXPECT_EQ(line("BomItems::bompart"),
+              "zandic: BomItems::bompart: error: package BomItems has no element bompart; did you mean "
+              "BomPart?\n");
+    EXPECT_EQ(line("BomItems::BomPart::Sources"),
+              "zandic: BomItems::BomPart::Sources: error: Class BomItems::BomPart has no member Sources; did "
+              "you mean Source?\n");
+    EXPECT_EQ(
+        line("BomServices::BomCosting::RolUp::Currency"),
+        "zandic: BomServices::BomCosting::RolUp::Currency: error: Interface BomServices::BomCosting has "
+        "no member RolUp::Currency; did you mean RollUp?\n");
 }
 
 TEST_F(ToolUseTest, DumpWantsToBeAskedForJson) {
@@ -113,7 +203,6 @@ TEST_F(ToolUseTest, DumpWantsToBeAskedForJson) {
 
 TEST_F(ToolUseTest, SaveWantsADirectory) {
     ExpectWrongUse({"save", "BomItems"}, "save needs --to (see 'zandic save --help')");
-    ExpectWrongUse({"save", "--to", "nowhere"}, "NAME is missing (see 'zandic save --help')");
     ExpectWrongUse({"save", "BomItems", "--to"}, "--to needs a value (see 'zandic save --help')");
     ExpectWrongUse({"save", "BomItems", "--stdout"},
                    "there is no option '--stdout' (see 'zandic save --help')");
@@ -125,9 +214,25 @@ TEST_F(ToolUseTest, ASchemaGoesToOnePlace) {
     ExpectWrongUse({"load", "BomItems", "--to", "."}, "there is no option '--to' (see 'zandic load --help')");
 }
 
-TEST_F(ToolUseTest, InBelongsToShow) {
-    ExpectWrongUse({"load", "BomItems", "--in", "BomPeople"},
-                   "load does not know --in (see 'zandic load --help')");
+TEST_F(ToolUseTest, EveryCommandThatTakesNamesKnowsIn) {
+    EXPECT_EQ(WithoutTimes(OnSample({"--quiet", "load", "BomWorkshop", "--in", "BomPeople"}).out),
+              WithoutTimes(OnSample({"--quiet", "load", "BomWorkshop", "BomPeople"}).out));
+    EXPECT_EQ(OnSample({"--quiet", "blocks", "BomItems::BomPart", "--in", "BomPeople"}).out,
+              ExpectedOutput("blocks-class.txt"));
+}
+
+TEST_F(ToolUseTest, AFlagTakesNoValue) {
+    ExpectWrongUse({"dump", "--json=yes"}, "--json takes no value (see 'zandic dump --help')");
+}
+
+TEST_F(ToolUseTest, AnOptionOfACommandMayStandBeforeIt) {
+    EXPECT_EQ(OnSample({"--quiet", "--json", "dump", "BomPeople"}).out,
+              OnSample({"--quiet", "dump", "BomPeople", "--json"}).out);
+}
+
+TEST_F(ToolUseTest, BehindTwoDashesThereAreOnlyNames) {
+    ExpectWrongName({"--quiet", "load", "--", "--quiet"},
+                    "--quiet: error: there is no document --quiet.metadata in " ZANDIC_SAMPLES, 1);
 }
 
 TEST_F(ToolUseTest, AnOptionWithoutItsValueIsNamed) {

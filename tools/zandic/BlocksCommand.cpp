@@ -1,52 +1,19 @@
 #include <fmt/format.h>
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "Command.h"
-#include "Find.h"
 #include "Model.h"
+#include "Targets.h"
 #include "Views.h"
 
 namespace tool {
 namespace {
 
-using Class = zandic::Handle<OXMIDicClass>;
-
-/// What one NAME asks for.
-struct Request {
-    zandic::Handle<OXMIDicPackage> package;
-    std::vector<Class> classes;  ///< with blocks
-    bool isWhole;                ///< all of the package
-};
-
-bool IsClass(OXMIDicElement& element) {
+bool IsClass(OXMIDicElementH& element) {
     const OXMDicTYPE kind = zandic::Kind(element);
     return kind == OXMDicTYPE_Class || kind == OXMDicTYPE_Extension;
-}
-
-/// \returns why \p target must not be asked for; none when it may.
-std::optional<std::string> WrongSubject(const Target& target, std::string_view path) {
-    if (target.uuid) return "blocks are shown by name: give PACKAGE or PACKAGE::CLASS";
-    if (!target.member.empty()) return "a class has blocks, a member has none: give PACKAGE::CLASS";
-    return WrongTarget(target, path);
-}
-
-Request Find(Session& session, const Target& target) {
-    Request request{FindPackage(session, target), {}, target.element.empty()};
-    if (!request.package || request.isWhole) return request;
-    const auto element = FindElement(session, *request.package, target);
-    if (element && IsClass(*element)) {
-        request.classes.push_back(zandic::As<OXMIDicClass>(element));
-        return request;
-    }
-    if (element) {
-        session.Refuse(target.text, fmt::format("{} {} is no class and has no attribute blocks",
-                                                TagOf(*element), QualifiedName(*element)));
-    }
-    request.package.Reset();
-    return request;
 }
 
 /// Shows the classes of a package that see a block, and names the others.
@@ -70,23 +37,22 @@ void ShowPackageBlocks(const View& view, OXMIDicPackage& package) {
 }  // namespace
 
 void RunBlocks(Session& session, const Options& options, Output& output) {
-    // Everything is loaded before the first is shown: another package may tune the classes of this one.
-    std::vector<Request> requests;
-    for (const std::string& name : options.names) {
-        const Target target = ParseTarget(name);
-        if (auto wrong = WrongSubject(target, session.Path())) {
-            session.RejectUse(name, *wrong);
-            continue;
-        }
-        Request request = Find(session, target);
-        if (request.package) requests.push_back(std::move(request));
-    }
+    std::vector<AskedObject> objects = Targets(session, options).Objects();
+    std::erase_if(objects, [&session](const AskedObject& each) {
+        if (zandic::Kind(*each.object) == OXMDicTYPE_Package || IsClass(*each.object)) return false;
+        session.Refuse(each.asked, fmt::format("{} {} is no class and has no attribute blocks",
+                                               TagOf(*each.object), QualifiedName(*each.object)));
+        return true;
+    });
     Sheet sheet(output);
-    for (const Request& request : requests) {
-        if (&request != &requests.front()) sheet.Separate();
-        const View view{session.Dictionary(), sheet, std::string(zandic::Name(*request.package).View())};
-        if (request.isWhole) ShowPackageBlocks(view, *request.package);
-        for (const Class& each : request.classes) ShowBlocksOf(view, *each);
+    for (const AskedObject& each : objects) {
+        if (&each != &objects.front()) sheet.Separate();
+        const View view{session.Dictionary(), sheet, PackageNameOf(*each.object)};
+        if (const auto package = zandic::As<OXMIDicPackage>(each.object)) {
+            ShowPackageBlocks(view, *package);
+        } else {
+            ShowBlocksOf(view, *zandic::As<OXMIDicClass>(each.object));
+        }
     }
 }
 

@@ -1,20 +1,18 @@
+#include <algorithm>
+
 #include "Command.h"
 #include "DumpJson.h"
-#include "Names.h"
+#include "Targets.h"
 
 namespace tool {
 
 void RunDump(Session& session, const Options& options, Output& output) {
-    bool anyLoaded = false;
-    for (const std::string& name : options.names) {
-        if (auto wrong = WrongPackageName(name)) {
-            session.RejectUse(name, *wrong);
-        } else {
-            anyLoaded |= session.Load(name);
-        }
-    }
+    const std::vector<AskedPackage> packages = Targets(session, options).Packages();
+    const bool isAnyLoaded = std::any_of(packages.begin(), packages.end(), [](const AskedPackage& each) {
+        return static_cast<bool>(each.package);
+    });
     // What a refused package left behind is not what was asked for.
-    if (anyLoaded) DumpJson(session.Dictionary(), output);
+    if (isAnyLoaded) DumpJson(session.Dictionary(), output);
 }
 
 }  // namespace tool

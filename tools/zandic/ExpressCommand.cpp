@@ -11,9 +11,9 @@
 
 #include "Command.h"
 #include "Files.h"
-#include "Find.h"
 #include "Model.h"
 #include "Streams.h"
+#include "Targets.h"
 #include "ZELFile.h"
 
 namespace tool {
@@ -112,7 +112,7 @@ void RunExpress(Session& session, const Options& options, Output& output) {
 
     // Everything is loaded first: which attribute redefines another, and which class has subclasses, is then
     // the same for all.
-    const std::vector<AskedPackage> packages = FindPackages(session, options.names);
+    const std::vector<AskedPackage> packages = Targets(session, options).Packages();
     AskForAllAttributes(session.Dictionary());
     std::set<std::string, std::less<>> exported;
     for (const auto& [asked, package] : packages) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "Streams.h"
+#include "Style.h"
 
 namespace tool {
 namespace {
@@ -22,23 +23,23 @@ std::string_view AskedName(std::string_view file) {
 
 }  // namespace
 
-std::string FaultLine(const Fault& fault) {
+std::string FaultLine(const Fault& fault, Gravity gravity) {
+    const bool isError = gravity == Gravity::Error;
+    const std::string word =
+        Style::Errors().Paint(isError ? Role::Error : Role::Warning, isError ? "error:" : "warning:");
     std::string line = "zandic: ";
     if (!fault.subject.empty()) line += fault.subject + ":";
     if (fault.place.line > 0) line += fmt::format("{}:{}:", fault.place.line, fault.place.column);
     if (!fault.subject.empty()) line += " ";
-    return line + "error: " + fault.text;
-}
-
-std::string WarningLine(std::string_view subject, std::string_view text) {
-    return fmt::format("zandic: {}: warning: {}", subject, text);
+    return line + word + " " + fault.text;
 }
 
 bool FaultObserver::OnDiagnostic(const ZanDicDiagnostic& diagnostic) {
     PassOn(diagnostic);
     if (diagnostic.Severity() == ZanDicSeverity::Error && !_FirstError) {
         _FirstError =
-            Fault{std::string(diagnostic.File()), diagnostic.Place(), std::string(diagnostic.Reason())};
+            Fault{std::string(diagnostic.File()), diagnostic.Place(), std::string(diagnostic.Reason()),
+                  diagnostic.Code() == ZanDicDiagnosticCode::FileNotFound};
     }
     if (diagnostic.Code() == ZanDicDiagnosticCode::PackageNameDiffers) {
         _NAMES.insert_or_assign(std::string(AskedName(diagnostic.File())), std::string(diagnostic.Package()));

@@ -15,14 +15,15 @@ struct Fault {
     std::string subject;  ///< a file, or what the user asked for
     ZanDicPlace place;    ///< zeros: none
     std::string text;
+    bool isMissing = false;  ///< the subject is a document that is not there
 };
+
+/// How much a fault matters.
+enum class Gravity { Error, Warning };
 
 /// \returns the one form of the tool's own lines: "zandic: FILE:LINE:COLUMN: error: TEXT", without the
 /// parts that there are not.
-std::string FaultLine(const Fault& fault);
-
-/// \returns the same form for something that may go on: "zandic: SUBJECT: warning: TEXT".
-std::string WarningLine(std::string_view subject, std::string_view text);
+std::string FaultLine(const Fault& fault, Gravity gravity = Gravity::Error);
 
 /// Is told the faults of documents. Keeps the first error of a load, which ends it, and passes on what the
 /// trace settings do not let through: a user hears of every fault, once.

@@ -8,10 +8,10 @@
 
 #include "Command.h"
 #include "Model.h"
-#include "Names.h"
 #include "OXMIDicInterface.h"
 #include "OXMIDicMethod.h"
 #include "RboWalk.h"
+#include "Targets.h"
 
 namespace tool {
 namespace {
@@ -134,13 +134,7 @@ void WriteLines(const std::vector<Line>& lines, const Line& total, Output& outpu
 }  // namespace
 
 void RunLoad(Session& session, const Options& options, Output& output) {
-    for (const std::string& name : options.names) {
-        if (auto wrong = WrongPackageName(name)) {
-            session.RejectUse(name, *wrong);
-        } else {
-            session.Load(name);
-        }
-    }
+    Targets(session, options).Packages();
     const std::vector<Line> lines = LinesOf(session);
     if (!lines.empty()) WriteLines(lines, TotalOf(lines), output);
 }

@@ -14,12 +14,12 @@ enum class ExitStatus {
     WrongUse = 2,  ///< of the command line
 };
 
-/// What the command line says, whatever the command.
+/// What the command line says, whatever the command. The rows of OptionRow.h say which option sets what.
 struct Options {
-    std::vector<std::string> names;           ///< the subjects
-    std::vector<std::string> in;              ///< packages in which to look for UUIDs
+    std::vector<std::string> names;           ///< the operands
+    std::vector<std::string> in;              ///< packages to load beside them
     std::vector<std::string> path;            ///< directories, each maybe several separated by ":"
-    std::optional<std::string> traceLevel;    ///< a number
+    std::optional<int> traceLevel;            ///< how much the dictionary tells
     std::optional<std::string> traceMethods;  ///< a file
     std::optional<std::string> to;            ///< the directory for files
     bool toOutput = false;                    ///< standard output takes them

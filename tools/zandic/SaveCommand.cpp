@@ -8,9 +8,9 @@
 #include "Command.h"
 #include "DumpJson.h"
 #include "Files.h"
-#include "Find.h"
 #include "ReadBack.h"
 #include "Streams.h"
+#include "Targets.h"
 #include "ZANDicValueWords.h"
 #include "ZELEnvironment.h"
 
@@ -119,7 +119,7 @@ void RunSave(Session& session, const Options& options, Output& output) {
     if (auto wrong = WrongTarget(directory)) return session.Refuse(directory, *wrong);
 
     std::vector<Request> requests;
-    for (AskedPackage& each : FindPackages(session, options.names)) requests.push_back({std::move(each), {}});
+    for (AskedPackage& each : Targets(session, options).Packages()) requests.push_back({std::move(each), {}});
     const bool mayRefuse = !session.IsClean();
     std::string model = DumpText(session.Dictionary());
     const std::vector<std::string> written = SaveAll(session, requests, directory);

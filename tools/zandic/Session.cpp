@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "Names.h"
+#include "Nearest.h"
 #include "Streams.h"
+#include "ZANDicValueWords.h"
 #include "ZELEnvironment.h"
 #include "ZanDicTraceSettings.h"
 
@@ -12,6 +14,7 @@ namespace tool {
 namespace {
 
 constexpr const char* kPathVariable = "ZELDictionaryPath";
+constexpr std::string_view kNoPath = "there is no path to search: give --path, or set ZELDictionaryPath";
 
 LineRule RuleOf(const Options& options) {
     if (options.quiet) return LineRule::None;
@@ -25,6 +28,18 @@ std::string PathOf(const Options& options) {
     return path;
 }
 
+bool IsOfAnotherContent(const std::string& document) {
+    constexpr std::string_view kWord = ZANDicFormat::kContentWords[OXMDicCONTENT_metadata].word;
+    return !document.ends_with(kWord) || document.find('.') != document.size() - kWord.size() - 1;
+}
+
+/// \returns the question whether a document of the path was meant; empty when none is near.
+std::string NearestDocuments(std::string_view missing, const std::string& path) {
+    Nearest nearest(missing.substr(0, missing.find('.')));
+    for (const std::string& document : DocumentsOf(path)) nearest.Add(document.substr(0, document.find('.')));
+    return nearest.Question();
+}
+
 }  // namespace
 
 Session::Session(const Options& options)
@@ -33,7 +48,7 @@ Session::Session(const Options& options)
     ZELSetLineSink(&Lines());
     ZanDicSetProfiler(&_Clock);
     ZanDicSetDiagnosticObserver(&_Observer);
-    if (options.traceLevel) ZanDicSetTraceLevel(std::stoi(*options.traceLevel));
+    if (options.traceLevel) ZanDicSetTraceLevel(*options.traceLevel);
 }
 
 Session::~Session() {
@@ -51,20 +66,25 @@ bool Session::Open() {
     return static_cast<bool>(_Dictionary);
 }
 
-bool Session::Load(const std::string& name) {
+bool Session::Load(const std::string& name) { return LoadAs(name, Gravity::Error); }
+
+bool Session::LoadAs(const std::string& name, Gravity gravity) {
     if (_LOADED.contains(name)) return true;
     if (_REFUSED.contains(name)) return false;
     if (_Path.empty()) {
         _REFUSED.insert(name);
-        Refuse(name, "there is no path to search: give --path, or set ZELDictionaryPath");
+        Refuse(name, std::string(kNoPath));
         return false;
     }
 
     const zandic::Result result = _Dictionary.Load(name, _Path.c_str());
-    const std::optional<Fault> error = _Observer.TakeFirstError();
+    std::optional<Fault> error = _Observer.TakeFirstError();
     (result ? _LOADED : _REFUSED).insert(name);
-    if (!result) Note(error ? *error : Fault{name, {}, "the dictionary refuses it"}, ExitStatus::Refused);
-    return static_cast<bool>(result);
+    if (result) return true;
+    if (!error) error = Fault{name, {}, "the dictionary refuses it"};
+    if (error->isMissing) error->text += NearestDocuments(error->subject, _Path);
+    Note(*error, ExitStatus::Refused, gravity);
+    return false;
 }
 
 std::vector<Session::LoadTime> Session::LoadTimes() const {
@@ -82,10 +102,16 @@ std::vector<Session::LoadTime> Session::LoadTimes() const {
     return times;
 }
 
-void Session::LoadWholePath() {
-    const std::vector<std::string> documents = DocumentsOf(_Path);
-    if (documents.empty()) Refuse(_Path, "no package document on the path");
-    for (const std::string& document : documents) Load(document);
+std::vector<std::string> Session::LoadPath(PathDocuments which) {
+    std::vector<std::string> documents = DocumentsOf(_Path);
+    if (which == PathDocuments::Metadata) std::erase_if(documents, IsOfAnotherContent);
+    if (_Path.empty()) {
+        Refuse("", std::string(kNoPath));
+    } else if (documents.empty()) {
+        Refuse(_Path, "no package document on the path");
+    }
+    for (const std::string& document : documents) LoadAs(document, Gravity::Warning);
+    return documents;
 }
 
 void Session::Refuse(std::string subject, std::string text) {
@@ -96,12 +122,14 @@ void Session::RejectUse(std::string subject, std::string text) {
     Note({std::move(subject), {}, std::move(text)}, ExitStatus::WrongUse);
 }
 
-void Session::Note(const Fault& fault, ExitStatus status) {
+void Session::Note(const Fault& fault, ExitStatus status, Gravity gravity) {
     _Status = std::max(_Status, status);
-    Tell(FaultLine(fault));
+    Tell(FaultLine(fault, gravity));
 }
 
-void Session::Warn(std::string_view subject, std::string_view text) { Tell(WarningLine(subject, text)); }
+void Session::Warn(std::string_view subject, std::string_view text) {
+    Tell(FaultLine({std::string(subject), {}, std::string(text)}, Gravity::Warning));
+}
 
 void Session::Tell(std::string line) {
     // A document that several others need is refused as often, and told once.

@@ -13,6 +13,12 @@
 
 namespace tool {
 
+/// Which documents of the path.
+enum class PathDocuments {
+    Metadata,  ///< those of the content word "metadata"
+    All,       ///< those of packages, of every content word
+};
+
 /// One run of the tool over the dictionary: sets the four doors, loads packages, gathers what went wrong.
 /// One at a time.
 class Session {
@@ -49,8 +55,10 @@ public:
     /// \returns whether it is there; else the fault is noted, on the first try.
     bool Load(const std::string& name);
 
-    /// Loads every package document of the path, in the order of their names.
-    void LoadWholePath();
+    /// Loads package documents of the path, in the order of their names. One that does not load is a warning,
+    /// and costs exit status 1.
+    /// \returns the names that were tried.
+    std::vector<std::string> LoadPath(PathDocuments documents);
 
     /// Note what could not be done, and what must not be asked for.
     void Refuse(std::string subject, std::string text);
@@ -66,7 +74,8 @@ public:
     ExitStatus Close();
 
 private:
-    void Note(const Fault& fault, ExitStatus status);
+    void Note(const Fault& fault, ExitStatus status, Gravity gravity = Gravity::Error);
+    bool LoadAs(const std::string& name, Gravity gravity);
     void Tell(std::string line);
 
     zandic::Dictionary _Dictionary;

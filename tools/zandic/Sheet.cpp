@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "Style.h"
+
 namespace tool {
 namespace {
 
@@ -30,24 +32,6 @@ std::string Printable(std::string_view text) {
     return printable;
 }
 
-/// \returns the lines of \p text, none wider than \p width unless it is a single word.
-std::vector<std::string> Wrapped(std::string_view text, std::size_t width) {
-    std::vector<std::string> lines(1);
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(' '), text.size());
-        const std::string_view word = text.substr(0, end);
-        const std::size_t used = WidthOf(lines.back());
-        if (used > 0 && used + 1 + WidthOf(word) > width) {
-            lines.emplace_back(word);
-        } else {
-            if (used > 0) lines.back() += ' ';
-            lines.back() += word;
-        }
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return lines;
-}
-
 std::string Padded(std::string_view text, std::size_t width) {
     const std::size_t used = WidthOf(text);
     return std::string(text) + std::string(width > used ? width - used : 0, ' ');
@@ -72,6 +56,23 @@ std::size_t WidthOf(std::string_view text) {
         text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xc0U) != 0x80U; }));
 }
 
+std::vector<std::string> Wrapped(std::string_view text, std::size_t width) {
+    std::vector<std::string> lines(1);
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(' '), text.size());
+        const std::string_view word = text.substr(0, end);
+        const std::size_t used = WidthOf(lines.back());
+        if (used > 0 && used + 1 + WidthOf(word) > width) {
+            lines.emplace_back(word);
+        } else {
+            if (used > 0) lines.back() += ' ';
+            lines.back() += word;
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
 std::string Joined(const std::vector<std::string>& texts) {
     return fmt::format("{}", fmt::join(texts, ", "));
 }
@@ -81,7 +82,7 @@ std::string Counted(std::size_t count, std::string_view one, std::string_view ma
 }
 
 void Sheet::Title(std::string_view tag, std::string_view name) {
-    Write(0, fmt::format("{} {}", tag, Printable(name)));
+    Write(0, Style::Output().Paint(Role::Heading, fmt::format("{} {}", tag, Printable(name))));
     _Output.Write("\n");
 }
 
@@ -89,7 +90,7 @@ void Sheet::Field(std::string_view label, std::string_view value) {
     if (value.empty()) return;
     std::string_view shown = label;
     for (const std::string& line : Wrapped(Printable(value), kWidth - kValueColumn)) {
-        Write(kIndent, Padded(shown, kValueColumn - kIndent) + line);
+        Write(kIndent, Style::Output().Paint(Role::Label, Padded(shown, kValueColumn - kIndent)) + line);
         shown = {};
     }
 }
@@ -100,7 +101,7 @@ void Sheet::Field(std::string_view label, const std::vector<std::string>& values
 
 void Sheet::Section(std::string_view heading) {
     _Output.Write("\n");
-    Write(0, heading);
+    Write(0, Style::Output().Paint(Role::Heading, heading));
 }
 
 void Sheet::Line(std::string_view text) {

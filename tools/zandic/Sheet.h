@@ -50,6 +50,9 @@ private:
 /// \returns the number of characters of a UTF-8 text.
 std::size_t WidthOf(std::string_view text);
 
+/// \returns the lines of \p text, none wider than \p width unless it is a single word.
+std::vector<std::string> Wrapped(std::string_view text, std::size_t width);
+
 /// \returns the texts with ", " between them.
 std::string Joined(const std::vector<std::string>& texts);
 

@@ -43,16 +43,6 @@ constexpr KindView kKindViews[] = {
     {OXMDicTYPE_RBOPathExpression, ShowAs<OXMIDicRBOPathExpression, ShowPath>},
 };
 
-/// \returns the package of the object, or its own name when it is one: the first part of its name.
-std::string PackageNameOf(OXMIDicElementH& object) {
-    if (const auto element = zandic::As<OXMIDicElement>(object)) {
-        const std::string package = TextOf(*element, &OXMIDicElement::GetPackageName);
-        if (!package.empty()) return package;
-    }
-    const std::string name = QualifiedName(object);
-    return name.substr(0, name.find(kNameSeparator));
-}
-
 bool HasCategory(OXMIDicElementH& object, OXMIDicElementH& category) {
     for (OXMIDicElementH& each : zandic::All<OXMIDicElementH>(object, &OXMIDicElementH::GetCategories)) {
         if (IsSame(each, category)) return true;
@@ -134,6 +124,15 @@ void ShowObject(const zandic::Dictionary& dictionary, OXMIDicElementH& object, O
     for (const KindView& row : kKindViews) {
         if (row.kind == zandic::Kind(object)) row.show(view, object);
     }
+}
+
+std::string PackageNameOf(OXMIDicElementH& object) {
+    if (const auto element = zandic::As<OXMIDicElement>(object)) {
+        const std::string package = TextOf(*element, &OXMIDicElement::GetPackageName);
+        if (!package.empty()) return package;
+    }
+    const std::string name = QualifiedName(object);
+    return name.substr(0, name.find(kNameSeparator));
 }
 
 std::string NameIn(const View& view, OXMIDicElementH& object) {

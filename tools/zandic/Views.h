@@ -62,6 +62,9 @@ void ShowVisibleBlocks(const View& view, OXMIDicClass& classElement);
 
 // What several sheets share.
 
+/// \returns the package of the object, or its own name when it is one: the first part of its name.
+std::string PackageNameOf(OXMIDicElementH& object);
+
 /// \returns the qualified name, without the package when that is the one of the view.
 std::string NameIn(const View& view, OXMIDicElementH& object);
 
