@@ -26,6 +26,14 @@ struct Options {
     bool json = false;
     bool quiet = false;
 
+    // check
+    bool all = false;                          ///< every document of the path
+    bool allFaults = false;                    ///< also what only follows from other faults
+    bool strict = false;                       ///< warnings count as errors do
+    std::optional<std::string> format;         ///< of the answer
+    std::optional<std::string> baseline;       ///< a file: faults that are accepted
+    std::optional<std::string> writeBaseline;  ///< the same, to be written
+
     bool Traces() const { return traceLevel.has_value() || traceMethods.has_value(); }
 };
 

@@ -1,6 +1,7 @@
 #ifndef ZANDIC_TOOL_SESSION_H
 #define ZANDIC_TOOL_SESSION_H
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <string_view>
@@ -63,6 +64,9 @@ public:
     /// Note what could not be done, and what must not be asked for.
     void Refuse(std::string subject, std::string text);
     void RejectUse(std::string subject, std::string text);
+
+    /// Makes the exit status at least as bad; whoever calls says why.
+    void Raise(ExitStatus status) { _Status = std::max(_Status, status); }
 
     /// Notes what the user should know though it was done.
     void Warn(std::string_view subject, std::string_view text);

@@ -17,6 +17,7 @@ namespace complete {
 /// What a reference may point at: an interface that the object answers, and the types that it may have.
 /// Several kinds answer the same interfaces, so the type decides as well.
 struct TargetKind {
+    std::string_view word;  ///< for people
     std::string_view interfaceName;
     ZELInterfaceId interfaceId;
     std::span<const OXMDicTYPE> types;
@@ -41,16 +42,19 @@ inline constexpr OXMDicTYPE kRelationshipTypes[] = {OXMDicTYPE_Relationship};
 inline constexpr OXMDicTYPE kInterfaceTypes[] = {OXMDicTYPE_Interface};
 inline constexpr OXMDicTYPE kRBOClassTypes[] = {OXMDicTYPE_RBOClass};
 
-inline constexpr TargetKind kClassKind{"OXMIDicClass", IID_OXMIDicClass, kClassTypes};
-inline constexpr TargetKind kEnumKind{"OXMIDicEnum", IID_OXMIDicEnum, kEnumTypes};
-inline constexpr TargetKind kCategoryKind{"OXMIDicCategory", IID_OXMIDicCategory, kCategoryTypes};
-inline constexpr TargetKind kCommandKind{"OXMIDicCommand", IID_OXMIDicCommand, kCommandTypes};
-inline constexpr TargetKind kAttributeKind{"OXMIDicAttribute", IID_OXMIDicAttribute, kAttributeTypes};
-inline constexpr TargetKind kRelationshipKind{"OXMIDicRelationship", IID_OXMIDicRelationship,
+inline constexpr TargetKind kClassKind{"class", "OXMIDicClass", IID_OXMIDicClass, kClassTypes};
+inline constexpr TargetKind kEnumKind{"enumeration", "OXMIDicEnum", IID_OXMIDicEnum, kEnumTypes};
+inline constexpr TargetKind kCategoryKind{"category", "OXMIDicCategory", IID_OXMIDicCategory, kCategoryTypes};
+inline constexpr TargetKind kCommandKind{"command", "OXMIDicCommand", IID_OXMIDicCommand, kCommandTypes};
+inline constexpr TargetKind kAttributeKind{"attribute", "OXMIDicAttribute", IID_OXMIDicAttribute,
+                                           kAttributeTypes};
+inline constexpr TargetKind kRelationshipKind{"relationship", "OXMIDicRelationship", IID_OXMIDicRelationship,
                                               kRelationshipTypes};
-inline constexpr TargetKind kInterfaceKind{"OXMIDicInterface", IID_OXMIDicInterface, kInterfaceTypes};
-inline constexpr TargetKind kRBOClassKind{"OXMIDicRBOClass", IID_OXMIDicRBOClass, kRBOClassTypes};
-inline constexpr TargetKind kAnyKind{"OXMIDicElement", IID_OXMIDicElement, {}};
+inline constexpr TargetKind kInterfaceKind{"interface", "OXMIDicInterface", IID_OXMIDicInterface,
+                                           kInterfaceTypes};
+inline constexpr TargetKind kRBOClassKind{"RBO class", "OXMIDicRBOClass", IID_OXMIDicRBOClass,
+                                          kRBOClassTypes};
+inline constexpr TargetKind kAnyKind{"element", "OXMIDicElement", IID_OXMIDicElement, {}};
 
 /// One reference attribute of one tag, or one item of it.
 struct ReferenceSpot {
@@ -111,6 +115,7 @@ HRESULT Resolve(const ReferenceSpot& spot, std::string_view uuidText, const Targ
             return ReportLeftOut(spot, uuidText, cause);
         }
         Fault fault = ReferenceFault(spot, ReferenceOfWrongKind, found.Get());
+        fault.detail = kind.word;
         addLine(fault, spot, Joined({text::kQueryInterface, kind.interfaceName, text::kQueryFailed}));
         return reading.faults.Report(fault);
     }

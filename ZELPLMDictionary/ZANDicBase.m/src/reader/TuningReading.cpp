@@ -201,6 +201,7 @@ HRESULT TuningReading::find_Owner(const ZELVBTXMLNode& node, Owner& owner) {
                      Joined({tuningtext::kElement, text.Value(), tuningtext::kNotSupported, _Name.View()}));
         fault.attribute = text;
         SetOther(fault, *object);
+        fault.detail = "class or extension";
         return _Faults.Report(fault);
     }
     if (Failed(object->QueryInterface(IID_OXMIDicClass, owner.face.OutVoid()))) {
@@ -273,7 +274,7 @@ HRESULT TuningReading::read_Attributes(BlockTag& block) {
         Fault fault = fault_Of(isThere ? ReferenceOfWrongKind : ReferenceNotFound, block.node,
                                Joined({tuningtext::kNoAttribute, text, tuningtext::kIn, className}));
         fault.attribute = list;
-        fault.detail = text;
+        fault.detail = isThere ? std::string_view("attribute") : text;
         if (isThere) SetOther(fault, *object);
         const int cause = isThere ? 0 : cause_OfLeftOut(uuid);
         const HRESULT rc =
@@ -322,6 +323,7 @@ HRESULT TuningReading::get_Block(const BlockTag& tag, const ZELVBTXMLAttribute& 
                            Joined({tuningtext::kError, UuidText(uuid), tuningtext::kWrongType}));
     fault.attribute = uuidText;
     SetOther(fault, *object);
+    fault.detail = "attribute block";
     return _Faults.Report(fault);
 }
 
