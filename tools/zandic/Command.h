@@ -49,6 +49,9 @@ std::string_view GroupWord(Group group);
 // One source each: LoadCommand.cpp and so on. Each tries every NAME; what fails is told to the session.
 void RunLoad(Session& session, const Options& options, Output& output);
 void RunShow(Session& session, const Options& options, Output& output);
+void RunTree(Session& session, const Options& options, Output& output);
+void RunFind(Session& session, const Options& options, Output& output);
+void RunStats(Session& session, const Options& options, Output& output);
 void RunBlocks(Session& session, const Options& options, Output& output);
 void RunDump(Session& session, const Options& options, Output& output);
 void RunSave(Session& session, const Options& options, Output& output);

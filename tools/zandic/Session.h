@@ -40,14 +40,17 @@ public:
         return _Dictionary.Package(_Observer.NameIn(asked));
     }
 
-    /// One load that was tried: the package's name and the time that it took by itself.
-    struct LoadTime {
+    /// One load that was tried: the package's name and what it took by itself.
+    struct LoadOf {
         std::string package;
-        LoadClock::Duration own;
+        LoadCost own;
     };
 
     /// \returns the loads, those first that ended first: a package after what it uses.
-    std::vector<LoadTime> LoadTimes() const;
+    std::vector<LoadOf> LoadCosts() const;
+
+    /// Lets the loads from now on be measured in memory, too.
+    void MeasureMemory() { _Clock.MeasureMemory(); }
 
     /// \returns the directories that are searched, separated by ":"; empty when there are none.
     const std::string& Path() const { return _Path; }
