@@ -30,7 +30,10 @@ private:
         std::uint32_t characters = 0;
     };
 
+    static constexpr std::size_t kBlock = 16;
+
     Place Count(Place place, std::size_t begin, std::size_t end) const;
+    static void CountBlock(const char* bytes, Place& place);
 
     std::string_view text_;
     std::uint32_t markLength_;

@@ -1,6 +1,7 @@
 #include "DocumentPlaces.h"
 
 #include <algorithm>
+#include <bit>
 #include <utility>
 
 #include "HexToBinary.h"
@@ -12,9 +13,7 @@ namespace {
 namespace tag = ZANDicFormat::tag;
 namespace word = ZANDicFormat::word;
 
-bool IsComment(const ZELVBTXMLNode& node) {
-    return node.getTag() == tag::kComment || node.getTag() == tag::kKVAComment;
-}
+constexpr std::size_t kFewestSlots = 16;
 
 }  // namespace
 
@@ -25,6 +24,11 @@ std::unique_ptr<DocumentPlaces> DocumentPlaces::Read(const char* path) {
 }
 
 DocumentPlaces::DocumentPlaces(std::unique_ptr<ZELVBTXMLDocument> document) : _Document(std::move(document)) {
+    add_All();
+    fill_Slots();
+}
+
+void DocumentPlaces::add_All() {
     _ENTRIES.reserve(_Document->ElementCount());
     for (std::uint32_t element = 0; element < _Document->ElementCount();) {
         const ZELVBTXMLNode node = _Document->ElementAt(element);
@@ -40,18 +44,27 @@ DocumentPlaces::DocumentPlaces(std::unique_ptr<ZELVBTXMLDocument> document) : _D
         }
         ++element;
     }
-    std::sort(_ENTRIES.begin(), _ENTRIES.end(), [](const Entry& a, const Entry& b) {
-        const int order = a.uuid.Compare(b.uuid);
-        return order != 0 ? order < 0 : a.element < b.element;
-    });
+}
+
+void DocumentPlaces::fill_Slots() {
+    _SLOTS.resize(std::bit_ceil(std::max(2 * _ENTRIES.size(), kFewestSlots)));
+    for (std::size_t index = 0; index < _ENTRIES.size(); ++index) {
+        std::uint32_t& slot = _SLOTS[slot_Of(_ENTRIES[index].uuid)];
+        if (slot == 0) slot = static_cast<std::uint32_t>(index + 1);
+    }
+}
+
+/// The slot of that UUID, or the free one where it would stand.
+std::size_t DocumentPlaces::slot_Of(const ZELDbBinary& uuid) const {
+    const std::size_t mask = _SLOTS.size() - 1;
+    std::size_t slot = uuid.ComputeHashKey() & mask;
+    while (_SLOTS[slot] != 0 && !(_ENTRIES[_SLOTS[slot] - 1].uuid == uuid)) slot = (slot + 1) & mask;
+    return slot;
 }
 
 ZELVBTXMLNode DocumentPlaces::Find(const ZELDbBinary& uuid) const {
-    const auto found =
-        std::lower_bound(_ENTRIES.begin(), _ENTRIES.end(), uuid,
-                         [](const Entry& entry, const ZELDbBinary& key) { return entry.uuid < key; });
-    if (found == _ENTRIES.end() || !(found->uuid == uuid)) return {};
-    return _Document->ElementAt(found->element);
+    const std::uint32_t number = _SLOTS[slot_Of(uuid)];
+    return number != 0 ? _Document->ElementAt(_ENTRIES[number - 1].element) : ZELVBTXMLNode();
 }
 
 ZanDicPlace DocumentPlaces::PlaceOf(const ZELDbBinary& uuid) const { return tool::PlaceOf(Find(uuid)); }
@@ -73,6 +86,10 @@ ZanDicPlace PlaceOf(const ZELVBTXMLAttribute& attribute) {
     if (!attribute) return {};
     const ZELVBTXMLPosition position = attribute.Position();
     return {position.line, position.column};
+}
+
+bool IsComment(const ZELVBTXMLNode& node) {
+    return node.getTag() == tag::kComment || node.getTag() == tag::kKVAComment;
 }
 
 }  // namespace tool

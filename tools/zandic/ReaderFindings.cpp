@@ -8,6 +8,7 @@
 #include "CheckPlan.h"
 #include "Names.h"
 #include "Nearest.h"
+#include "RuleSuggestions.h"
 #include "ZANDicValueWords.h"
 
 namespace tool {
@@ -63,7 +64,7 @@ bool ReaderFindings::OnDiagnostic(const ZanDicDiagnostic& diagnostic) {
     finding.at = {ShownFile(diagnostic.File()), diagnostic.Place()};
     // A load goes on without a faulty tuning document; whoever wrote it wants it to count.
     finding.severity = IsTuningFile(finding.at.file) ? ZanDicSeverity::Error : diagnostic.Severity();
-    finding.text = TextOf(diagnostic);
+    finding.text = TextOf(diagnostic) + SuggestionFor(diagnostic);
     finding.element = ElementOf(diagnostic);
     if (diagnostic.Cause() > 0)
         finding.cause = _BY_NUMBER.at(static_cast<std::size_t>(diagnostic.Cause()) - 1);

@@ -1,0 +1,109 @@
+#include "RulePackages.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "RuleCodes.h"
+
+namespace tool {
+namespace {
+
+namespace word = ZANDicFormat::word;
+
+std::string_view BeforeDot(std::string_view item) { return item.substr(0, item.find('.')); }
+
+/// The name under which a file is asked for.
+std::string_view StemOf(std::string_view file) {
+    const std::size_t slash = file.rfind('/');
+    return BeforeDot(slash != std::string_view::npos ? file.substr(slash + 1) : file);
+}
+
+}  // namespace
+
+void PackageRules::read_Names() {
+    for (const std::string_view list : {word::kUseNames, word::kUseScopes}) {
+        const ZELVBTXMLAttribute attribute = _Document.Package().getAttribute(list);
+        if (!attribute) continue;
+        const bool isScope = list == word::kUseScopes;
+        std::set<std::string_view> known;
+        std::set<std::string_view> told;
+        ForEachItem(attribute.Value(), [&](std::string_view item) {
+            if (known.insert(item).second) {
+                _NAMES.push_back({item, attribute, isScope});
+            } else if (told.insert(item).second) {
+                _Document.Tell(rule::kRepeatedReference, _Document.Package(), attribute,
+                               fmt::format("{} of {} names {} more than once", list,
+                                           Quoted(_Document.PackageName()), Quoted(item)));
+            }
+        });
+    }
+}
+
+void PackageRules::Refer(const RuleElement& element) {
+    for (const Target& target : element.targets) {
+        const Party& party = target.party;
+        if (party.IsHere() || party.package->empty() || !_MET.insert(party.package).second) continue;
+        _USED.insert(*party.package);
+        if (is_Named(*party.package) || _Document.IsTold(target.attribute)) continue;
+        Finding* const finding =
+            _Document.Tell(rule::kUnnamedPackage, element.node, target.attribute,
+                           fmt::format("package {} is used, but neither UseNames nor UseScopes names it",
+                                       Quoted(*party.package)));
+        _Document.Note(
+            finding, party,
+            fmt::format("{} {} is here", _Document.TagOf(party), _Document.QualifiedNameOf(party)));
+        if (finding == nullptr) _MET.erase(party.package);
+    }
+}
+
+void PackageRules::Finish(const DocumentPlaces* tuning) {
+    if (tuning != nullptr) use_Tuning(*tuning);
+    for (const Named& named : _NAMES) {
+        if (!named.isScope) check_Name(named);
+    }
+}
+
+/// Blocks may extend those of packages that nothing else refers to.
+void PackageRules::use_Tuning(const DocumentPlaces& tuning) {
+    const ZELVBTXMLDocument& document = tuning.Document();
+    for (std::uint32_t index = 0; index < document.AttributeCount(); ++index) {
+        const ZELVBTXMLAttribute attribute = document.AttributeAt(index);
+        const std::string_view name = attribute.Name();
+        if (name != word::kExtents && name != word::kAttributeUuids && name != word::kUuid) continue;
+        ForEachItem(attribute.Value(), [this](std::string_view item) {
+            const Party party = _Document.Find(item);
+            if (party && !party.IsHere()) _USED.insert(*party.package);
+        });
+    }
+}
+
+void PackageRules::check_Name(const Named& named) {
+    const std::string_view name = BeforeDot(named.item);
+    const CheckedDocument& checked = _Document.Checked();
+    if (name == _Document.PackageName() || name == StemOf(checked.file)) {
+        _Document.Tell(rule::kUnusedPackage, _Document.Package(), named.attribute,
+                       fmt::format("package {} names itself in UseNames", Quoted(_Document.PackageName())));
+        return;
+    }
+    const bool isUsed = std::any_of(_USED.begin(), _USED.end(),
+                                    [&](const std::string& package) { return means(named.item, package); });
+    // Of a package that is not there nobody knows what is in it.
+    const bool isKnown = checked.dictionary.Package(name) || !checked.documents.FileOf(name).empty();
+    if (isUsed || !isKnown) return;
+    _Document.Tell(rule::kUnusedPackage, _Document.Package(), named.attribute,
+                   fmt::format("package {} of UseNames is not used", Quoted(name)));
+}
+
+bool PackageRules::is_Named(const std::string& package) const {
+    return std::any_of(_NAMES.begin(), _NAMES.end(),
+                       [&](const Named& named) { return means(named.item, package); });
+}
+
+/// A package is named as its document names it, or as its file is called.
+bool PackageRules::means(std::string_view item, const std::string& package) const {
+    const std::string_view name = BeforeDot(item);
+    return name == package || name == StemOf(_Document.Checked().documents.FileOf(package));
+}
+
+}  // namespace tool
