@@ -11,7 +11,48 @@ constexpr Operands kAnything{"NAME", "PACKAGE, PACKAGE::ELEMENT, PACKAGE::ELEMEN
 constexpr Operands kClasses{
     "NAME", "PACKAGE or PACKAGE::CLASS, the package maybe with a content word; or the UUID of either"};
 
+constexpr OptionRow kTreeOptions[] = {
+    kInOption,
+    {"--attributes", "", "with the own attributes of each class", &Options::attributes},
+    {"--depth", "N", "how many levels below the first, from 0", &Options::depth},
+    kJsonOption,
+};
+constexpr OptionRow kFindOptions[] = {
+    kInOption,
+    {"--kind", "KIND", "only objects of this tag, as Class or Simple; Attribute is all three",
+     &Options::kind},
+    {"--type", "PATTERN", "only attributes and parameters of such a type", &Options::type},
+    {"--refers-to", "NAME", "only what refers to this object, with how it does", &Options::refersTo},
+    kJsonOption,
+};
+
+std::string_view WrongSearch(const Options& options) {
+    const bool isAnything = !options.names.empty() || options.kind || options.type || options.refersTo;
+    return isAnything ? "" : "PATTERN is missing";
+}
+
+constexpr OptionRow kLoadOptions[] = {kInOption, kNoTimesOption, kJsonOption};
+constexpr OptionRow kStatsOptions[] = {
+    kInOption,
+    {"--top", "N", "how many of each list, 10 unless told", &Options::top},
+    kNoTimesOption,
+    kJsonOption,
+};
 constexpr OptionRow kListOptions[] = {kInOption};
+constexpr OptionRow kCheckOptions[] = {
+    {"--all", "", "every document of every kind on the path", &Options::all},
+    {"--all-faults", "", "also the faults that only follow from others", &Options::allFaults},
+    {"--strict", "", "warnings fail the check as errors do", &Options::strict},
+    {"--format", "text|json|sarif|junit", "the form of the answer; text, if nothing is said",
+     &Options::format},
+    {"--json", "", "the same as --format json", &Options::json},
+    {"--baseline", "FILE", "accept the faults that the file records; only new ones count",
+     &Options::baseline},
+    {"--write-baseline", "FILE", "record today's faults in the file, and accept them",
+     &Options::writeBaseline},
+    {"--in", "NAME ...", "without a name: the packages to check", &Options::in},
+};
+constexpr OptionRow kExplainOptions[] = {kJsonOption};
 constexpr OptionRow kDumpOptions[] = {
     kInOption,
     {"--json", "", "the only form there is, and needed", &Options::json, true},
@@ -31,6 +72,25 @@ std::string_view WrongPlaces(const Options& options) {
 }
 
 constexpr Command kCommands[] = {
+    {"tree", Group::Look, "the hierarchy of classes", kClasses, kTreeOptions,
+     "Of a class: what it is derived from, and all that is derived from it in the loaded packages. Of a "
+     "package: the hierarchies that begin in it. Of all packages: each hierarchy once, where it begins. "
+     "Names of other packages stand with them.",
+     RunTree},
+    {"find",
+     Group::Look,
+     "objects by name, UUID, kind, or by whom they refer to",
+     {"PATTERN",
+      "a name of any case, with *, ? and [a-z]; with '::' one with its owners; or at least four "
+      "digits that a UUID begins with",
+      false, true},
+     kFindOptions,
+     "Looks in the packages that --in names, else in every *.metadata of the path. One line for each object: "
+     "its name, its kind, and what there is to say of it. What refers to NAME: subclasses, attributes, "
+     "inverses, scopes, extensions, mappings, parameters, blocks, keys, and packages that use it.\n"
+     "The exit status is 1 when nothing was found.",
+     RunFind,
+     WrongSearch},
     {"show", Group::Look, "all about a package, an element or a member", kAnything, kListOptions,
      "A MEMBER is an attribute, a unique key, a block, an enumerator, a method or a root. The name may go "
      "on: "
@@ -43,7 +103,33 @@ constexpr Command kCommands[] = {
      "that no other block holds. That is made for this answer, in the memory of this run only. Of a package, "
      "classes without blocks are only named.",
      RunBlocks},
-    {"load", Group::Check, "load packages, and count what is in them", kPackages, kListOptions,
+    {"stats", Group::Look, "how many, how deep, how wide, and what a load takes", kPackages, kStatsOptions,
+     "Counts what is loaded, those packages that a NAME uses included. Deepest: the classes on the way from "
+     "a "
+     "root down, both included. Widest: own and inherited attributes. Referred to: by everything but "
+     "redefinitions, primitives left out. Memory is what a load leaves on the heap.",
+     RunStats},
+    {"check",
+     Group::Check,
+     "every fault in documents, at its place",
+     {"NAME", "packages, or files: what holds a separator or ends in a content word"},
+     kCheckOptions,
+     "Reads each document with its tuning document and writes a line for each fault, sorted by "
+     "place: FILE:LINE:COLUMN: error[CODE]: TEXT, with a note for whatever else takes part in it. "
+     "Errors are what makes a load fail, or costs a package its attribute blocks; warnings are what "
+     "a load accepts and its author would want to know. Nothing stays loaded. What a file needs is "
+     "looked for in its own directory, then on the path. The exit status is 1 when there are errors.\n"
+     "'zandic explain CODE' tells the rule.",
+     RunCheck,
+     WrongCheck},
+    {"explain",
+     Group::Check,
+     "what a fault's code means",
+     {"CODE", "codes of faults; without one, the list of all"},
+     kExplainOptions,
+     "Writes the rule in words, with an example that breaks it and one that keeps it.",
+     RunExplain},
+    {"load", Group::Check, "load packages, and count what is in them", kPackages, kLoadOptions,
      "Writes one line for each package that got loaded, those that a NAME uses included: name, UUID, "
      "elements by kind, its own milliseconds. The last line is the total.",
      RunLoad},

@@ -49,11 +49,19 @@ std::string_view GroupWord(Group group);
 // One source each: LoadCommand.cpp and so on. Each tries every NAME; what fails is told to the session.
 void RunLoad(Session& session, const Options& options, Output& output);
 void RunShow(Session& session, const Options& options, Output& output);
+void RunTree(Session& session, const Options& options, Output& output);
+void RunFind(Session& session, const Options& options, Output& output);
+void RunStats(Session& session, const Options& options, Output& output);
 void RunBlocks(Session& session, const Options& options, Output& output);
 void RunDump(Session& session, const Options& options, Output& output);
 void RunSave(Session& session, const Options& options, Output& output);
 void RunExpress(Session& session, const Options& options, Output& output);
+void RunCheck(Session& session, const Options& options, Output& output);
+void RunExplain(Session& session, const Options& options, Output& output);
 void RunHelp(Session& session, const Options& options, Output& output);
+
+/// \returns what is wrong with options of `check` that are right one by one.
+std::string_view WrongCheck(const Options& options);
 
 }  // namespace tool
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "Faults.h"
+#include "Glob.h"
 #include "Help.h"
 #include "Nearest.h"
 #include "Streams.h"
@@ -202,11 +203,13 @@ std::string Reader::Read() {
     return "";
 }
 
-/// An option that takes several values takes all that follow. A UUID cannot be loaded: where one stands among
-/// them, the operands begin. Where a command needs an operand and has none, it is the last of them.
+/// An option that takes several values takes all that follow. A UUID and a pattern cannot be loaded: where
+/// one stands among them, the operands begin. Where a command needs an operand and has none, it is the last
+/// of them.
 void EndInAtOperands(const Command& command, Options& options) {
-    auto first = std::find_if(options.in.begin(), options.in.end(),
-                              [](const std::string& value) { return zandic::ParseUuid(value).has_value(); });
+    auto first = std::find_if(options.in.begin(), options.in.end(), [](const std::string& value) {
+        return zandic::ParseUuid(value).has_value() || Glob::IsPattern(value);
+    });
     const bool isLast = first == options.in.end() && command.operands.isNeeded && options.names.empty() &&
                         options.in.size() > 1;
     if (isLast) --first;

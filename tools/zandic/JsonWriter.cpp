@@ -70,6 +70,14 @@ void JsonWriter::Number(std::int64_t number) {
     _Output.Write({digits.data(), static_cast<std::size_t>(end - digits.data())});
 }
 
+void JsonWriter::Decimal(double number, int digits) {
+    BeginValue();
+    std::array<char, 64> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed, digits).ptr;
+    _Output.Write({text.data(), static_cast<std::size_t>(end - text.data())});
+}
+
 void JsonWriter::Flag(bool flag) {
     BeginValue();
     _Output.Write(flag ? "true" : "false");

@@ -31,6 +31,9 @@ public:
 
     void Text(std::string_view text);
     void Number(std::int64_t number);
+
+    /// A number with that many digits behind the point.
+    void Decimal(double number, int digits);
     void Flag(bool flag);
     void Null();
 

@@ -1,8 +1,19 @@
 #include "LoadClock.h"
 
+#include <malloc.h>
+
 #include <algorithm>
 
 namespace tool {
+namespace {
+
+/// \returns how many bytes of the heap are taken.
+std::int64_t BytesTaken() {
+    const struct mallinfo2 heap = mallinfo2();
+    return static_cast<std::int64_t>(heap.uordblks + heap.hblkhd);
+}
+
+}  // namespace
 
 void LoadClock::StepIn(std::string_view, std::string_view subject) {
     ChargeCurrent();
@@ -24,8 +35,11 @@ void LoadClock::StepOut(std::string_view, std::string_view) {
 
 void LoadClock::ChargeCurrent() {
     const auto now = std::chrono::steady_clock::now();
-    if (!_PHASES.empty()) _PHASES.back()->second += now - _Since;
-    _Since = now;
+    const std::int64_t bytes = _MeasuresMemory ? BytesTaken() : 0;
+    if (!_PHASES.empty()) _PHASES.back()->second += {now - _Since, bytes - _BytesSince};
+    // What measuring takes is nobody's.
+    _Since = _MeasuresMemory ? std::chrono::steady_clock::now() : now;
+    _BytesSince = bytes;
 }
 
 void LoadClock::FinishLast() {
@@ -34,9 +48,9 @@ void LoadClock::FinishLast() {
     _LOADS.pop_back();
 }
 
-LoadClock::Duration LoadClock::Own(std::string_view subject) const {
+LoadCost LoadClock::Own(std::string_view subject) const {
     const auto found = _OWN.find(subject);
-    return found != _OWN.end() ? found->second : Duration{};
+    return found != _OWN.end() ? found->second : LoadCost{};
 }
 
 }  // namespace tool

@@ -2,6 +2,7 @@
 #define ZANDIC_TOOL_LOAD_CLOCK_H
 
 #include <chrono>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
@@ -11,12 +12,27 @@
 
 namespace tool {
 
+/// What a load took.
+struct LoadCost {
+    std::chrono::steady_clock::duration time{};
+    std::int64_t bytes = 0;  ///< of the heap that stay taken; 0 where nobody measures
+
+    double Milliseconds() const { return std::chrono::duration<double, std::milli>(time).count(); }
+
+    LoadCost& operator+=(const LoadCost& other) {
+        time += other.time;
+        bytes += other.bytes;
+        return *this;
+    }
+};
+
 /// Measures the load of each package by itself: while a phase stands inside another, only the inner one
 /// runs. A phase belongs to its subject up to the first ".", which is the name of a package. A load that
 /// waits for another ends its phase and begins it again after that.
 class LoadClock final : public ZanDicProfiler {
 public:
-    using Duration = std::chrono::steady_clock::duration;
+    /// Counts the bytes of the heap as well, from now on.
+    void MeasureMemory() { _MeasuresMemory = true; }
 
     void StepIn(std::string_view operation, std::string_view subject) override;
     void StepOut(std::string_view operation, std::string_view subject) override;
@@ -27,11 +43,11 @@ public:
     /// \returns the subjects, those first whose load ended first: a package after what it uses.
     const std::vector<std::string>& Finished() const { return _FINISHED; }
 
-    /// \returns the time of one subject; zero for an unknown one.
-    Duration Own(std::string_view subject) const;
+    /// \returns what one subject took; nothing for an unknown one.
+    LoadCost Own(std::string_view subject) const;
 
 private:
-    using Records = std::map<std::string, Duration, std::less<>>;
+    using Records = std::map<std::string, LoadCost, std::less<>>;
 
     void ChargeCurrent();
     void FinishLast();
@@ -41,6 +57,8 @@ private:
     std::vector<std::string> _LOADS;         ///< those that run or wait, each for the one behind it
     std::vector<std::string> _FINISHED;
     std::chrono::steady_clock::time_point _Since;
+    std::int64_t _BytesSince = 0;
+    bool _MeasuresMemory = false;
 };
 
 }  // namespace tool

@@ -30,7 +30,7 @@ bool IsBeginning(std::string_view word, std::string_view candidate) {
 }  // namespace
 
 Nearest::Nearest(std::string_view word)
-    : _Word(word), _Limit(kEdit * std::max<std::size_t>(1, word.size() / 3)) {}
+    : _Word(word), _Limit(kEdit * std::max<std::size_t>(1, word.size() / 3) + kCase) {}
 
 void Nearest::Add(std::string_view candidate) {
     if (_Word.empty() || candidate.empty() || _Word.size() > kLongest) return;

@@ -44,6 +44,9 @@ inline constexpr OptionRow kInOption{
 
 inline constexpr OptionRow kJsonOption{"--json", "", "write JSON", &Options::json};
 
+inline constexpr OptionRow kNoTimesOption{
+    "--no-times", "", "without times and memory, which differ from run to run", &Options::noTimes};
+
 /// Options that every command has.
 inline constexpr OptionRow kCommonOptions[] = {
     {"--path", "DIRS",

@@ -23,8 +23,23 @@ struct Options {
     std::optional<std::string> traceMethods;  ///< a file
     std::optional<std::string> to;            ///< the directory for files
     bool toOutput = false;                    ///< standard output takes them
+    std::optional<int> depth;                 ///< how many levels
+    std::optional<std::string> kind;          ///< a tag
+    std::optional<std::string> type;          ///< a pattern for the name of a type
+    std::optional<std::string> refersTo;      ///< an object
+    bool attributes = false;                  ///< with the attributes of each class
+    std::optional<int> top;                   ///< how many of a list
+    bool noTimes = false;                     ///< nothing that is measured
     bool json = false;
     bool quiet = false;
+
+    // check
+    bool all = false;                          ///< every document of the path
+    bool allFaults = false;                    ///< also what only follows from other faults
+    bool strict = false;                       ///< warnings count as errors do
+    std::optional<std::string> format;         ///< of the answer
+    std::optional<std::string> baseline;       ///< a file: faults that are accepted
+    std::optional<std::string> writeBaseline;  ///< the same, to be written
 
     bool Traces() const { return traceLevel.has_value() || traceMethods.has_value(); }
 };

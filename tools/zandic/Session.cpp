@@ -87,19 +87,19 @@ bool Session::LoadAs(const std::string& name, Gravity gravity) {
     return false;
 }
 
-std::vector<Session::LoadTime> Session::LoadTimes() const {
-    std::vector<LoadTime> times;
+std::vector<Session::LoadOf> Session::LoadCosts() const {
+    std::vector<LoadOf> costs;
     for (const std::string& asked : _Clock.Finished()) {
         const std::string package = _Observer.NameIn(asked);
-        const auto same = std::find_if(times.begin(), times.end(),
-                                       [&](const LoadTime& time) { return time.package == package; });
-        if (same == times.end()) {
-            times.push_back({package, _Clock.Own(asked)});
+        const auto same = std::find_if(costs.begin(), costs.end(),
+                                       [&](const LoadOf& cost) { return cost.package == package; });
+        if (same == costs.end()) {
+            costs.push_back({package, _Clock.Own(asked)});
         } else {
             same->own += _Clock.Own(asked);
         }
     }
-    return times;
+    return costs;
 }
 
 std::vector<std::string> Session::LoadPath(PathDocuments which) {

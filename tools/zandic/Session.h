@@ -1,6 +1,7 @@
 #ifndef ZANDIC_TOOL_SESSION_H
 #define ZANDIC_TOOL_SESSION_H
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <string_view>
@@ -39,14 +40,17 @@ public:
         return _Dictionary.Package(_Observer.NameIn(asked));
     }
 
-    /// One load that was tried: the package's name and the time that it took by itself.
-    struct LoadTime {
+    /// One load that was tried: the package's name and what it took by itself.
+    struct LoadOf {
         std::string package;
-        LoadClock::Duration own;
+        LoadCost own;
     };
 
     /// \returns the loads, those first that ended first: a package after what it uses.
-    std::vector<LoadTime> LoadTimes() const;
+    std::vector<LoadOf> LoadCosts() const;
+
+    /// Lets the loads from now on be measured in memory, too.
+    void MeasureMemory() { _Clock.MeasureMemory(); }
 
     /// \returns the directories that are searched, separated by ":"; empty when there are none.
     const std::string& Path() const { return _Path; }
@@ -63,6 +67,9 @@ public:
     /// Note what could not be done, and what must not be asked for.
     void Refuse(std::string subject, std::string text);
     void RejectUse(std::string subject, std::string text);
+
+    /// Makes the exit status at least as bad; whoever calls says why.
+    void Raise(ExitStatus status) { _Status = std::max(_Status, status); }
 
     /// Notes what the user should know though it was done.
     void Warn(std::string_view subject, std::string_view text);

@@ -15,23 +15,6 @@ constexpr std::size_t kNoteIndent = 6;    // of the free text below a row
 constexpr std::size_t kGap = 2;           // between columns
 constexpr std::size_t kNarrowCell = 16;
 
-std::string Printable(std::string_view text) {
-    std::string printable;
-    for (const char c : text) {
-        const auto code = static_cast<unsigned char>(c);
-        if (c == '\n') {
-            printable += "\\n";
-        } else if (c == '\t') {
-            printable += "\\t";
-        } else if (code < 0x20 || code == 0x7f) {
-            printable += fmt::format("\\x{:02X}", code);
-        } else {
-            printable += c;
-        }
-    }
-    return printable;
-}
-
 std::string Padded(std::string_view text, std::size_t width) {
     const std::size_t used = WidthOf(text);
     return std::string(text) + std::string(width > used ? width - used : 0, ' ');
@@ -50,6 +33,23 @@ void FitIntoLine(std::vector<std::size_t>& widths) {
 }
 
 }  // namespace
+
+std::string Printable(std::string_view text) {
+    std::string printable;
+    for (const char c : text) {
+        const auto code = static_cast<unsigned char>(c);
+        if (c == '\n') {
+            printable += "\\n";
+        } else if (c == '\t') {
+            printable += "\\t";
+        } else if (code < 0x20 || code == 0x7f) {
+            printable += fmt::format("\\x{:02X}", code);
+        } else {
+            printable += c;
+        }
+    }
+    return printable;
+}
 
 std::size_t WidthOf(std::string_view text) {
     return static_cast<std::size_t>(std::count_if(

@@ -47,6 +47,9 @@ private:
     Output& _Output;
 };
 
+/// \returns the text with an escape for each character that would move the cursor.
+std::string Printable(std::string_view text);
+
 /// \returns the number of characters of a UTF-8 text.
 std::size_t WidthOf(std::string_view text);
 

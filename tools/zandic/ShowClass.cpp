@@ -2,12 +2,10 @@
 
 #include <algorithm>
 
+#include "AttributeText.h"
 #include "Model.h"
 #include "OXMIDicExtension.h"
-#include "OXMIDicInverse.h"
-#include "OXMIDicPrimitive.h"
 #include "OXMIDicRelationship.h"
-#include "OXMIDicSimple.h"
 #include "Views.h"
 
 namespace tool {
@@ -43,28 +41,6 @@ std::string DerivableText(OXMIDicClass& classElement) {
     return inherited.empty() ? "" : fmt::format("{} (inherited)", inherited);
 }
 
-/// \returns what a relationship or inverse points at, in the width of a column.
-std::string TargetText(const View& view, OXMIDicRelationship& relation, OXMIDicElement* type) {
-    if (zandic::Kind(relation) == OXMDicTYPE_Inverse) {
-        const auto inverse = zandic::As<OXMIDicInverse>(relation);
-        if (const auto of = zandic::Link(*inverse, &OXMIDicInverse::GetInverse))
-            return "<- " + NameIn(view, *of);
-    }
-    const std::string scope(WordOf(relation, &OXMIDicRelationship::GetScope, ZANDicFormat::kScopeWords));
-    if (type == nullptr) return "-> ?";
-    return "-> " + NameIn(view, *type) + (scope.empty() ? "" : fmt::format(" ({})", scope));
-}
-
-std::string TypeText(const View& view, OXMIDicAttribute& attribute) {
-    const auto type = zandic::TypeOf(attribute);
-    if (zandic::Kind(attribute) != OXMDicTYPE_Simple) {
-        return TargetText(view, *zandic::As<OXMIDicRelationship>(attribute), type.Get());
-    }
-    if (!type) return "?";
-    const int maxLength = zandic::Get(attribute, &OXMIDicAttribute::GetMaxLength).value_or(-1);
-    return NameIn(view, *type) + (maxLength >= 0 ? fmt::format("({})", maxLength) : "");
-}
-
 void AddRelationNotes(const View& view, OXMIDicRelationship& relation, std::vector<std::string>& notes) {
     if (zandic::Kind(relation) != OXMDicTYPE_Relationship) return;
     if (zandic::Get(relation, &OXMIDicRelationship::GetAggregationMode) == OXMDicAGGREGATION_Composition) {
@@ -97,8 +73,8 @@ std::string NotesOf(const View& view, OXMIDicAttribute& attribute) {
 }
 
 std::vector<std::string> AttributeRow(const View& view, OXMIDicAttribute& attribute) {
-    return {std::string(zandic::Name(attribute).View()), TypeText(view, attribute), ValuesText(attribute),
-            NotesOf(view, attribute)};
+    return {std::string(zandic::Name(attribute).View()), AttributeTypeText(view, attribute),
+            ValuesText(attribute), NotesOf(view, attribute)};
 }
 
 /// Attributes that the same class declares, one section each: the root's first, the own ones last.

@@ -35,8 +35,14 @@ std::string ReferenceLine(const ReferenceSpot& spot, std::string_view reason) {
 Fault ReferenceFault(const ReferenceSpot& spot, ZanDicDiagnosticCode code, OXMIDicElementH* target) {
     Fault fault = FaultOf(spot.reading, code, spot.node);
     fault.attribute = spot.attribute;
-    if (target != nullptr) fault.otherParty = QualifiedName(*target);
+    if (target != nullptr) SetOther(fault, *target);
     return fault;
+}
+
+HRESULT ReportLeftOut(const ReferenceSpot& spot, std::string_view uuidText, int cause) {
+    Fault fault = ReferenceFault(spot, ZanDicDiagnosticCode::ReferenceNotFound, nullptr);
+    fault.detail = uuidText;
+    return spot.reading.faults.ReportConsequence(std::move(fault), cause);
 }
 
 HRESULT ReportSetterFailed(const ReferenceSpot& spot, OXMIDicElementH& target, std::string_view setter) {

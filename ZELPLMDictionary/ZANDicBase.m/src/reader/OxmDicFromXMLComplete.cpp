@@ -70,7 +70,7 @@ HRESULT CompleteTarget(const ReferenceSpot& spot, Member& member) {
     if (spot.attribute && !isSet && !spot.reading.faults.IsStopped()) {
         ZELDbBinary uuid;
         member.GetUuid(&uuid);
-        spot.reading.untargeted.Add(uuid);
+        spot.reading.untargeted.Add(uuid, spot.reading.faults.LastNumber());
     }
     return rc;
 }

@@ -61,7 +61,7 @@ HRESULT CheckMemberIdentity(Reading& reading, const ZanDicTraceScope& trace, con
         fault.lines.push_back({trace, Joined({text::kExitOf, node.getTag(), text::kNoAttribute, attribute})});
         if (!reading.faults.GoesOn(reading.faults.Report(fault), result)) return result;
     }
-    if (Failed(result)) reading.leftOut.AddAll(node);
+    if (Failed(result)) LeaveOut(reading, node);
     return result;
 }
 
@@ -75,8 +75,8 @@ HRESULT CreateMember(Reading& reading, const ZanDicTraceScope& trace, const ZELV
     const HRESULT rc = (owner.*factory)(&name, &uuid, member.Out());
     if (Succeeded(rc) && member) return S_OK;
     ZanDicRef<Face> other;
-    return ReportNotCreated(reading, trace, node, static_cast<bool>(member),
-                            Succeeded((owner.*find)(&name, other.Out())),
+    (owner.*find)(&name, other.Out());
+    return ReportNotCreated(reading, trace, node, static_cast<bool>(member), other.Get(),
                             Joined({text::kNotCreated, name.View(), text::kNotCreatedEnd}));
 }
 
