@@ -197,7 +197,7 @@ void CheckDocument(const CheckedDocument& checked, Findings& findings) {
                 break;
         }
     });
-    packages.Finish(nullptr);
+    packages.Finish();
     classes.Finish();
     express.Finish();
 }

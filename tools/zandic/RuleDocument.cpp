@@ -92,7 +92,8 @@ std::string RuleDocument::Name(const ZELVBTXMLNode& node) const {
     if (node.Index() == _Package.Index()) return _PackageName;
     std::vector<std::string_view> names;
     for (ZELVBTXMLNode each = node; each.Index() != _Package.Index(); each = Owner(each)) {
-        names.push_back(NameAttribute(each));
+        // A block may be without a name, and what is at fault too.
+        if (const std::string_view own = NameAttribute(each); !own.empty()) names.push_back(own);
     }
     std::string name;
     for (auto each = names.rbegin(); each != names.rend(); ++each) {

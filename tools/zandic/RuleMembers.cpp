@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <limits>
 #include <optional>
 #include <string>
 #include <utility>
@@ -22,17 +21,15 @@ std::string TitleOf(const RuleDocument& document, const RuleElement& element) {
     return fmt::format("{} {}", element.node.getTag(), Quoted(document.Name(element.node)));
 }
 
-/// A number as the reader takes it; none without digits.
-std::optional<long> NumberOf(const ZELVBTXMLAttribute& attribute) {
+/// A number as the reader takes it; none for a text without digits or a number that does not fit, of which
+/// the reader tells.
+std::optional<int> NumberOf(const ZELVBTXMLAttribute& attribute) {
     std::string_view text = attribute.Value();
     text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
     if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
-    long number = 0;
+    int number = 0;
     const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (fault == std::errc::invalid_argument) return std::nullopt;
-    if (fault == std::errc()) return number;
-    constexpr std::numeric_limits<long> kLimits;
-    return text.starts_with('-') ? kLimits.min() : kLimits.max();
+    return fault == std::errc() ? std::optional(number) : std::nullopt;
 }
 
 /// The targets of one reference, in the order of their items.
@@ -158,8 +155,8 @@ void CheckBounds(RuleDocument& document, const RuleElement& element) {
     const ZELVBTXMLAttribute& lower = element[Slot::Lower];
     const ZELVBTXMLAttribute& upper = element[Slot::Upper];
     if (!lower || !upper) return;
-    const std::optional<long> least = NumberOf(lower);
-    const std::optional<long> most = NumberOf(upper);
+    const std::optional<int> least = NumberOf(lower);
+    const std::optional<int> most = NumberOf(upper);
     if (!least || !most || *most <= 0 || *least <= *most) return;  // 0 and below stand for no upper bound
     Finding* const finding = document.Tell(rule::kContradictoryBounds, element.node, lower,
                                            fmt::format("Lower of {} is {}, which is above Upper, {}",

@@ -21,6 +21,18 @@ std::string_view StemOf(std::string_view file) {
 
 }  // namespace
 
+/// The tuning document as it was read, else the one beside the package's document.
+std::string PackageRules::tuning_File() const {
+    const std::string_view tuning = FindCode(ZANDicFormat::kContentWords, OXMDicCONTENT_tuning)->word;
+    const std::string name = std::string(_Document.PackageName()).append(".").append(tuning);
+    const CheckedDocument& checked = _Document.Checked();
+    if (const std::string_view known = checked.documents.FileOf(name); !known.empty()) {
+        return std::string(known);
+    }
+    const std::size_t slash = checked.file.rfind('/');
+    return slash == std::string::npos ? name : checked.file.substr(0, slash + 1) + name;
+}
+
 void PackageRules::read_Names() {
     for (const std::string_view list : {word::kUseNames, word::kUseScopes}) {
         const ZELVBTXMLAttribute attribute = _Document.Package().getAttribute(list);
@@ -57,16 +69,31 @@ void PackageRules::Refer(const RuleElement& element) {
     }
 }
 
-void PackageRules::Finish(const DocumentPlaces* tuning) {
-    if (tuning != nullptr) use_Tuning(*tuning);
+void PackageRules::Finish() {
+    bool knowsTuning = false;
     for (const Named& named : _NAMES) {
-        if (!named.isScope) check_Name(named);
+        if (named.isScope) continue;
+        if (!knowsTuning && is_Unused(named)) {
+            use_Tuning();
+            knowsTuning = true;
+        }
+        const std::string_view name = BeforeDot(named.item);
+        if (is_Self(name)) {
+            _Document.Tell(
+                rule::kUnusedPackage, _Document.Package(), named.attribute,
+                fmt::format("package {} names itself in UseNames", Quoted(_Document.PackageName())));
+        } else if (is_Unused(named)) {
+            _Document.Tell(rule::kUnusedPackage, _Document.Package(), named.attribute,
+                           fmt::format("package {} of UseNames is not used", Quoted(name)));
+        }
     }
 }
 
-/// Blocks may extend those of packages that nothing else refers to.
-void PackageRules::use_Tuning(const DocumentPlaces& tuning) {
-    const ZELVBTXMLDocument& document = tuning.Document();
+/// Blocks may be for classes, and extend blocks, of packages that nothing else refers to.
+void PackageRules::use_Tuning() {
+    const DocumentPlaces* const tuning = _Document.Checked().documents.Read(tuning_File());
+    if (tuning == nullptr) return;
+    const ZELVBTXMLDocument& document = tuning->Document();
     for (std::uint32_t index = 0; index < document.AttributeCount(); ++index) {
         const ZELVBTXMLAttribute attribute = document.AttributeAt(index);
         const std::string_view name = attribute.Name();
@@ -78,21 +105,17 @@ void PackageRules::use_Tuning(const DocumentPlaces& tuning) {
     }
 }
 
-void PackageRules::check_Name(const Named& named) {
+bool PackageRules::is_Self(std::string_view name) const {
+    return name == _Document.PackageName() || name == StemOf(_Document.Checked().file);
+}
+
+/// Of a package that is not there nobody knows what is in it.
+bool PackageRules::is_Unused(const Named& named) const {
     const std::string_view name = BeforeDot(named.item);
     const CheckedDocument& checked = _Document.Checked();
-    if (name == _Document.PackageName() || name == StemOf(checked.file)) {
-        _Document.Tell(rule::kUnusedPackage, _Document.Package(), named.attribute,
-                       fmt::format("package {} names itself in UseNames", Quoted(_Document.PackageName())));
-        return;
-    }
-    const bool isUsed = std::any_of(_USED.begin(), _USED.end(),
-                                    [&](const std::string& package) { return means(named.item, package); });
-    // Of a package that is not there nobody knows what is in it.
-    const bool isKnown = checked.dictionary.Package(name) || !checked.documents.FileOf(name).empty();
-    if (isUsed || !isKnown) return;
-    _Document.Tell(rule::kUnusedPackage, _Document.Package(), named.attribute,
-                   fmt::format("package {} of UseNames is not used", Quoted(name)));
+    if (!checked.dictionary.Package(name) && checked.documents.FileOf(name).empty()) return false;
+    return std::none_of(_USED.begin(), _USED.end(),
+                        [&](const std::string& package) { return means(named.item, package); });
 }
 
 bool PackageRules::is_Named(const std::string& package) const {

@@ -18,8 +18,8 @@ public:
     /// Notes the packages that an element refers to, and tells of one that is not named, once.
     void Refer(const RuleElement& element);
 
-    /// Tells of the names that nobody needs. \param tuning the package's tuning document, or null.
-    void Finish(const DocumentPlaces* tuning);
+    /// Tells of the names that nobody needs.
+    void Finish();
 
 private:
     /// A name in `UseNames` or `UseScopes`.
@@ -30,8 +30,10 @@ private:
     };
 
     void read_Names();
-    void check_Name(const Named& named);
-    void use_Tuning(const DocumentPlaces& tuning);
+    bool is_Unused(const Named& named) const;
+    bool is_Self(std::string_view name) const;
+    void use_Tuning();
+    std::string tuning_File() const;
     bool is_Named(const std::string& package) const;
     bool means(std::string_view item, const std::string& package) const;
 

@@ -155,10 +155,12 @@ void WordRules::check_Uuid(const Given& given, std::string_view text) {
 
 void WordRules::tell_Unread(const Given& given) {
     const std::string_view name = given.attribute.Name();
+    const bool isAdmitted = given.words.Find(name) != nullptr;
     _Document.Tell(
         rule::kUnreadAttribute, given.element.node, given.attribute,
         fmt::format("attribute {} of {} {} is never read{}", name, given.words.Row().tag,
-                    Quoted(_Document.Name(given.element.node)), SuggestAttribute(given.words.Row(), name)));
+                    Quoted(_Document.Name(given.element.node)),
+                    isAdmitted ? "; only an extension has one" : SuggestAttribute(given.words.Row(), name)));
 }
 
 void WordRules::tell_Repeated(const Given& given, const ZELVBTXMLAttribute& before, bool lastCounts) {
