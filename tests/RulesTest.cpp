@@ -113,7 +113,8 @@ TEST_P(RuleTest, TheTextsFitATerminal) {
         EXPECT_FALSE(text.ends_with('\n'));
         while (!text.empty()) {
             const std::size_t end = std::min(text.find('\n'), text.size());
-            EXPECT_LE(end, 76U) << text.substr(0, end);
+            const bool isOneWord = text.substr(0, end).find_last_of(' ') < 20;
+            EXPECT_TRUE(end <= 76 || isOneWord) << text.substr(0, end);
             text.remove_prefix(std::min(end + 1, text.size()));
         }
     }
