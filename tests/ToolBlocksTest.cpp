@@ -162,6 +162,11 @@ TEST_F(ToolBlocksTest, ATuningDocumentIsWrongUse) {
                 "the package's name");
 }
 
+TEST_F(ToolBlocksTest, Json) {
+    EXPECT_EQ(OnSample({"--quiet", "blocks", "--json", "BomItems::BomPart"}).out,
+              ExpectedOutput("blocks.json"));
+}
+
 TEST_F(ToolBlocksTest, ATuningThatFailsIsAWarning) {
     MakeParts(R"(<AttributeBlock Name="Look" Uuid="00000000-0000-0000-00000000000000B1"
                    AttributeUuids="00000000-0000-0000-00000000000000FF"/>)");

@@ -141,6 +141,22 @@ TEST_F(ToolLoadTest, WithoutAPathItSaysHowToGiveOne) {
         "zandic: BomPeople: error: there is no path to search: give --path, or set ZELDictionaryPath\n");
 }
 
+TEST_F(ToolLoadTest, WithoutTimesItIsTheSameInEveryRun) {
+    EXPECT_EQ(
+        OnSample({"--quiet", "load", "--no-times", "BomWorkshop"}).out,
+        "BomWorkshop  02D26687-F464-48A5-BF474B50D3AD637C  1 Class  2 Simple  1 Relationship  1 Unique  1 "
+        "Enum  3 Enumerator\n"
+        "total        1 package                            1 Class  2 Simple  1 Relationship  1 Unique  1 "
+        "Enum  3 Enumerator\n");
+}
+
+TEST_F(ToolLoadTest, Json) {
+    EXPECT_EQ(OnSample({"--quiet", "load", "--no-times", "--json", "BomWorkshop"}).out,
+              ExpectedOutput("load.json"));
+    EXPECT_NE(OnSample({"--quiet", "load", "--json", "BomWorkshop"}).out.find("\"milliseconds\": "),
+              std::string::npos);
+}
+
 TEST_F(ToolLoadTest, LoadsEvenWhereProgramsAreToldNotTo) {
     EXPECT_EQ(Run({"--path", ZANDIC_SAMPLES, "load", "BomPeople"}, {"VALKOR_META=OFF"}).status, 0);
 }

@@ -134,7 +134,8 @@ TEST_F(ToolShowTest, ATuningDocumentIsNoPackageOfThePath) {
 }
 
 TEST_F(ToolShowTest, EveryKindIsFoundByItsUuid) {
-    ExpectSheet("164FDB86-241C-4670-B2E239321F89FD7A", "show-simple.txt");
+    EXPECT_EQ(OnSample({"--quiet", "show", "164FDB86-241C-4670-B2E239321F89FD7A", "--in", "BomItems"}).out,
+              ExpectedOutput("show-simple.txt"));
     ExpectSheet("975DC312-CB41-449D-9EA6A0AD101C297A", "show-unique.txt");
     ExpectSheet("33A37405-79C3-456A-8AC0F81F4338C877", "show-enumerator.txt");
     ExpectSheet("88DC6928-77DE-4887-B363474D848977CB", "show-enum.txt");
@@ -188,7 +189,8 @@ TEST_F(ToolShowTest, WhatIsNotFoundIsNamed) {
     ExpectRefused("BomStorageMap.rbomap::ItemMapping::Part::Nothing",
                   "BomStorageMap.rbomap::ItemMapping::Part::Nothing: error: RBOMapping "
                   "BomStorageMap::ItemMapping has no member Part::Nothing");
-    ExpectRefused("BomItems::bompart", "BomItems::bompart: error: package BomItems has no element bompart; did you mean BomPart?");
+    ExpectRefused("BomItems::bompart",
+                  "BomItems::bompart: error: package BomItems has no element bompart; did you mean BomPart?");
     ExpectRefused(
         "00000000-0000-0000-0000000000000001",
         "00000000-0000-0000-0000000000000001: error: no object of the loaded packages has this UUID");

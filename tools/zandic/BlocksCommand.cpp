@@ -34,6 +34,35 @@ void ShowPackageBlocks(const View& view, OXMIDicPackage& package) {
     view.sheet.Field("Without blocks", without.empty() ? "it has no classes" : Joined(without));
 }
 
+/// The classes that are asked for, by themselves or with their package.
+void WriteJson(const Session& session, const std::vector<AskedObject>& objects, Output& output) {
+    Sheet sheet(output);
+    const View view{session.Dictionary(), sheet, ""};
+    std::vector<std::string> without;
+    JsonWriter json(output);
+    json.BeginObject();
+    json.Key("classes");
+    json.BeginArray();
+    for (const AskedObject& each : objects) {
+        const auto package = zandic::As<OXMIDicPackage>(each.object);
+        if (!package) {
+            WriteBlocksJson(view, *zandic::As<OXMIDicClass>(each.object), json);
+            continue;
+        }
+        for (OXMIDicClass& member : zandic::Classes(*package)) {
+            if (zandic::Flag(member, &OXMIDicClass::HasAttBlocks)) {
+                WriteBlocksJson(view, member, json);
+            } else {
+                without.push_back(QualifiedName(member));
+            }
+        }
+    }
+    json.EndArray();
+    json.TextsOf("withoutBlocks", without);
+    json.EndObject();
+    json.End();
+}
+
 }  // namespace
 
 void RunBlocks(Session& session, const Options& options, Output& output) {
@@ -44,6 +73,7 @@ void RunBlocks(Session& session, const Options& options, Output& output) {
                                                TagOf(*each.object), QualifiedName(*each.object)));
         return true;
     });
+    if (options.json) return WriteJson(session, objects, output);
     Sheet sheet(output);
     for (const AskedObject& each : objects) {
         if (&each != &objects.front()) sheet.Separate();

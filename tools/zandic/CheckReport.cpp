@@ -29,8 +29,21 @@ std::string Place(const FilePlace& at) {
     return text + " ";
 }
 
+/// Names and values may hold line ends, which would break the form of the answer.
+std::string OneLine(std::string_view text) {
+    std::string line;
+    for (const char c : text) {
+        if (static_cast<unsigned char>(c) < 0x20) {
+            line += fmt::format("\\x{:02X}", static_cast<unsigned char>(c));
+        } else {
+            line += c;
+        }
+    }
+    return line;
+}
+
 std::string NoteLine(const FilePlace& at, std::string_view text) {
-    return fmt::format("{}{} {}\n", Place(at), Style::Output().Paint(Role::Faint, "note:"), text);
+    return fmt::format("{}{} {}\n", Place(at), Style::Output().Paint(Role::Faint, "note:"), OneLine(text));
 }
 
 void WriteFinding(const Finding& finding, Output& output) {
@@ -38,7 +51,7 @@ void WriteFinding(const Finding& finding, Output& output) {
     const std::string label = fmt::format("{}[{}]:", SeverityWord(finding.severity), finding.code);
     output.Write(fmt::format("{}{} {}\n", Place(finding.at),
                              Style::Output().Paint(isError ? Role::Error : Role::Warning, label),
-                             finding.text));
+                             OneLine(finding.text)));
     for (const FindingNote& note : finding.notes) {
         // A note without a place of its own belongs to the place of its finding.
         output.Write(NoteLine(note.at.file.empty() ? finding.at : note.at, note.text));

@@ -38,14 +38,14 @@ constexpr OptionRow kStatsOptions[] = {
     kNoTimesOption,
     kJsonOption,
 };
-constexpr OptionRow kListOptions[] = {kInOption};
+constexpr OptionRow kListOptions[] = {kInOption, kJsonOption};
 constexpr OptionRow kCheckOptions[] = {
     {"--all", "", "every document of every kind on the path", &Options::all},
     {"--all-faults", "", "also the faults that only follow from others", &Options::allFaults},
     {"--strict", "", "warnings fail the check as errors do", &Options::strict},
     {"--format", "text|json|sarif|junit", "the form of the answer; text, if nothing is said",
      &Options::format},
-    {"--json", "", "the same as --format json", &Options::json},
+    kJsonOption,
     {"--baseline", "FILE", "accept the faults that the file records; only new ones count",
      &Options::baseline},
     {"--write-baseline", "FILE", "record today's faults in the file, and accept them",
@@ -60,15 +60,18 @@ constexpr OptionRow kDumpOptions[] = {
 constexpr OptionRow kSaveOptions[] = {
     kInOption,
     {"--to", "DIR", "the directory for the documents", &Options::to, true},
+    kJsonOption,
 };
 constexpr OptionRow kExpressOptions[] = {
     kInOption,
     {"--to", "DIR", "the directory for the schemas, else the present one", &Options::to},
     {"--stdout", "", "write the schemas to standard output", &Options::toOutput},
+    kJsonOption,
 };
 
 std::string_view WrongPlaces(const Options& options) {
-    return options.to && options.toOutput ? "--to and --stdout exclude each other" : "";
+    if (options.to && options.toOutput) return "--to and --stdout exclude each other";
+    return options.json && options.toOutput ? "--json and --stdout exclude each other" : "";
 }
 
 constexpr Command kCommands[] = {

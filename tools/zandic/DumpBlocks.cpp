@@ -37,4 +37,8 @@ void WriteAllBlocks(JsonWriter& json, OXMIDicClass& classElement) {
     json.EndArray();
 }
 
+void WriteBlock(JsonWriter& json, OXMIDicElementH& object) {
+    ObjectOf<OXMIDicAttributeBlock, kBlockFields>(json, object);
+}
+
 }  // namespace tool::dump

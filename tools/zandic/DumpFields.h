@@ -108,11 +108,25 @@ void Members(JsonWriter& json, Element& element) {
     json.EndArray();
 }
 
-// One source for each family of kinds: the keys that it has of its own.
+// One source for each family of kinds: the keys that it has of its own, and its members by themselves.
 void WriteInterface(JsonWriter& json, OXMIDicElement& element);
 void WriteMapping(JsonWriter& json, OXMIDicElement& element);
 void WriteOwnBlocks(JsonWriter& json, OXMIDicClass& classElement);
 void WriteAllBlocks(JsonWriter& json, OXMIDicClass& classElement);
+void WriteMethod(JsonWriter& json, OXMIDicElementH& object);
+void WriteParameter(JsonWriter& json, OXMIDicElementH& object);
+void WriteRoot(JsonWriter& json, OXMIDicElementH& object);
+void WriteComponent(JsonWriter& json, OXMIDicElementH& object);
+void WritePathExpression(JsonWriter& json, OXMIDicElementH& object);
+void WriteBlock(JsonWriter& json, OXMIDicElementH& object);
+
+/// One object of \p Element with the keys of \p kFields.
+template <class Element, auto& kFields>
+void ObjectOf(JsonWriter& json, OXMIDicElementH& object) {
+    json.BeginObject();
+    if (const auto element = zandic::As<Element>(object)) WriteFields(json, *element, kFields);
+    json.EndObject();
+}
 
 }  // namespace tool::dump
 

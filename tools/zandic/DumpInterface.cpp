@@ -52,4 +52,12 @@ void WriteInterface(JsonWriter& json, OXMIDicElement& element) {
     WriteFields(json, *zandic::As<OXMIDicInterface>(element), kInterfaceFields);
 }
 
+void WriteMethod(JsonWriter& json, OXMIDicElementH& object) {
+    ObjectOf<OXMIDicMethod, kMethodFields>(json, object);
+}
+
+void WriteParameter(JsonWriter& json, OXMIDicElementH& object) {
+    ObjectOf<OXMIDicParameter, kParameterFields>(json, object);
+}
+
 }  // namespace tool::dump

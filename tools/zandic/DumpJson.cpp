@@ -271,7 +271,40 @@ constexpr Field<OXMIDicPackage> kPackageFields[] = {
     {"elements", WriteElements},
 };
 
+/// What writes a member, or a package, by itself.
+struct ObjectRow {
+    OXMDicTYPE kind;
+    void (*write)(JsonWriter& json, OXMIDicElementH& object);
+};
+
+void WriteAttributeObject(JsonWriter& json, OXMIDicElementH& object) {
+    WriteAttribute(json, *zandic::As<OXMIDicAttribute>(object));
+}
+
+constexpr ObjectRow kObjectRows[] = {
+    {OXMDicTYPE_Package, ObjectOf<OXMIDicPackage, kPackageFields>},
+    {OXMDicTYPE_Simple, WriteAttributeObject},
+    {OXMDicTYPE_Relationship, WriteAttributeObject},
+    {OXMDicTYPE_Inverse, WriteAttributeObject},
+    {OXMDicTYPE_Unique, ObjectOf<OXMIDicUnique, kUniqueFields>},
+    {OXMDicTYPE_Enumerator, ObjectOf<OXMIDicEnumerator, kEnumeratorFields>},
+    {OXMDicTYPE_Method, WriteMethod},
+    {OXMDicTYPE_Parameter, WriteParameter},
+    {OXMDicTYPE_RBORoot, WriteRoot},
+    {OXMDicTYPE_RBOComponent, WriteComponent},
+    {OXMDicTYPE_RBOPathExpression, WritePathExpression},
+    {OXMDicTYPE_AttributeBlock, WriteBlock},
+};
+
 }  // namespace
+
+void DumpObject(JsonWriter& json, OXMIDicElementH& object) {
+    const OXMDicTYPE kind = zandic::Kind(object);
+    for (const ObjectRow& row : kObjectRows) {
+        if (row.kind == kind) return row.write(json, object);
+    }
+    WriteElement(json, *zandic::As<OXMIDicElement>(object));
+}
 
 void DumpJson(const zandic::Dictionary& dictionary, Output& output) {
     AskForAllAttributes(dictionary);

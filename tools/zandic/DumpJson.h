@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "JsonWriter.h"
 #include "Output.h"
 #include "zandic.hpp"
 
@@ -13,7 +14,11 @@ namespace tool {
 /// Time is linear in what is written.
 void DumpJson(const zandic::Dictionary& dictionary, Output& output);
 
-/// \returns the same as a text.
+/// Writes one object of any kind as DumpJson does, with all that it holds. The classes must have been asked
+/// for all attributes.
+void DumpObject(JsonWriter& json, OXMIDicElementH& object);
+
+/// \returns the dump as a text.
 std::string DumpText(const zandic::Dictionary& dictionary);
 
 }  // namespace tool

@@ -72,11 +72,12 @@ struct Level {
     zandic::List<OXMIDicRBOComponent>::Iterator next;
 };
 
-/// Writes the components of a root and everything below them. A nest has any depth: what would be calls
-/// inside each other are levels of a list.
-void WriteComponents(JsonWriter& json, OXMIDicRBORoot& root) {
+/// Writes the components of a root or component and everything below them. A nest has any depth: what would
+/// be calls inside each other are levels of a list.
+template <class Node>
+void WriteComponents(JsonWriter& json, Node& owner) {
     std::vector<std::unique_ptr<Level>> levels;
-    levels.push_back(std::make_unique<Level>(ComponentsOf(root)));
+    levels.push_back(std::make_unique<Level>(ComponentsOf(owner)));
     while (true) {
         Level& level = *levels.back();
         if (level.next != level.components.end()) {
@@ -97,10 +98,7 @@ void WriteComponents(JsonWriter& json, OXMIDicRBORoot& root) {
 void WriteRoots(JsonWriter& json, OXMIDicRBOMapping& mapping) {
     json.BeginArray();
     for (OXMIDicRBORoot& root : zandic::All<OXMIDicRBORoot>(mapping, &OXMIDicRBOMapping::GetElements)) {
-        BeginNode(json, root);
-        WriteComponents(json, root);
-        json.EndArray();
-        json.EndObject();
+        WriteRoot(json, root);
     }
     json.EndArray();
 }
@@ -116,6 +114,27 @@ constexpr Field<OXMIDicRBOMapping> kMappingFields[] = {
 
 void WriteMapping(JsonWriter& json, OXMIDicElement& element) {
     WriteFields(json, *zandic::As<OXMIDicRBOMapping>(element), kMappingFields);
+}
+
+void WriteRoot(JsonWriter& json, OXMIDicElementH& object) {
+    const auto root = zandic::As<OXMIDicRBORoot>(object);
+    BeginNode(json, *root);
+    WriteComponents(json, *root);
+    json.EndArray();
+    json.EndObject();
+}
+
+void WriteComponent(JsonWriter& json, OXMIDicElementH& object) {
+    const auto component = zandic::As<OXMIDicRBOComponent>(object);
+    BeginNode(json, *component);
+    WriteComponents(json, *component);
+    json.EndArray();
+    WriteFields(json, *component, kComponentEndFields);
+    json.EndObject();
+}
+
+void WritePathExpression(JsonWriter& json, OXMIDicElementH& object) {
+    ObjectOf<OXMIDicRBOPathExpression, kPathFields>(json, object);
 }
 
 }  // namespace tool::dump

@@ -115,6 +115,7 @@ void RunExpress(Session& session, const Options& options, Output& output) {
     const std::vector<AskedPackage> packages = Targets(session, options).Packages();
     AskForAllAttributes(session.Dictionary());
     std::set<std::string, std::less<>> exported;
+    std::vector<std::string> files;
     for (const auto& [asked, package] : packages) {
         if (!package) continue;
         const std::string name(zandic::Name(*package).View());
@@ -125,9 +126,10 @@ void RunExpress(Session& session, const Options& options, Output& output) {
         if (passing) {
             output.Write(schema->View());
         } else {
-            output.Write(SchemaPath(directory, name) + "\n");
+            files.push_back(SchemaPath(directory, name));
         }
     }
+    if (!passing) WriteFileList(files, options.json, output);
 }
 
 }  // namespace tool

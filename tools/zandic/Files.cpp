@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "JsonWriter.h"
 #include "ZELDurableFile.h"
 #include "ZELFile.h"
 
@@ -53,6 +54,18 @@ std::string NotWritten(const std::string& path) {
 std::string PathIn(const std::string& directory, const std::string& name) {
     if (directory == ".") return name;
     return directory + (directory.ends_with('/') ? "" : "/") + name;
+}
+
+void WriteFileList(const std::vector<std::string>& files, bool asJson, Output& output) {
+    if (!asJson) {
+        for (const std::string& file : files) output.Write(file + "\n");
+        return;
+    }
+    JsonWriter json(output);
+    json.BeginObject();
+    json.TextsOf("files", files);
+    json.EndObject();
+    json.End();
 }
 
 std::optional<std::string> CopyWhole(const std::string& from, const std::string& to) {

@@ -6,6 +6,9 @@
 #include <optional>
 #include <string>
 #include <tuple>
+#include <vector>
+
+#include "Output.h"
 
 namespace tool {
 
@@ -36,6 +39,9 @@ std::string NotWritten(const std::string& path);
 
 /// \returns \p name in \p directory; of the present directory only the name.
 std::string PathIn(const std::string& directory, const std::string& name);
+
+/// Writes the paths of files that were written, one a line, or as JSON.
+void WriteFileList(const std::vector<std::string>& files, bool asJson, Output& output);
 
 /// Copies a file: the copy is complete, or what bore its name is as it was.
 /// \returns what went wrong; none when nothing did.

@@ -199,12 +199,7 @@ void WriteJson(const std::vector<Hit>& hits, Output& output) {
         json.Text(TagOf(*hit.object));
         json.Key("uuid");
         json.Text(zandic::UuidText(zandic::Uuid(*hit.object)).View());
-        json.Key("type");
-        if (type) {
-            json.Text(QualifiedName(*type));
-        } else {
-            json.Null();
-        }
+        json.TextOf("type", type ? QualifiedName(*type) : "");
         json.Key("refersAs");
         json.BeginArray();
         for (const ReferenceKind way : hit.ways) json.Text(ReferenceWord(way));

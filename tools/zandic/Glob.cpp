@@ -70,20 +70,21 @@ bool Glob::MatchesOne(std::size_t& at, char32_t letter) const {
     const char32_t sign = _Pattern[at++];
     if (sign == U'?') return true;
     if (sign == U'\\' && at < _Pattern.size()) return _Pattern[at++] == letter;
-    const std::size_t close = sign == U'[' ? _Pattern.find(U']', at + 1) : std::u32string::npos;
+    if (sign != U'[') return sign == letter;
+    const bool isOther = at < _Pattern.size() && (_Pattern[at] == U'!' || _Pattern[at] == U'^');
+    const std::size_t first = at + (isOther ? 1 : 0);
+    const std::size_t close = _Pattern.find(U']', first + 1);  // one that stands first is listed
     if (close == std::u32string::npos) return sign == letter;
-
-    const bool isOther = _Pattern[at] == U'!' || _Pattern[at] == U'^';
-    if (isOther) ++at;
+    at = first;
     bool isListed = false;
     while (at < close) {
-        const char32_t first = _Pattern[at++];
-        char32_t last = first;
+        const char32_t from = _Pattern[at++];
+        char32_t last = from;
         if (at + 1 < close && _Pattern[at] == U'-') {
             last = _Pattern[at + 1];
             at += 2;
         }
-        isListed = isListed || (letter >= first && letter <= last);
+        isListed = isListed || (letter >= from && letter <= last);
     }
     at = close + 1;
     return isListed != isOther;

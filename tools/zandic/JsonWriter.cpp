@@ -88,6 +88,22 @@ void JsonWriter::Null() {
     _Output.Write("null");
 }
 
+void JsonWriter::TextOf(std::string_view key, std::string_view text) {
+    Key(key);
+    if (text.empty()) {
+        Null();
+    } else {
+        Text(text);
+    }
+}
+
+void JsonWriter::TextsOf(std::string_view key, const std::vector<std::string>& texts) {
+    Key(key);
+    BeginArray();
+    for (const std::string& text : texts) Text(text);
+    EndArray();
+}
+
 void JsonWriter::BeginValue() {
     if (_AfterKey) {
         _AfterKey = false;

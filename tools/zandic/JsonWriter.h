@@ -2,6 +2,7 @@
 #define ZANDIC_TOOL_JSON_WRITER_H
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -36,6 +37,12 @@ public:
     void Decimal(double number, int digits);
     void Flag(bool flag);
     void Null();
+
+    /// A key with a text, or with null where the text is empty.
+    void TextOf(std::string_view key, std::string_view text);
+
+    /// A key with a list of texts.
+    void TextsOf(std::string_view key, const std::vector<std::string>& texts);
 
     /// Ends the document with a newline.
     void End() { _Output.Write("\n"); }

@@ -23,7 +23,7 @@ struct KindText {
 /// In the order of ReferenceKind.
 constexpr KindText kTexts[] = {
     {"subclass", "is derived from it"},
-    {"instance", "has it as its reference"},
+    {"instance", "is an instance of it"},
     {"type", "has it as its type"},
     {"target", "points at it"},
     {"inverse", "inverts it"},

@@ -123,13 +123,13 @@ void RunSave(Session& session, const Options& options, Output& output) {
     const bool mayRefuse = !session.IsClean();
     std::string model = DumpText(session.Dictionary());
     const std::vector<std::string> written = SaveAll(session, requests, directory);
-    if (written.empty()) return;
+    if (written.empty()) return WriteFileList({}, options.json, output);
 
     const std::string path = directory + ":" + session.Path();
     if (const auto wrong = WrongReadBack(NamesOf(requests), path, std::move(model), mayRefuse)) {
         return session.Refuse(directory, *wrong);
     }
-    for (const std::string& file : written) output.Write(file + "\n");
+    WriteFileList(written, options.json, output);
 }
 
 }  // namespace tool

@@ -143,6 +143,7 @@ void ShowAttribute(const View& view, OXMIDicAttribute& attribute) {
         ShowRelationFields(view, *zandic::As<OXMIDicRelationship>(attribute));
     }
     ShowExtras(view, attribute);
+    ShowUsers(view, attribute);
 }
 
 }  // namespace tool

@@ -10,6 +10,9 @@ namespace {
 using Block = zandic::Handle<OXMIDicAttributeBlock>;
 using Blocks = zandic::List<OXMIDicAttributeBlock>;
 
+/// How a default block stands to its class, in JSON.
+constexpr std::string_view kDefault = "default";
+
 zandic::Handle<OXMIDicClass> ClassOf(OXMIDicAttributeBlock& block) {
     return zandic::Link(block, &OXMIDicAttributeBlock::GetClass);
 }
@@ -87,6 +90,7 @@ void ShowBlock(const View& view, OXMIDicAttributeBlock& block) {
     const auto owner = ClassOf(block);
     ShowDeclared(view, block, "");
     view.sheet.Field("Declared in", owner ? NameIn(view, *owner) : "");
+    ShowUsers(view, block);
 }
 
 void ShowBlocksOf(const View& view, OXMIDicClass& classElement) {
@@ -112,6 +116,46 @@ void ShowBlocksOf(const View& view, OXMIDicClass& classElement) {
     } else {
         view.sheet.Line("There is none: the class has no package.");
     }
+}
+
+namespace {
+
+void WriteBlockJson(const View& view, OXMIDicAttributeBlock& block, std::string_view standing,
+                    const std::string& hiddenBy, JsonWriter& json) {
+    const auto owner = ClassOf(block);
+    const bool isDefault = standing == kDefault;
+    const Block root = zandic::Link(block, &OXMIDicAttributeBlock::GetRoot);
+    json.BeginObject();
+    json.TextOf("name", isDefault ? std::string() : std::string(zandic::Name(block).View()));
+    json.TextOf("uuid",
+                isDefault ? std::string() : std::string(zandic::UuidText(zandic::Uuid(block)).View()));
+    json.TextOf("standing", standing);
+    json.TextOf("class", owner ? QualifiedName(*owner) : "");
+    json.TextOf("hiddenBy", hiddenBy);
+    json.TextOf("father", LinkName(view, zandic::Link(block, &OXMIDicAttributeBlock::GetFather)));
+    json.TextOf("root", LinkName(view, root));
+    json.TextsOf("attributes", AttributesOf(view, block));
+    json.EndObject();
+}
+
+}  // namespace
+
+void WriteBlocksJson(const View& view, OXMIDicClass& classElement, JsonWriter& json) {
+    const Blocks own = OwnOf(classElement);
+    const Blocks visible = VisibleOf(classElement);
+    json.BeginObject();
+    json.TextOf("name", QualifiedName(classElement));
+    json.Key("blocks");
+    json.BeginArray();
+    for (OXMIDicAttributeBlock& block : own) {
+        WriteBlockJson(view, block, "own", HiddenBy(view, visible, block), json);
+    }
+    for (OXMIDicAttributeBlock& block : visible) {
+        if (!Has(own, block)) WriteBlockJson(view, block, "inherited", "", json);
+    }
+    if (const Block block = DefaultBlockOf(classElement, 1)) WriteBlockJson(view, *block, kDefault, "", json);
+    json.EndArray();
+    json.EndObject();
 }
 
 void ShowVisibleBlocks(const View& view, OXMIDicClass& classElement) {

@@ -1,6 +1,7 @@
 #include <fmt/format.h>
 
-#include <algorithm>
+#include <string>
+#include <unordered_map>
 
 #include "AttributeText.h"
 #include "Model.h"
@@ -85,15 +86,15 @@ struct Origin {
 
 void ShowInherited(const View& view, OXMIDicClass& classElement) {
     std::vector<Origin> origins;
+    std::unordered_map<std::string, std::size_t> places;  // of the origins, by name
     for (OXMIDicAttribute& attribute :
          zandic::All<OXMIDicAttribute>(classElement, &OXMIDicClass::GetAllElements)) {
         const auto origin = zandic::Link(attribute, &OXMIDicAttribute::GetOrigin);
         if (!origin || IsSame(*origin, classElement)) continue;
         const std::string name = NameIn(view, *origin);
-        auto found = std::find_if(origins.begin(), origins.end(),
-                                  [&name](const Origin& each) { return each.name == name; });
-        if (found == origins.end()) found = origins.insert(found, {name, {}});
-        found->rows.push_back(AttributeRow(view, attribute));
+        const auto [place, isNew] = places.try_emplace(name, origins.size());
+        if (isNew) origins.push_back({name, {}});
+        origins[place->second].rows.push_back(AttributeRow(view, attribute));
     }
     for (const Origin& origin : origins) {
         view.sheet.Section(fmt::format("Attributes inherited from {} ({})", origin.name, origin.rows.size()));

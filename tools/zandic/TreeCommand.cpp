@@ -142,12 +142,7 @@ void WriteJson(const View& view, const Tree& tree, bool withAttributes, JsonWrit
         json.Text(zandic::UuidText(zandic::Uuid(*node.element)).View());
         json.Key("depth");
         json.Number(node.depth);
-        json.Key("super");
-        if (above) {
-            json.Text(QualifiedName(*above));
-        } else {
-            json.Null();
-        }
+        json.TextOf("super", above ? QualifiedName(*above) : "");
         json.Key("abstract");
         json.Flag(zandic::Flag(*node.element, &OXMIDicClass::GetAbstract));
         json.Key("ownAttributes");

@@ -2,8 +2,11 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "Model.h"
-#include "OXMIDicExtension.h"
+#include "References.h"
 
 namespace tool {
 namespace {
@@ -43,77 +46,31 @@ constexpr KindView kKindViews[] = {
     {OXMDicTYPE_RBOPathExpression, ShowAs<OXMIDicRBOPathExpression, ShowPath>},
 };
 
-bool HasCategory(OXMIDicElementH& object, OXMIDicElementH& category) {
-    for (OXMIDicElementH& each : zandic::All<OXMIDicElementH>(object, &OXMIDicElementH::GetCategories)) {
-        if (IsSame(each, category)) return true;
-    }
-    return false;
-}
-
 using Rows = std::vector<std::vector<std::string>>;
 
-void AddUser(const View& view, OXMIDicElementH& user, const std::string& note, Rows& rows) {
-    rows.push_back({NameIn(view, user), std::string(TagOf(user)), note});
+/// \returns whether a sheet tells of such references in a field of its own.
+bool HasField(ReferenceKind kind) {
+    constexpr ReferenceKind kKinds[] = {ReferenceKind::Subclass, ReferenceKind::Redefinition,
+                                        ReferenceKind::Inverse,  ReferenceKind::Key,
+                                        ReferenceKind::Use,      ReferenceKind::ScopeUse};
+    return std::find(std::begin(kKinds), std::end(kKinds), kind) != std::end(kKinds);
 }
 
-void AddAttributeUsers(const View& view, OXMIDicClass& classElement, OXMIDicElementH& target, Rows& rows) {
-    for (OXMIDicAttribute& attribute :
-         zandic::All<OXMIDicAttribute>(classElement, &OXMIDicClass::GetClassElements)) {
-        if (const auto type = zandic::TypeOf(attribute); type && IsSame(*type, target)) {
-            AddUser(view, attribute, ValuesText(attribute), rows);
+/// \returns how it refers: how often an attribute, in which way others.
+std::string UserNote(const Reference& reference) {
+    switch (reference.kind) {
+        case ReferenceKind::Type:
+        case ReferenceKind::Target:
+            return ValuesText(*zandic::As<OXMIDicAttribute>(reference.from));
+        case ReferenceKind::Parameter: {
+            const auto parameter = zandic::As<OXMIDicParameter>(reference.from);
+            return std::string(WordOf(*parameter, &OXMIDicParameter::GetKind, ZANDicFormat::kKindWords));
         }
-        if (HasCategory(attribute, target)) AddUser(view, attribute, "", rows);
+        case ReferenceKind::Category:
+            return "";
+        default:
+            return std::string(ReferencePhrase(reference.kind));
     }
-}
-
-/// Those that refer to \p target from a kind of element that has no attributes.
-void AddScopeUsers(const View& view, OXMIDicElement& element, OXMIDicElementH& target, Rows& rows) {
-    if (zandic::Kind(element) != OXMDicTYPE_Extension) return;
-    const auto extension = zandic::As<OXMIDicExtension>(element);
-    for (OXMIDicElementH& scope : zandic::All<OXMIDicElementH>(*extension, &OXMIDicExtension::GetScopes)) {
-        if (IsSame(scope, target)) AddUser(view, element, "extends it", rows);
-    }
-}
-
-void AddParameterUsers(const View& view, OXMIDicElement& element, OXMIDicElementH& target, Rows& rows) {
-    if (zandic::Kind(element) != OXMDicTYPE_Interface) return;
-    const auto interface = zandic::As<OXMIDicInterface>(element);
-    for (OXMIDicMethod& method : zandic::All<OXMIDicMethod>(*interface, &OXMIDicInterface::GetMethods)) {
-        for (OXMIDicParameter& parameter :
-             zandic::All<OXMIDicParameter>(method, &OXMIDicMethod::GetParameters)) {
-            const auto type = zandic::TypeOf(parameter);
-            if (type && IsSame(*type, target)) {
-                AddUser(view, parameter,
-                        std::string(WordOf(parameter, &OXMIDicParameter::GetKind, ZANDicFormat::kKindWords)),
-                        rows);
-            }
-        }
-    }
-}
-
-template <class Object, class Getter>
-bool IsLinked(Object& object, Getter getter, OXMIDicElementH& target) {
-    const auto linked = zandic::Link(object, getter);
-    return linked && IsSame(*linked, target);
-}
-
-void AddMappingUsers(const View& view, OXMIDicElement& element, OXMIDicElementH& target, Rows& rows) {
-    const auto mapping = zandic::As<OXMIDicRBOMapping>(element);
-    if (!mapping) return;
-    if (IsLinked(*mapping, &OXMIDicRBOMapping::GetApplyToRBOClass, target)) {
-        AddUser(view, element, "applies to it", rows);
-    }
-    ForEachBelow(*mapping, [&](OXMIDicElement& each, OXMIDicElement&) {
-        const auto root = zandic::As<OXMIDicRBORoot>(each);
-        const auto component = zandic::As<OXMIDicRBOComponent>(each);
-        const auto path = zandic::As<OXMIDicRBOPathExpression>(each);
-        if ((root && IsLinked(*root, &OXMIDicRBORoot::GetBaseClass, target)) ||
-            (component && IsLinked(*component, &OXMIDicRBOComponent::GetBaseClass, target))) {
-            AddUser(view, each, "is based on it", rows);
-        } else if (path && IsLinked(*path, &OXMIDicRBOPathExpression::GetTarget, target)) {
-            AddUser(view, each, "leads to it", rows);
-        }
-    });
 }
 
 }  // namespace
@@ -180,16 +137,11 @@ std::string ValuesText(OXMIDicAttribute& attribute) {
 
 void ShowUsers(const View& view, OXMIDicElementH& target) {
     Rows rows;
-    ForEachElement(view.dictionary, [&](OXMIDicElement& element) {
-        if (HasCategory(element, target)) AddUser(view, element, "", rows);
-        if (const auto classElement = zandic::As<OXMIDicClass>(element)) {
-            const auto reference = zandic::Link(*classElement, &OXMIDicClass::GetReference);
-            if (reference && IsSame(*reference, target)) AddUser(view, element, "as its reference", rows);
-            AddAttributeUsers(view, *classElement, target, rows);
-        }
-        AddScopeUsers(view, element, target, rows);
-        AddParameterUsers(view, element, target, rows);
-        AddMappingUsers(view, element, target, rows);
+    const ZELDbBinary uuid = zandic::Uuid(target);
+    ForEachReference(view.dictionary, [&](const Reference& reference) {
+        if (zandic::Uuid(reference.to) != uuid || HasField(reference.kind)) return;
+        rows.push_back(
+            {NameIn(view, reference.from), std::string(TagOf(reference.from)), UserNote(reference)});
     });
     if (rows.empty()) return;
     view.sheet.Section(fmt::format("Referred to by ({})", rows.size()));

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "JsonWriter.h"
 #include "OXMIDicAttributeBlock.h"
 #include "OXMIDicCategory.h"
 #include "OXMIDicClass.h"
@@ -56,6 +57,9 @@ std::string AppliesTo(const View& view, OXMIDicRBOMapping& mapping);
 /// The blocks of a class, each with father and attributes: the sheet of `blocks`. Makes the default block
 /// where there is none yet.
 void ShowBlocksOf(const View& view, OXMIDicClass& classElement);
+
+/// The same as JSON. Names have their packages where \p view names none.
+void WriteBlocksJson(const View& view, OXMIDicClass& classElement, JsonWriter& json);
 
 /// A section of the blocks that are visible in a class, one line each.
 void ShowVisibleBlocks(const View& view, OXMIDicClass& classElement);
