@@ -6,6 +6,7 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <span>
 
 #include "RuleCodes.h"
 #include "RuleSuggestions.h"
@@ -18,16 +19,18 @@ using namespace ZANDicFormat;
 /// The attributes whose other words the reader takes without a word of its own, and what those count as.
 struct OtherWord {
     std::string_view attribute;
-    std::string_view countsAs;
+    std::span<const CodeWord> words;
+    int code;
+    std::string_view countsAs;  ///< where the code has no word
 };
 
 constexpr OtherWord kOtherWords[] = {
-    {word::kVisibility, WordOf(kVisibilityWords, kOtherVisibility)},
-    {word::kAccessMode, WordOf(kAccessModeSimpleWords, kOtherAccessMode)},
-    {word::kAggregation, WordOf(kAggregationWords, kOtherAggregation)},
-    {word::kScope, "no scope"},
-    {word::kKVADerivable, "inherited"},
-    {word::kType, WordOf(kPrimitiveWords, kOtherRelationType)},
+    {word::kVisibility, kVisibilityWords, kOtherVisibility, ""},
+    {word::kAccessMode, kAccessModeSimpleWords, kOtherAccessMode, ""},
+    {word::kAggregation, kAggregationWords, kOtherAggregation, ""},
+    {word::kScope, kScopeWords, kOtherScope, "no scope"},
+    {word::kKVADerivable, kKVADerivableWords, kOtherKVADerivable, "inherited"},
+    {word::kType, kPrimitiveWords, kOtherRelationType, ""},
 };
 
 /// \returns what a word that is none counts as; empty where the reader tells of it.
@@ -36,7 +39,8 @@ std::string_view CountsAs(const RuleElement& element, const AttributeRow& row) {
     const bool isRelation = element.kind == OXMDicTYPE_Relationship || element.kind == OXMDicTYPE_Inverse;
     if (row.name == word::kType && !isRelation) return {};
     for (const OtherWord& other : kOtherWords) {
-        if (other.attribute == row.name) return other.countsAs;
+        if (other.attribute != row.name) continue;
+        return other.countsAs.empty() ? WordOf(other.words, other.code) : other.countsAs;
     }
     return {};
 }
