@@ -145,7 +145,7 @@ private:
             }
         }
         for (const Item& item : items) {
-            for (const Target& target : item.element.targets) {
+            for (const RuleTarget& target : item.element.targets) {
                 if (!target.party.node) continue;
                 const ZELVBTXMLAttributes attributes = target.party.node.Attributes();
                 if (attributes.Size() > 0) __builtin_prefetch((*attributes.begin()).Name().data());

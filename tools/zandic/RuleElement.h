@@ -52,7 +52,7 @@ inline constexpr std::size_t kSlots = static_cast<std::size_t>(Slot::None);
 static_assert(kSlots <= 32);
 
 /// What one item of a reference points at.
-struct Target {
+struct RuleTarget {
     Slot slot;
     ZELVBTXMLAttribute attribute;
     Party party;
@@ -63,8 +63,8 @@ struct RuleElement {
     ZELVBTXMLNode node;
     OXMDicTYPE kind = OXMDicTYPE_UNDEFINED;
     std::array<ZELVBTXMLAttribute, kSlots> given;
-    std::uint32_t isGiven = 0;    ///< a bit for each slot
-    std::vector<Target> targets;  ///< of all references, in the order of the slots; those found
+    std::uint32_t isGiven = 0;        ///< a bit for each slot
+    std::vector<RuleTarget> targets;  ///< of all references, in the order of the slots; those found
 
     const ZELVBTXMLAttribute& operator[](Slot slot) const { return given[static_cast<std::size_t>(slot)]; }
 
@@ -82,7 +82,7 @@ struct RuleElement {
 
     /// \returns the first thing that a reference points at; nothing when there is none.
     const Party* TargetOf(Slot slot) const {
-        for (const Target& target : targets) {
+        for (const RuleTarget& target : targets) {
             if (target.slot == slot) return &target.party;
         }
         return nullptr;
