@@ -48,12 +48,12 @@ public:
         return _GoesOn;
     }
 
-    void OnDocument(std::string_view file, std::string_view package, ZanDicReading end) override {
-        const std::string_view name = file.substr(file.rfind('/') + 1);
-        documents += std::string(name) + " " + std::string(package) + " " +
-                     (end == ZanDicReading::Loaded   ? "loaded"
-                      : end == ZanDicReading::Failed ? "failed"
-                                                     : "name taken") +
+    void OnDocument(ZanDicReadDocument document) override {
+        const std::string_view name = document.file.substr(document.file.rfind('/') + 1);
+        documents += std::string(name) + " " + std::string(document.package) + " " +
+                     (document.end == ZanDicReading::Loaded   ? "loaded"
+                      : document.end == ZanDicReading::Failed ? "failed"
+                                                              : "name taken") +
                      "\n";
     }
 

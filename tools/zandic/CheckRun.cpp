@@ -66,11 +66,11 @@ void Round::load() {
 
 std::vector<CheckTarget> Round::note_Targets() {
     std::map<std::string_view, const ReadDocument*> read;
-    for (const ReadDocument& document : _Reader.Documents()) {
-        if (document.end != ZanDicReading::NameTaken) {
-            read.emplace(document.file, &document);
-            if (!document.IsTuning()) _Documents.Note(document.package, document.file);
-        }
+    for (ReadDocument& document : _Reader.Documents()) {
+        if (document.end == ZanDicReading::NameTaken) continue;
+        read.emplace(document.file, &document);
+        if (!document.IsTuning()) _Documents.Note(document.package, document.file);
+        if (document.tree) _Documents.Keep(document.file, std::move(document.tree));
     }
     std::vector<CheckTarget> unread;
     std::set<std::string_view> packages;

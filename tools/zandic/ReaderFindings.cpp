@@ -99,8 +99,9 @@ void ReaderFindings::tell_Missing(const ZanDicDiagnostic& diagnostic, Finding& f
         {{}, _Directories.empty() ? "no directory is searched" : "searched is " + _Directories});
 }
 
-void ReaderFindings::OnDocument(std::string_view file, std::string_view package, ZanDicReading end) {
-    _DOCUMENTS.push_back({ShownFile(file), std::string(package), end});
+void ReaderFindings::OnDocument(ZanDicReadDocument document) {
+    _DOCUMENTS.push_back(
+        {ShownFile(document.file), std::string(document.package), document.end, std::move(document.tree)});
 }
 
 Findings ReaderFindings::Take(class Documents& documents) {

@@ -1,6 +1,7 @@
 #ifndef ZANDIC_TOOL_READER_FINDINGS_H
 #define ZANDIC_TOOL_READER_FINDINGS_H
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "Documents.h"
 #include "Finding.h"
 #include "ZELDbBinary.h"
+#include "ZELVBTXMLNode.h"
 #include "ZanDicDiagnostic.h"
 
 namespace tool {
@@ -21,6 +23,7 @@ struct ReadDocument {
     std::string file;  ///< as it is shown
     std::string package;
     ZanDicReading end;
+    std::unique_ptr<ZELVBTXMLDocument> tree;  ///< null when it is not well formed
 
     bool IsTuning() const { return IsTuningFile(file); }
 };
@@ -33,11 +36,11 @@ public:
     explicit ReaderFindings(std::string directories) : _Directories(std::move(directories)) {}
 
     bool OnDiagnostic(const ZanDicDiagnostic& diagnostic) override;
-    void OnDocument(std::string_view file, std::string_view package, ZanDicReading end) override;
+    void OnDocument(ZanDicReadDocument document) override;
     bool IsThorough() const override { return true; }
 
     /// \returns the documents, those first whose reading ended first.
-    const std::vector<ReadDocument>& Documents() const { return _DOCUMENTS; }
+    std::vector<ReadDocument>& Documents() { return _DOCUMENTS; }
 
     /// \returns the findings, in the order of telling; their notes get their places from \p documents.
     Findings Take(class Documents& documents);

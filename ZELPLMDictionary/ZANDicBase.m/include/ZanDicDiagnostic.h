@@ -4,10 +4,13 @@
 #define ZAN_DIC_DIAGNOSTIC_H
 
 #include <cstdint>
+#include <memory>
 #include <string_view>
 
 #include "ZELDbBinary.h"
 #include "ZanDicExport.h"
+
+class ZELVBTXMLDocument;
 
 /// How grave a fault is: an error makes the load fail, a warning does not. Faults of tuning documents are
 /// warnings: the package stays loaded, without what the document describes.
@@ -118,6 +121,16 @@ enum class ZanDicReading : std::uint8_t {
     NameTaken,  ///< another document has brought a package of that name: this one was not read any further
 };
 
+/// A document whose reading is over.
+struct ZanDicReadDocument {
+    std::string_view file;  ///< as it was opened
+    std::string_view
+        package;  ///< in it; of a document that cannot be read, the one that its file's name says
+    ZanDicReading end;
+    /// What the file holds, for whoever wants to keep it: it may be taken. Null when it is not well formed.
+    std::unique_ptr<ZELVBTXMLDocument>& tree;
+};
+
 /// Is told each fault once, whatever the trace level, in the order in which the reader finds them.
 class ZANDICBASE_API ZanDicDiagnosticObserver {
 public:
@@ -127,9 +140,8 @@ public:
     /// Must not call the dictionary.
     virtual bool OnDiagnostic(const ZanDicDiagnostic& diagnostic) = 0;
 
-    /// Is told each document that was found, when its reading is over; before that come its faults. A
-    /// document that cannot be read counts as one of the package in its file's name.
-    virtual void OnDocument(std::string_view /*file*/, std::string_view /*package*/, ZanDicReading /*end*/) {}
+    /// Is told each document that was found, when its reading is over; before that come its faults.
+    virtual void OnDocument(ZanDicReadDocument /*document*/) {}
 
     /// Whether it wants to know of a package what loading it alone would show, and of each fault what follows
     /// from it. Then a reference to a package that is loaded and not used, directly or through others, finds

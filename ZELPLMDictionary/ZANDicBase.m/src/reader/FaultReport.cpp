@@ -45,7 +45,7 @@ constexpr ReasonRow kReasons[] = {
     {ReferenceNotFound, "{attribute} of \"{element}\": no object has the UUID {detail}"},
     {ReferenceOfWrongKind, "{attribute} of \"{element}\": {other} is no {detail}"},
     {CrossDomainReference, "{attribute} of \"{element}\": {other} is in another domain"},
-    {ReferenceRefused, "{attribute} of \"{element}\": {other} is refused ({detail})"},
+    {ReferenceRefused, "{attribute} of \"{element}\": {other} is refused: {detail}"},
     {InvalidRedefinition, "\"{element}\" does not redefine what it inherits: {detail}"},
     {InvalidBlock, "attribute blocks of \"{element}\": {detail}"},
 };

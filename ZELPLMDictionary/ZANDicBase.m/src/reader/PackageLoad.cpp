@@ -115,13 +115,14 @@ void PackageLoad::tell_Failed(std::string_view attributeName, std::string_view n
 }
 
 /// Tells the observer how the reading of the package's document, or its tuning document, ended.
-void PackageLoad::tell_Document(const std::string& file, HRESULT rc) const {
+void PackageLoad::tell_Document(const std::string& file, HRESULT rc,
+                                std::unique_ptr<ZELVBTXMLDocument>& tree) const {
     ZanDicDiagnosticObserver* const observer = ZanDicGetDiagnosticObserver();
     if (observer == nullptr || file.empty()) return;
-    observer->OnDocument(file, _Place.package,
-                         Failed(rc)     ? ZanDicReading::Failed
-                         : _IsNameTaken ? ZanDicReading::NameTaken
-                                        : ZanDicReading::Loaded);
+    const ZanDicReading end = Failed(rc)     ? ZanDicReading::Failed
+                              : _IsNameTaken ? ZanDicReading::NameTaken
+                                             : ZanDicReading::Loaded;
+    observer->OnDocument({file, _Place.package, end, tree});
 }
 
 void PackageLoad::Pause() {
@@ -493,7 +494,7 @@ void PackageLoad::Fail(int cause) {
     if (IsCreated() && FaultReport::IsThorough() && !_Run.faults.IsStopped()) {
         TuningReading tuning(_Run.manager, _Name, _Run.dirNames, *_Reading->package, &_Run);
         tuning.Read();
-        tell_Document(tuning.File(), E_FAIL);
+        tell_Document(tuning.File(), E_FAIL, tuning.Tree());
         _Run.faults.Enter(_Place);
     }
     if (_Place.firstFailure == 0) _Place.firstFailure = cause;
@@ -503,7 +504,7 @@ void PackageLoad::Fail(int cause) {
 
 void PackageLoad::Finish() {
     Resume();
-    if (_IsFound) tell_Document(_Place.file, _Result);
+    if (_IsFound) tell_Document(_Place.file, _Result, _Document);
     _Document.reset();
     if (IsCreated()) kTrace.Say(TraceLevel::Information, text::kReleasing);
     _Reading.reset();
@@ -551,7 +552,7 @@ void PackageLoad::EndTuning() {
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kTuningResult << _Name << ")]=" << ZanDicTraceScope::Word(rc);
     }
-    tell_Document(tuning->File(), rc);
+    tell_Document(tuning->File(), rc, tuning->Tree());
     if (Succeeded(rc)) return;
     Fault fault{TuningFailed};
     fault.severity = ZanDicSeverity::Warning;

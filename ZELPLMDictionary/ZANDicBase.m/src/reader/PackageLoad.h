@@ -165,7 +165,7 @@ private:
     bool is_ThereAlready(const ZELString& name);
     bool find_Failure();
     void tell_Failed(std::string_view attributeName, std::string_view name, int cause);
-    void tell_Document(const std::string& file, HRESULT rc) const;
+    void tell_Document(const std::string& file, HRESULT rc, std::unique_ptr<ZELVBTXMLDocument>& tree) const;
     void enter_Name(const ZELString& name);
     void leave_Names();
 

@@ -46,6 +46,9 @@ public:
     /// The document; empty when there is none.
     const std::string& File() const { return _Place.file; }
 
+    /// What it holds; null when it is not well formed. Whoever takes it does so when all is over.
+    std::unique_ptr<ZELVBTXMLDocument>& Tree() { return _Document; }
+
     /// Number of the first fault; 0 when none was told.
     int FirstFailure() const { return _Place.firstFailure; }
 
