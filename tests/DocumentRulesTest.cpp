@@ -115,6 +115,16 @@ TEST_F(RulesTest, APackageInASubordinateTagIsFound) {
     EXPECT_EQ(PlacesOf(CheckParts()), std::vector<std::string>{"unknown-word 3:80"});
 }
 
+TEST_F(RulesTest, APackageWithoutNameIsCalledAsItsFile) {
+    Make("Parts.metadata", "<Package Uuid=\"" + U(0xF) + "\">" +
+                               ClassTag("Part", 1, "", "<Simple" + Id("Label", 2) + "/>") + "</Package>");
+
+    const tool::Findings findings = CheckParts();
+
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings.front().element, "Parts::Part::Label");
+}
+
 TEST_F(RulesTest, ADeepNestAndALongChainAreWalkedWithoutCalls) {
     constexpr unsigned kDepth = 20'000;
     std::string body = "<RBOClass" + Id("Table", 1) + "/><RBOMapping" + Id("Mapping", 2) +

@@ -11,6 +11,7 @@
 #include "OXMIDicClass.h"
 #include "OXMIDicRelationship.h"
 #include "RuleCodes.h"
+#include "RuleCycles.h"
 
 namespace tool {
 namespace {
@@ -18,8 +19,6 @@ namespace {
 namespace tag = ZANDicFormat::tag;
 namespace word = ZANDicFormat::word;
 namespace value = ZANDicFormat::value;
-
-constexpr std::size_t kShownSteps = 5;  ///< of a cycle, in its text and its notes
 
 bool IsClassTag(std::string_view tagName) {
     return tagName == tag::kClass || tagName == tag::kInstance || tagName == tag::kExtension;
@@ -39,75 +38,6 @@ bool Inherits(zandic::Handle<OXMIDicClass> heir, const ZELDbBinary& uuid) {
     }
     return false;
 }
-
-/// Finds which of the numbered things reach each other, by Tarjan's way with a list instead of calls.
-class Groups {
-public:
-    static constexpr std::uint32_t kNone = 0xFFFFFFFF;
-
-    template <class Edges>
-    static std::vector<std::uint32_t> Of(const std::vector<Edges>& edges) {
-        Groups groups(edges.size());
-        for (std::uint32_t start = 0; start < edges.size(); ++start) {
-            if (groups._ORDER[start] == kNone) groups.Visit(edges, start);
-        }
-        return std::move(groups._GROUPS);
-    }
-
-private:
-    struct Step {
-        std::uint32_t at;
-        std::size_t next;
-    };
-
-    explicit Groups(std::size_t size) : _ORDER(size, kNone), _LOWEST(size, kNone), _GROUPS(size, kNone) {}
-
-    void Enter(std::uint32_t at) {
-        _ORDER[at] = _LOWEST[at] = _Count++;
-        _OPEN.push_back(at);
-        _STEPS.push_back({at, 0});
-    }
-
-    template <class Edges>
-    void Visit(const std::vector<Edges>& edges, std::uint32_t start) {
-        Enter(start);
-        while (!_STEPS.empty()) {
-            Step& step = _STEPS.back();
-            const std::uint32_t at = step.at;
-            if (step.next < edges[at].size()) {
-                const std::uint32_t to = edges[at][step.next++].to;
-                if (_ORDER[to] == kNone) {
-                    Enter(to);
-                } else if (_GROUPS[to] == kNone) {
-                    _LOWEST[at] = std::min(_LOWEST[at], _ORDER[to]);
-                }
-                continue;
-            }
-            _STEPS.pop_back();
-            if (!_STEPS.empty()) {
-                std::uint32_t& lowest = _LOWEST[_STEPS.back().at];
-                lowest = std::min(lowest, _LOWEST[at]);
-            }
-            if (_LOWEST[at] == _ORDER[at]) Close(at);
-        }
-    }
-
-    void Close(std::uint32_t first) {
-        std::uint32_t at = kNone;
-        do {
-            at = _OPEN.back();
-            _OPEN.pop_back();
-            _GROUPS[at] = first;
-        } while (at != first);
-    }
-
-    std::vector<std::uint32_t> _ORDER;
-    std::vector<std::uint32_t> _LOWEST;
-    std::vector<std::uint32_t> _GROUPS;
-    std::vector<std::uint32_t> _OPEN;
-    std::vector<Step> _STEPS;
-    std::uint32_t _Count = 0;
-};
 
 }  // namespace
 
@@ -134,10 +64,16 @@ void ClassRules::AddMember(const RuleElement& element) {
                              element[Slot::InverseOfRef]});
         return;
     }
-    const bool isHere = target != nullptr && target->IsHere() && IsClassTag(target->node.getTag());
-    _MEMBERS.push_back({element.node.Index(), static_cast<std::uint32_t>(_CLASSES.size() - 1),
-                        isHere ? target->node.Index() : kNone,
-                        isHere && element.IsYes(Slot::Mandatory) && !MayBeEmpty(element)});
+    Member added{element.node.Index(), static_cast<std::uint32_t>(_CLASSES.size() - 1), kNone, kNone,
+                 target != nullptr && IsClassTag(_Document.TagOf(*target)) &&
+                     element.IsYes(Slot::Mandatory) && !MayBeEmpty(element)};
+    if (target != nullptr && target->IsHere()) {
+        if (IsClassTag(target->node.getTag())) added.targetElement = target->node.Index();
+    } else if (added.isMandatory) {
+        added.outward = static_cast<std::uint32_t>(_OUTWARD.size());
+        _OUTWARD.push_back(*target);
+    }
+    _MEMBERS.push_back(added);
 }
 
 std::uint32_t ClassRules::end_OfMembers(std::uint32_t classNumber) const {
@@ -306,82 +242,23 @@ void ClassRules::check_Inverse(const Inverse& inverse) {
 
 // Cycles.
 
-ClassRules::Net ClassRules::make_Net() const {
-    Net net;
-    net.needs.resize(_CLASSES.size());
-    for (std::uint32_t number = 0; number < _CLASSES.size(); ++number) {
-        if (_CLASSES[number].super != kNone) net.needs[number].push_back({_CLASSES[number].super, kNone});
-    }
-    for (std::uint32_t index = 0; index < _MEMBERS.size(); ++index) {
-        const std::uint32_t target = class_At(_MEMBERS[index].targetElement);
-        if (_MEMBERS[index].isMandatory && target != kNone) {
-            net.needs[_MEMBERS[index].owner].push_back({target, index});
-        }
-    }
-    net.groups = Groups::Of(net.needs);
-    return net;
+Party ClassRules::here(std::uint32_t element) const {
+    return {{}, _Document.Document().ElementAt(element), {}, nullptr, nullptr};
 }
 
 void ClassRules::check_Cycles() {
-    const Net net = make_Net();
-    std::vector<bool> isTold(_CLASSES.size(), false);
-    for (std::uint32_t index = 0; index < _MEMBERS.size(); ++index) {
-        const Member& member = _MEMBERS[index];
-        const std::uint32_t target = class_At(member.targetElement);
-        if (!member.isMandatory || target == kNone) continue;
-        const std::uint32_t group = net.groups[member.owner];
-        if (group != net.groups[target] || isTold[group]) continue;
-        isTold[group] = true;
-        tell_Cycle(net, index);
+    CycleRules cycles(_Document);
+    for (const Class& each : _CLASSES) {
+        if (each.super != kNone) cycles.AddSuper(here(each.element), here(each.superElement));
+        if (each.superElsewhere) cycles.AddSuper(here(each.element), each.superElsewhere);
     }
-}
-
-/// The members of a shortest way from the target of \p member back to its class.
-std::vector<std::uint32_t> ClassRules::way_Back(const Net& net, const Member& member) const {
-    struct Came {
-        std::uint32_t from;
-        std::uint32_t member;
-    };
-    std::unordered_map<std::uint32_t, Came> came;
-    const std::uint32_t start = class_At(member.targetElement);
-    std::vector<std::uint32_t> reached{start};
-    came.emplace(start, Came{kNone, kNone});
-    for (std::size_t index = 0; index < reached.size() && !came.contains(member.owner); ++index) {
-        const std::uint32_t from = reached[index];
-        for (const Need& need : net.needs[from]) {
-            if (net.groups[need.to] != net.groups[start]) continue;
-            if (came.emplace(need.to, Came{from, need.member}).second) reached.push_back(need.to);
-        }
+    for (const Member& member : _MEMBERS) {
+        if (!member.isMandatory) continue;
+        const Party target =
+            member.targetElement != kNone ? here(member.targetElement) : _OUTWARD[member.outward];
+        cycles.AddRelationship(here(_CLASSES[member.owner].element), here(member.element), target);
     }
-    std::vector<std::uint32_t> way;
-    for (std::uint32_t at = member.owner; at != start; at = came.at(at).from) {
-        if (came.at(at).member != kNone) way.push_back(came.at(at).member);
-    }
-    std::reverse(way.begin(), way.end());
-    return way;
-}
-
-void ClassRules::tell_Cycle(const Net& net, std::uint32_t first) {
-    std::vector<std::uint32_t> way = way_Back(net, _MEMBERS[first]);
-    way.insert(way.begin(), first);
-    std::string steps;
-    for (std::size_t index = 0; index < std::min(way.size(), kShownSteps); ++index) {
-        const Member& member = _MEMBERS[way[index]];
-        steps += fmt::format("{}{} needs {}", index == 0 ? "" : ", ",
-                             _Document.Name(_Document.Document().ElementAt(member.element)),
-                             _Document.Name(_Document.Document().ElementAt(member.targetElement)));
-    }
-    if (way.size() > kShownSteps) steps += fmt::format(", and {} more", way.size() - kShownSteps);
-    const ZELVBTXMLNode node = _Document.Document().ElementAt(_MEMBERS[first].element);
-    Finding* const finding =
-        _Document.Tell(rule::kMandatoryCycle, node,
-                       fmt::format("no object can be the first, since every relationship of a cycle is "
-                                   "mandatory: {}",
-                                   steps));
-    for (std::size_t index = 1; index < std::min(way.size(), kShownSteps); ++index) {
-        const ZELVBTXMLNode step = _Document.Document().ElementAt(_MEMBERS[way[index]].element);
-        _Document.Note(finding, step, fmt::format("{} is here", Quoted(_Document.Name(step))));
-    }
+    cycles.Finish();
 }
 
 }  // namespace tool

@@ -1,5 +1,5 @@
-/// The rules about how classes are related: inverses that only one side knows, and cycles in which every
-/// relationship is mandatory.
+/// The rules about how classes are related: inverses that only one side knows, and what cycles are looked for
+/// in.
 #ifndef ZANDIC_TOOL_RULE_CLASSES_H
 #define ZANDIC_TOOL_RULE_CLASSES_H
 
@@ -45,6 +45,7 @@ private:
         std::uint32_t element;
         std::uint32_t owner;          ///< number of its class
         std::uint32_t targetElement;  ///< of a target in this document; else kNone
+        std::uint32_t outward;        ///< of a needed target elsewhere: number; else kNone
         bool isMandatory;             ///< and needs an object of the target
     };
 
@@ -56,17 +57,8 @@ private:
         ZELVBTXMLAttribute inverseOf;
     };
 
-    /// One class needs another: by a mandatory relationship, or since it inherits what its super class needs.
-    struct Need {
-        std::uint32_t to;
-        std::uint32_t member;  ///< kNone for the super class
-    };
-
     std::uint32_t class_At(std::uint32_t element) const {
         return element != kNone ? _CLASS_OF[element] : kNone;
-    }
-    ZELVBTXMLNode node_Of(std::uint32_t classNumber) const {
-        return _Document.Document().ElementAt(_CLASSES[classNumber].element);
     }
     std::uint32_t end_OfMembers(std::uint32_t classNumber) const;
 
@@ -79,20 +71,14 @@ private:
     Party owner_Of(const Party& member);
     Party target_Of(const Party& relationship);
 
-    /// What each class needs, and which classes need each other.
-    struct Net {
-        std::vector<std::vector<Need>> needs;
-        std::vector<std::uint32_t> groups;
-    };
-    Net make_Net() const;
+    Party here(std::uint32_t element) const;
     void check_Cycles();
-    std::vector<std::uint32_t> way_Back(const Net& net, const Member& member) const;
-    void tell_Cycle(const Net& net, std::uint32_t first);
 
     RuleDocument& _Document;
     std::vector<std::uint32_t> _CLASS_OF;  ///< number of the class by element
     std::vector<Class> _CLASSES;
     std::vector<Member> _MEMBERS;  ///< relationships, by class
+    std::vector<Party> _OUTWARD;   ///< classes elsewhere that relationships here need
     std::vector<Inverse> _INVERSES;
     std::vector<std::uint32_t> _WALK;  ///< numbers of classes, heirs behind their super class
 };

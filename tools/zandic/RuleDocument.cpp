@@ -18,9 +18,6 @@ namespace word = ZANDicFormat::word;
 
 auto OrderOf(const ZanDicPlace& place) { return std::tie(place.line, place.column); }
 
-/// The name of the package in an item of `UseNames`, which may have a content word behind it.
-std::string_view BeforeDot(std::string_view item) { return item.substr(0, item.find('.')); }
-
 /// The package of an element, a member or an attribute block; empty for what does not know it.
 std::string PackageOf(OXMIDicElementH& object) {
     zandic::Handle<OXMIDicElement> element = zandic::As<OXMIDicElement>(object);
@@ -51,15 +48,20 @@ std::string_view NameAttribute(const ZELVBTXMLNode& node) {
     return node.getAttributeValue(word::kName).value_or(std::string_view());
 }
 
+std::string_view BeforeDot(std::string_view item) { return item.substr(0, item.find('.')); }
+
+std::string_view StemOf(std::string_view file) {
+    const std::size_t slash = file.rfind('/');
+    return BeforeDot(slash != std::string_view::npos ? file.substr(slash + 1) : file);
+}
+
 std::string Quoted(std::string_view text) { return std::string("\"").append(text).append("\""); }
 
 RuleDocument::RuleDocument(const CheckedDocument& checked, Findings& findings)
     : _Checked(checked), _Findings(findings), _Package(FindPackageTag(checked.places.Document())) {
     if (!_Package) return;
     _PackageName = NameAttribute(_Package);
-    if (_PackageName.empty() && checked.package != nullptr) {
-        _PackageName = zandic::Name(*checked.package).View();
-    }
+    if (_PackageName.empty()) _PackageName = StemOf(checked.file);  // as the reader takes it
     _OWNERS.assign(Document().ElementCount(), _Package.Index());
     for (const Finding& fault : checked.faults) {
         if (fault.at.file != checked.file || fault.at.place.line == 0) continue;

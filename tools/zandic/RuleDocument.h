@@ -126,6 +126,12 @@ ZELVBTXMLNode FindPackageTag(const ZELVBTXMLDocument& document);
 /// \returns the attribute `Name` of a tag; empty when there is none.
 std::string_view NameAttribute(const ZELVBTXMLNode& node);
 
+/// \returns the name of the package in an item of `UseNames`, which may have a content word behind it.
+std::string_view BeforeDot(std::string_view item);
+
+/// \returns the name under which the package in a file is asked for.
+std::string_view StemOf(std::string_view file);
+
 /// \returns a text in double quotes.
 std::string Quoted(std::string_view text);
 

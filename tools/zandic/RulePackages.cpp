@@ -11,14 +11,6 @@ namespace {
 
 namespace word = ZANDicFormat::word;
 
-std::string_view BeforeDot(std::string_view item) { return item.substr(0, item.find('.')); }
-
-/// The name under which a file is asked for.
-std::string_view StemOf(std::string_view file) {
-    const std::size_t slash = file.rfind('/');
-    return BeforeDot(slash != std::string_view::npos ? file.substr(slash + 1) : file);
-}
-
 }  // namespace
 
 /// The tuning document as it was read, else the one beside the package's document.
@@ -55,17 +47,20 @@ void PackageRules::read_Names() {
 void PackageRules::Refer(const RuleElement& element) {
     for (const RuleTarget& target : element.targets) {
         const Party& party = target.party;
-        if (party.IsHere() || party.package->empty() || !_MET.insert(party.package).second) continue;
+        if (party.IsHere() || party.package->empty() || _MET.contains(party.package)) continue;
         _USED.insert(*party.package);
-        if (is_Named(*party.package) || _Document.IsTold(target.attribute)) continue;
-        Finding* const finding =
-            _Document.Tell(rule::kUnnamedPackage, element.node, target.attribute,
-                           fmt::format("package {} is used, but neither UseNames nor UseScopes names it",
-                                       Quoted(*party.package)));
-        _Document.Note(
-            finding, party,
-            fmt::format("{} {} is here", _Document.TagOf(party), _Document.QualifiedNameOf(party)));
-        if (finding == nullptr) _MET.erase(party.package);
+        if (!is_Named(*party.package)) {
+            if (_Document.IsTold(target.attribute)) continue;
+            Finding* const finding =
+                _Document.Tell(rule::kUnnamedPackage, element.node, target.attribute,
+                               fmt::format("package {} is used, but neither UseNames nor UseScopes names it",
+                                           Quoted(*party.package)));
+            if (finding == nullptr) continue;
+            _Document.Note(
+                finding, party,
+                fmt::format("{} {} is here", _Document.TagOf(party), _Document.QualifiedNameOf(party)));
+        }
+        _MET.insert(party.package);
     }
 }
 
