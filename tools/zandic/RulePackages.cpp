@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-
 #include "RuleCodes.h"
 
 namespace tool {
@@ -35,6 +33,7 @@ void PackageRules::read_Names() {
         ForEachItem(attribute.Value(), [&](std::string_view item) {
             if (known.insert(item).second) {
                 _NAMES.push_back({item, attribute, isScope});
+                _NAMED.insert(BeforeDot(item));
             } else if (told.insert(item).second) {
                 _Document.Tell(rule::kRepeatedReference, _Document.Package(), attribute,
                                fmt::format("{} of {} names {} more than once", list,
@@ -48,7 +47,7 @@ void PackageRules::Refer(const RuleElement& element) {
     for (const RuleTarget& target : element.targets) {
         const Party& party = target.party;
         if (party.IsHere() || party.package->empty() || _MET.contains(party.package)) continue;
-        _USED.insert(*party.package);
+        use(*party.package);
         if (!is_Named(*party.package)) {
             if (_Document.IsTold(target.attribute)) continue;
             Finding* const finding =
@@ -95,7 +94,7 @@ void PackageRules::use_Tuning() {
         if (name != word::kExtents && name != word::kAttributeUuids && name != word::kUuid) continue;
         ForEachItem(attribute.Value(), [this](std::string_view item) {
             const Party party = _Document.Find(item);
-            if (party && !party.IsHere()) _USED.insert(*party.package);
+            if (party && !party.IsHere()) use(*party.package);
         });
     }
 }
@@ -109,19 +108,17 @@ bool PackageRules::is_Unused(const Named& named) const {
     const std::string_view name = BeforeDot(named.item);
     const CheckedDocument& checked = _Document.Checked();
     if (!checked.dictionary.Package(name) && checked.documents.FileOf(name).empty()) return false;
-    return std::none_of(_USED.begin(), _USED.end(),
-                        [&](const std::string& package) { return means(named.item, package); });
-}
-
-bool PackageRules::is_Named(const std::string& package) const {
-    return std::any_of(_NAMES.begin(), _NAMES.end(),
-                       [&](const Named& named) { return means(named.item, package); });
+    return !_USED.contains(name);
 }
 
 /// A package is named as its document names it, or as its file is called.
-bool PackageRules::means(std::string_view item, const std::string& package) const {
-    const std::string_view name = BeforeDot(item);
-    return name == package || name == StemOf(_Document.Checked().documents.FileOf(package));
+bool PackageRules::is_Named(const std::string& package) const {
+    return _NAMED.contains(package) || _NAMED.contains(StemOf(_Document.Checked().documents.FileOf(package)));
+}
+
+void PackageRules::use(const std::string& package) {
+    _USED.insert(package);
+    _USED.emplace(StemOf(_Document.Checked().documents.FileOf(package)));
 }
 
 }  // namespace tool

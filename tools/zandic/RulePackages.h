@@ -35,12 +35,13 @@ private:
     void use_Tuning();
     std::string tuning_File() const;
     bool is_Named(const std::string& package) const;
-    bool means(std::string_view item, const std::string& package) const;
+    void use(const std::string& package);
 
     RuleDocument& _Document;
     std::vector<Named> _NAMES;
-    std::set<const std::string*> _MET;  ///< of parties, by address
-    std::set<std::string, std::less<>> _USED;
+    std::set<std::string_view> _NAMED;         ///< the packages of these names
+    std::set<const std::string*> _MET;         ///< packages of parties, by address
+    std::set<std::string, std::less<>> _USED;  ///< used packages, as they and as their files are called
 };
 
 }  // namespace tool
