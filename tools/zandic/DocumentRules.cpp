@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 
 #include <array>
+#include <bit>
+#include <cstdint>
 #include <span>
 #include <utility>
 #include <vector>
@@ -113,9 +115,10 @@ private:
         element.targets.clear();
         item.references.clear();
         _Words.Check(words, element);
-        for (std::size_t index = 0; index < kReferenceSlots; ++index) {
+        constexpr std::uint32_t kReferences = (1U << kReferenceSlots) - 1;
+        for (std::uint32_t left = element.isGiven & kReferences; left != 0; left &= left - 1) {
+            const auto index = static_cast<std::size_t>(std::countr_zero(left));
             const ZELVBTXMLAttribute& attribute = element.given[index];
-            if (!attribute) continue;
             const auto note = [&](std::string_view text) {
                 item.references.push_back({static_cast<Slot>(index), attribute, UuidFromText(text)});
                 _Document.Checked().places.PrefetchSlot(item.references.back().uuid);
@@ -142,7 +145,7 @@ private:
             }
         }
         for (const Item& item : items) {
-            for (const Target& target : item.element.targets) {
+            for (const RuleTarget& target : item.element.targets) {
                 if (!target.party.node) continue;
                 const ZELVBTXMLAttributes attributes = target.party.node.Attributes();
                 if (attributes.Size() > 0) __builtin_prefetch((*attributes.begin()).Name().data());

@@ -148,8 +148,10 @@ std::uint32_t ClassRules::end_OfMembers(std::uint32_t classNumber) const {
 void ClassRules::Finish() {
     for (Class& each : _CLASSES) each.super = class_At(each.superElement);
     number_Hierarchy();
-    drop_Redefined();
     for (const Inverse& inverse : _INVERSES) check_Inverse(inverse);
+    const auto isMandatory = [](const Member& member) { return member.isMandatory; };
+    if (std::none_of(_MEMBERS.begin(), _MEMBERS.end(), isMandatory)) return;
+    drop_Redefined();
     check_Cycles();
 }
 
@@ -321,9 +323,6 @@ ClassRules::Net ClassRules::make_Net() const {
 }
 
 void ClassRules::check_Cycles() {
-    const bool hasMandatory = std::any_of(_MEMBERS.begin(), _MEMBERS.end(),
-                                          [](const Member& member) { return member.isMandatory; });
-    if (!hasMandatory) return;
     const Net net = make_Net();
     std::vector<bool> isTold(_CLASSES.size(), false);
     for (std::uint32_t index = 0; index < _MEMBERS.size(); ++index) {

@@ -49,10 +49,22 @@ Slot SlotOf(std::string_view name) {
     return row != std::end(kSlotRows) ? row->slot : Slot::None;
 }
 
-/// Only an extension extends something, though the table of classes admits the words for all.
-bool IsUnread(std::string_view tagName, std::string_view name) {
-    return (tagName == tag::kClass || tagName == tag::kInstance) &&
-           (name == word::kScopeRefs || name == word::kScopeNames);
+TagWords::Look LookAt(std::string_view tagName, const AttributeRow& row) {
+    // Only an extension extends something, though the table of classes admits the words for all.
+    const bool isScope = row.name == word::kScopeRefs || row.name == word::kScopeNames;
+    if (isScope && (tagName == tag::kClass || tagName == tag::kInstance)) return TagWords::Look::Unread;
+    switch (row.form) {
+        case AttributeForm::Flag:
+        case AttributeForm::Word:
+            return TagWords::Look::Word;
+        case AttributeForm::Uuid:
+        case AttributeForm::Reference:
+            return TagWords::Look::Uuid;
+        case AttributeForm::References:
+            return TagWords::Look::Uuids;
+        default:
+            return TagWords::Look::Nothing;
+    }
 }
 
 bool IsRelation(std::string_view tagName) {
@@ -80,10 +92,15 @@ TagWords::TagWords(const TagRow& row, bool isTuning)
       _LosesUnknown(isTuning || IsRelation(row.tag)) {
     _WORDS.reserve(row.attributes.size());
     for (const AttributeRow& attribute : row.attributes) {
-        const bool isUnread = IsUnread(row.tag, attribute.name);
-        Word word{&attribute, KnownText(attribute.name),
-                  {},         isUnread ? Slot::None : SlotOf(attribute.name),
-                  isUnread,   static_cast<std::uint8_t>(_WORDS.size())};
+        const Look look = LookAt(row.tag, attribute);
+        const bool isIdentity = attribute.name == word::kName || attribute.name == word::kUuid;
+        Word word{&attribute,
+                  KnownText(attribute.name),
+                  {},
+                  look == Look::Unread ? Slot::None : SlotOf(attribute.name),
+                  look,
+                  _Repeats != Repeats::FirstCounts && !isIdentity,
+                  static_cast<std::uint8_t>(_WORDS.size())};
         for (const CodeWord& each : attribute.words) word.values.emplace_back(each.word);
         if (attribute.form == AttributeForm::Flag) {
             for (const std::string_view each : {value::kYes, value::kNo}) word.values.emplace_back(each);

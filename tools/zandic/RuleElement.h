@@ -49,9 +49,10 @@ enum class Slot : std::uint8_t {
 };
 inline constexpr std::size_t kReferenceSlots = static_cast<std::size_t>(Slot::Name);
 inline constexpr std::size_t kSlots = static_cast<std::size_t>(Slot::None);
+static_assert(kSlots <= 32);
 
 /// What one item of a reference points at.
-struct Target {
+struct RuleTarget {
     Slot slot;
     ZELVBTXMLAttribute attribute;
     Party party;
@@ -62,13 +63,26 @@ struct RuleElement {
     ZELVBTXMLNode node;
     OXMDicTYPE kind = OXMDicTYPE_UNDEFINED;
     std::array<ZELVBTXMLAttribute, kSlots> given;
-    std::vector<Target> targets;  ///< of all references, in the order of the slots; those found
+    std::uint32_t isGiven = 0;        ///< a bit for each slot
+    std::vector<RuleTarget> targets;  ///< of all references, in the order of the slots; those found
 
     const ZELVBTXMLAttribute& operator[](Slot slot) const { return given[static_cast<std::size_t>(slot)]; }
 
+    void Set(Slot slot, const ZELVBTXMLAttribute& attribute) {
+        given[static_cast<std::size_t>(slot)] = attribute;
+        isGiven |= 1U << static_cast<unsigned>(slot);
+    }
+
+    /// Forgets what was given.
+    void Clear() {
+        for (; isGiven != 0; isGiven &= isGiven - 1) {
+            given[static_cast<std::size_t>(std::countr_zero(isGiven))] = {};
+        }
+    }
+
     /// \returns the first thing that a reference points at; nothing when there is none.
     const Party* TargetOf(Slot slot) const {
-        for (const Target& target : targets) {
+        for (const RuleTarget& target : targets) {
             if (target.slot == slot) return &target.party;
         }
         return nullptr;
@@ -139,12 +153,22 @@ public:
         ReaderTells,  ///< the last counts, and the reader says so
     };
 
+    /// What is looked at in a value.
+    enum class Look : std::uint8_t {
+        Nothing,
+        Word,
+        Uuid,  ///< or one of the words
+        Uuids,
+        Unread,  ///< the attribute is admitted, and the reader never asks for it
+    };
+
     struct Word {
         const ZANDicFormat::AttributeRow* row;
         KnownText name;
         std::vector<KnownText> values;  ///< that the attribute may have: words, those of flags too
         Slot slot;
-        bool isUnread;  ///< admitted, and never looked at
+        Look look;
+        bool lastCounts;  ///< of several in a tag
         std::uint8_t index;
 
         /// Whether a value is one of the words.

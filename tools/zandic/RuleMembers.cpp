@@ -33,9 +33,9 @@ std::optional<int> NumberOf(const ZELVBTXMLAttribute& attribute) {
 }
 
 /// The targets of one reference, in the order of their items.
-std::vector<const Target*> TargetsOf(const RuleElement& element, Slot slot) {
-    std::vector<const Target*> targets;
-    for (const Target& target : element.targets) {
+std::vector<const RuleTarget*> TargetsOf(const RuleElement& element, Slot slot) {
+    std::vector<const RuleTarget*> targets;
+    for (const RuleTarget& target : element.targets) {
         if (target.slot == slot) targets.push_back(&target);
     }
     return targets;
@@ -104,7 +104,7 @@ void CheckNameList(RuleDocument& document, const RuleElement& element) {
     std::vector<std::string> actual;
     std::size_t items = 0;
     if (references) ForEachItem(references.Value(), [&](std::string_view) { ++items; });
-    for (const Target* const target : TargetsOf(element, Slot::ScopeRefs)) {
+    for (const RuleTarget* const target : TargetsOf(element, Slot::ScopeRefs)) {
         actual.push_back(document.NameOf(target->party));
         if (actual.back().find(' ') != std::string::npos) return;
     }
@@ -119,7 +119,7 @@ void CheckNameList(RuleDocument& document, const RuleElement& element) {
                                   Quoted(document.Name(element.node)), Quoted(names.Value()),
                                   references ? fmt::format("{} means {}", references.Name(), Quoted(list))
                                              : fmt::format("there is no {}", word::kScopeRefs)));
-    for (const Target* const target : TargetsOf(element, Slot::ScopeRefs)) {
+    for (const RuleTarget* const target : TargetsOf(element, Slot::ScopeRefs)) {
         if (std::binary_search(said.begin(), said.end(), document.NameOf(target->party))) continue;
         document.Note(finding, target->party,
                       fmt::format("{} {} is here", document.TagOf(target->party),
@@ -166,20 +166,20 @@ void CheckBounds(RuleDocument& document, const RuleElement& element) {
 
 void CheckRepeatedReferences(RuleDocument& document, const RuleElement& element) {
     if (element.targets.size() < 2) return;
-    std::vector<const Target*> targets;
-    for (const Target& target : element.targets) {
+    std::vector<const RuleTarget*> targets;
+    for (const RuleTarget& target : element.targets) {
         // A block with an attribute twice is refused, by the reader's word.
         if (target.slot != Slot::AttributeUuids) targets.push_back(&target);
     }
-    const auto isBefore = [](const Target* a, const Target* b) {
+    const auto isBefore = [](const RuleTarget* a, const RuleTarget* b) {
         return a->slot != b->slot ? a->slot < b->slot : a->party.uuid < b->party.uuid;
     };
-    const auto isSame = [](const Target* a, const Target* b) {
+    const auto isSame = [](const RuleTarget* a, const RuleTarget* b) {
         return a->slot == b->slot && a->party.uuid == b->party.uuid;
     };
     std::stable_sort(targets.begin(), targets.end(), isBefore);
     for (std::size_t index = 1; index < targets.size(); ++index) {
-        const Target& target = *targets[index];
+        const RuleTarget& target = *targets[index];
         const bool isRepeated = isSame(&target, targets[index - 1]);
         const bool isToldAlready = index > 1 && isSame(&target, targets[index - 2]);
         if (!isRepeated || isToldAlready || document.IsTold(target.attribute)) continue;
@@ -199,8 +199,8 @@ void CheckNames(RuleDocument& document, const RuleElement& element) {
 }
 
 void CheckScopeNames(RuleDocument& document, const RuleElement& element) {
-    std::vector<std::pair<std::string, const Target*>> names;
-    for (const Target* const target : TargetsOf(element, Slot::ScopeRefs)) {
+    std::vector<std::pair<std::string, const RuleTarget*>> names;
+    for (const RuleTarget* const target : TargetsOf(element, Slot::ScopeRefs)) {
         names.emplace_back(document.NameOf(target->party), target);
     }
     if (names.size() < 2) return;

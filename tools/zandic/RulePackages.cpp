@@ -53,7 +53,7 @@ void PackageRules::read_Names() {
 }
 
 void PackageRules::Refer(const RuleElement& element) {
-    for (const Target& target : element.targets) {
+    for (const RuleTarget& target : element.targets) {
         const Party& party = target.party;
         if (party.IsHere() || party.package->empty() || !_MET.insert(party.package).second) continue;
         _USED.insert(*party.package);

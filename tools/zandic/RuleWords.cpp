@@ -6,6 +6,7 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <span>
 
 #include "RuleCodes.h"
 #include "RuleSuggestions.h"
@@ -18,16 +19,18 @@ using namespace ZANDicFormat;
 /// The attributes whose other words the reader takes without a word of its own, and what those count as.
 struct OtherWord {
     std::string_view attribute;
-    std::string_view countsAs;
+    std::span<const CodeWord> words;
+    int code;
+    std::string_view countsAs;  ///< where the code has no word
 };
 
 constexpr OtherWord kOtherWords[] = {
-    {word::kVisibility, WordOf(kVisibilityWords, kOtherVisibility)},
-    {word::kAccessMode, WordOf(kAccessModeSimpleWords, kOtherAccessMode)},
-    {word::kAggregation, WordOf(kAggregationWords, kOtherAggregation)},
-    {word::kScope, "no scope"},
-    {word::kKVADerivable, "inherited"},
-    {word::kType, WordOf(kPrimitiveWords, kOtherRelationType)},
+    {word::kVisibility, kVisibilityWords, kOtherVisibility, ""},
+    {word::kAccessMode, kAccessModeSimpleWords, kOtherAccessMode, ""},
+    {word::kAggregation, kAggregationWords, kOtherAggregation, ""},
+    {word::kScope, kScopeWords, kOtherScope, "no scope"},
+    {word::kKVADerivable, kKVADerivableWords, kOtherKVADerivable, "inherited"},
+    {word::kType, kPrimitiveWords, kOtherRelationType, ""},
 };
 
 /// \returns what a word that is none counts as; empty where the reader tells of it.
@@ -36,7 +39,8 @@ std::string_view CountsAs(const RuleElement& element, const AttributeRow& row) {
     const bool isRelation = element.kind == OXMDicTYPE_Relationship || element.kind == OXMDicTYPE_Inverse;
     if (row.name == word::kType && !isRelation) return {};
     for (const OtherWord& other : kOtherWords) {
-        if (other.attribute == row.name) return other.countsAs;
+        if (other.attribute != row.name) continue;
+        return other.countsAs.empty() ? WordOf(other.words, other.code) : other.countsAs;
     }
     return {};
 }
@@ -81,57 +85,46 @@ bool IsUuidText(std::string_view text) {
 void WordRules::Check(const TagWords& words, RuleElement& element) {
     static_assert(std::size(kInverseAttributes) <= 32 && std::size(kClassAttributes) <= 32 &&
                   std::size(kSimpleAttributes) <= 32);
-    element.given.fill({});
-    _FIRST.resize(words.Row().attributes.size());
+    element.Clear();
     _UNKNOWN.clear();
     std::uint32_t isGiven = 0;
     for (const ZELVBTXMLAttribute attribute : element.node.Attributes()) {
-        const Given given{words, element, attribute};
         const TagWords::Word* const word = words.Find(attribute.Name());
         if (word == nullptr) {
             _UNKNOWN.push_back(attribute);
-            if (words.LosesUnknown()) tell_Unread(given);
+            if (words.LosesUnknown()) tell_Unread({words, element, attribute});
             continue;
         }
         const std::uint32_t bit = 1U << word->index;
         const bool isRepeated = (isGiven & bit) != 0;
-        const bool lastCounts =
-            words.HowRepeatsCount() != TagWords::Repeats::FirstCounts && !IsIdentity(attribute.Name());
-        if (isRepeated) {
-            tell_Repeated(given, _FIRST[word->index], lastCounts);
-        } else {
-            _FIRST[word->index] = attribute;
-        }
         isGiven |= bit;
-        if (word->isUnread) {
-            tell_Unread(given);
-        } else {
-            check_Value(given, *word);
-        }
-        if (word->slot != Slot::None && (!isRepeated || lastCounts)) {
-            element.given[static_cast<std::size_t>(word->slot)] = attribute;
+        if (isRepeated) tell_Repeated({words, element, attribute}, word->lastCounts);
+        if (word->look != TagWords::Look::Nothing) look_At({words, element, attribute}, *word);
+        if (word->slot != Slot::None && (!isRepeated || word->lastCounts)) {
+            element.Set(word->slot, attribute);
         }
     }
     if (_UNKNOWN.size() > 1) tell_RepeatedUnknown(words, element);
 }
 
-void WordRules::check_Value(const Given& given, const TagWords::Word& word) {
+void WordRules::look_At(const Given& given, const TagWords::Word& word) {
     const std::string_view text = given.attribute.Value();
-    switch (word.row->form) {
-        case AttributeForm::Flag:
-        case AttributeForm::Word:
+    switch (word.look) {
+        case TagWords::Look::Word:
             if (!word.Has(text)) tell_UnknownWord(given, *word.row);
             break;
-        case AttributeForm::Reference:
-            if (!word.values.empty() && word.Has(text)) break;
-            [[fallthrough]];
-        case AttributeForm::Uuid:
-            check_Uuid(given, text);
+        case TagWords::Look::Uuid:
+            if (!IsUuidText(text) && !word.Has(text)) tell_Malformed(given, text);
             break;
-        case AttributeForm::References:
-            ForEachItem(text, [&](std::string_view item) { check_Uuid(given, item); });
+        case TagWords::Look::Uuids:
+            ForEachItem(text, [&](std::string_view item) {
+                if (!IsUuidText(item)) tell_Malformed(given, item);
+            });
             break;
-        default:
+        case TagWords::Look::Unread:
+            tell_Unread(given);
+            break;
+        case TagWords::Look::Nothing:
             break;
     }
 }
@@ -145,8 +138,8 @@ void WordRules::tell_UnknownWord(const Given& given, const AttributeRow& row) {
                                SuggestWord(row, text)));
 }
 
-void WordRules::check_Uuid(const Given& given, std::string_view text) {
-    if (IsUuidText(text) || _Document.IsTold(given.attribute)) return;
+void WordRules::tell_Malformed(const Given& given, std::string_view text) {
+    if (_Document.IsTold(given.attribute)) return;
     _Document.Tell(
         rule::kMalformedUuid, given.element.node, given.attribute,
         fmt::format("{} of {} is no UUID: {} is not 32 hexadecimal digits, with or without dashes",
@@ -163,17 +156,15 @@ void WordRules::tell_Unread(const Given& given) {
                     isAdmitted ? "; only an extension has one" : SuggestAttribute(given.words.Row(), name)));
 }
 
-void WordRules::tell_Repeated(const Given& given, const ZELVBTXMLAttribute& before, bool lastCounts) {
-    if (given.words.HowRepeatsCount() == TagWords::Repeats::ReaderTells &&
-        !IsIdentity(given.attribute.Name())) {
-        return;
-    }
-    Finding* const finding = _Document.Tell(
-        CodeOf(ZanDicDiagnosticCode::RepeatedAttribute), given.element.node, given.attribute,
-        fmt::format("attribute {} of {} {} is given more than once; the {} one counts",
-                    given.attribute.Name(), given.words.Row().tag, Quoted(_Document.Name(given.element.node)),
-                    lastCounts ? "last" : "first"));
-    _Document.Note(finding, before, "it is given here too");
+void WordRules::tell_Repeated(const Given& given, bool lastCounts) {
+    const std::string_view name = given.attribute.Name();
+    if (given.words.HowRepeatsCount() == TagWords::Repeats::ReaderTells && !IsIdentity(name)) return;
+    Finding* const finding =
+        _Document.Tell(CodeOf(ZanDicDiagnosticCode::RepeatedAttribute), given.element.node, given.attribute,
+                       fmt::format("attribute {} of {} {} is given more than once; the {} one counts", name,
+                                   given.words.Row().tag, Quoted(_Document.Name(given.element.node)),
+                                   lastCounts ? "last" : "first"));
+    _Document.Note(finding, given.element.node.getAttribute(name), "it is given here too");
 }
 
 /// What is lost is told as that. What is kept, is kept as it was given last.
@@ -184,7 +175,7 @@ void WordRules::tell_RepeatedUnknown(const TagWords& words, const RuleElement& e
         [](const ZELVBTXMLAttribute& a, const ZELVBTXMLAttribute& b) { return a.Name() < b.Name(); });
     for (std::size_t index = 1; index < _UNKNOWN.size(); ++index) {
         if (_UNKNOWN[index].Name() != _UNKNOWN[index - 1].Name()) continue;
-        tell_Repeated({words, element, _UNKNOWN[index]}, _UNKNOWN[index - 1], true);
+        tell_Repeated({words, element, _UNKNOWN[index]}, true);
     }
 }
 

@@ -25,15 +25,14 @@ private:
         const ZELVBTXMLAttribute& attribute;
     };
 
-    void check_Value(const Given& given, const TagWords::Word& word);
+    void look_At(const Given& given, const TagWords::Word& word);
     void tell_UnknownWord(const Given& given, const ZANDicFormat::AttributeRow& row);
-    void check_Uuid(const Given& given, std::string_view text);
+    void tell_Malformed(const Given& given, std::string_view text);
     void tell_Unread(const Given& given);
-    void tell_Repeated(const Given& given, const ZELVBTXMLAttribute& before, bool lastCounts);
+    void tell_Repeated(const Given& given, bool lastCounts);
     void tell_RepeatedUnknown(const TagWords& words, const RuleElement& element);
 
     RuleDocument& _Document;
-    std::vector<ZELVBTXMLAttribute> _FIRST;    ///< by word: given first in the tag at hand
     std::vector<ZELVBTXMLAttribute> _UNKNOWN;  ///< of the tag at hand
 };
 
