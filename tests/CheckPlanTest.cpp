@@ -60,6 +60,24 @@ TEST_F(CheckPlanTest, ANameIsLookedForOnThePath) {
     EXPECT_EQ(Rounds(plan), "own/first:own/second: P.metadata=own/second/P.metadata Q.metadata=\n");
 }
 
+TEST_F(CheckPlanTest, ANameWithoutMetadataMeansTheKindThatThereIs) {
+    own.MakeFile("first/P.rbomap", "");
+    CheckPlan plan;
+
+    plan.AddName("P", first);
+
+    EXPECT_EQ(Rounds(plan), "own/first: P.rbomap=own/first/P.rbomap\n");
+}
+
+TEST_F(CheckPlanTest, ADocumentThatIsNotHereIsLookedForOnThePath) {
+    own.MakeFile("first/P.rbomap", "");
+    CheckPlan plan;
+
+    plan.AddFile("P.rbomap", first);
+
+    EXPECT_EQ(Rounds(plan), "own/first:own/first: P.rbomap=own/first/P.rbomap\n");
+}
+
 TEST_F(CheckPlanTest, AFileBringsItsDirectoryInFrontOfThePath) {
     own.MakeFile("second/P.metadata", "");
     CheckPlan plan;

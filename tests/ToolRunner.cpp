@@ -15,9 +15,8 @@ namespace {
 constexpr std::string_view kVariablesOfTheDictionary[] = {
     "ZELDictionaryPath=", "ZANDIC_TRACE_LEVEL=", "ZANDIC_TRACE_METHODS=", "VALKOR_META="};
 
-std::string ContentOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+int OpenForWriting(const std::string& path) {
+    return open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
 }
 
 std::vector<char*> PointersTo(std::vector<std::string>& texts) {
@@ -27,6 +26,7 @@ std::vector<char*> PointersTo(std::vector<std::string>& texts) {
     return pointers;
 }
 
+/// \returns the settings, and the variables of this process that none of them sets.
 std::vector<std::string> EnvironmentWith(const std::vector<std::string>& settings) {
     std::vector<std::string> environment = settings;
     for (char** entry = environ; *entry != nullptr; ++entry) {
@@ -53,16 +53,20 @@ std::vector<std::string> Joined(std::vector<std::string> first, const std::vecto
 
 }  // namespace
 
-ToolRun ToolTest::Run(const std::vector<std::string>& arguments,
-                      const std::vector<std::string>& settings) const {
+std::string ContentOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+int ToolTest::Spawn(const std::vector<std::string>& arguments, const std::vector<std::string>& settings,
+                    int out, int err) {
     std::vector<std::string> command = Joined({ZANDIC_TOOL}, arguments);
     std::vector<std::string> environment = EnvironmentWith(settings);
-    const int flags = O_WRONLY | O_CREAT | O_TRUNC;
     posix_spawn_file_actions_t files;
     posix_spawn_file_actions_init(&files);
     posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, _Streams.Path("out").c_str(), flags, 0600);
-    posix_spawn_file_actions_addopen(&files, STDERR_FILENO, _Streams.Path("err").c_str(), flags, 0600);
+    posix_spawn_file_actions_adddup2(&files, out, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&files, err, STDERR_FILENO);
 
     pid_t process = 0;
     const int fault = posix_spawn(&process, ZANDIC_TOOL, &files, nullptr, PointersTo(command).data(),
@@ -70,12 +74,32 @@ ToolRun ToolTest::Run(const std::vector<std::string>& arguments,
     posix_spawn_file_actions_destroy(&files);
     if (fault != 0) {
         ADD_FAILURE() << "the tool cannot be run";
-        return {};
+        return -1;
     }
     int status = 0;
     waitpid(process, &status, 0);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), ContentOf(_Streams.Path("out")),
-            ContentOf(_Streams.Path("err"))};
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+ToolRun ToolTest::Run(const std::vector<std::string>& arguments,
+                      const std::vector<std::string>& settings) const {
+    const int out = OpenForWriting(_Streams.Path("out"));
+    const int err = OpenForWriting(_Streams.Path("err"));
+    const int status = Spawn(arguments, settings, out, err);
+    close(out);
+    close(err);
+    return {status, ContentOf(_Streams.Path("out")), ContentOf(_Streams.Path("err"))};
+}
+
+ToolRun ToolTest::RunIntoClosedPipe(const std::vector<std::string>& arguments) const {
+    int ends[2] = {-1, -1};
+    EXPECT_EQ(pipe2(ends, O_CLOEXEC), 0);
+    close(ends[0]);
+    const int err = OpenForWriting(_Streams.Path("err"));
+    const int status = Spawn(arguments, {}, ends[1], err);
+    close(ends[1]);
+    close(err);
+    return {status, "", ContentOf(_Streams.Path("err"))};
 }
 
 ToolRun ToolTest::OnSample(std::vector<std::string> arguments) const {

@@ -25,6 +25,9 @@ protected:
     ToolRun Run(const std::vector<std::string>& arguments,
                 const std::vector<std::string>& environment = {}) const;
 
+    /// As Run, with a pipe as standard output that nobody reads any more. What comes out is not kept.
+    ToolRun RunIntoClosedPipe(const std::vector<std::string>& arguments) const;
+
     /// Run with the sample dictionary as the path.
     ToolRun OnSample(std::vector<std::string> arguments) const;
 
@@ -45,9 +48,16 @@ protected:
     std::string WithoutPlaces(std::string text) const;
 
 private:
+    /// Starts the tool with the given streams and waits for it. \returns its end as in ToolRun.
+    static int Spawn(const std::vector<std::string>& arguments, const std::vector<std::string>& settings,
+                     int out, int err);
+
     TestDirectory _Own;
     TestDirectory _Streams;
 };
+
+/// \returns the bytes of a file; none where there is no file.
+std::string ContentOf(const std::string& path);
 
 /// \returns what must come out: the file of that name in expected/tool.
 std::string ExpectedOutput(std::string_view name);

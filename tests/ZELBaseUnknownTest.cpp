@@ -103,14 +103,14 @@ public:
 TEST_F(ZELBaseUnknownTest, ReferencesTakenAtItsEndDoNotEndItTwice) {
     (new SelfUser)->Release();
 
-    EXPECT_EQ(componentEvents, "tie;object;");
+    EXPECT_EQ(componentEvents, "object;");
 }
 
 ZELTieLink* MakeNothing(ZELBaseUnknown&) { return nullptr; }
 ZELTieLink* RunOutOfMemory(ZELBaseUnknown&) { throw std::bad_alloc(); }
 
 constinit ZELMetaClass poorMeta("Poor");
-const ZELTieRow kPoorRows[] = {{{2, 1}, MakeNothing, nullptr}, {{2, 2}, RunOutOfMemory, nullptr}};
+const ZELTieRow kPoorRows[] = {{{2, 1}, MakeNothing}, {{2, 2}, RunOutOfMemory}};
 
 class Poor : public ZELBaseUnknown {
 public:

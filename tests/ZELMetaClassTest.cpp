@@ -57,6 +57,35 @@ TEST(ZELMetaClassTest, OwnRowsComeBeforeTheBases) {
     EXPECT_EQ(derived.FindTie(ISurface::ClassId()), rows);
 }
 
+TEST(ZELMetaClassTest, RowsRegisteredAfterAQueryAreFound) {
+    ZELMetaClass derived("Late", &surfaceMeta);
+    const ZELTieRow rows[] = {ZELMakeTieRow<SurfaceTie>()};
+    EXPECT_EQ(derived.FindTie(ISurface::ClassId()), kSurfaceRows);
+
+    derived.RegisterTies(rows);
+
+    EXPECT_EQ(derived.FindTie(ISurface::ClassId()), rows);
+}
+
+ZELTieLink* MakeNone(ZELBaseUnknown&) { return nullptr; }
+
+TEST(ZELMetaClassTest, EachOfManyRowsIsFoundAgainAndAgain) {
+    ZELMetaClass wide("Wide");
+    ZELTieRow rows[20];
+    for (std::uint64_t number = 0; number < 20; ++number) rows[number] = {{number, 7 * number}, MakeNone};
+    wide.RegisterTies(rows);
+
+    for (int round = 0; round < 2; ++round) {
+        for (const ZELTieRow& row : rows) {
+            std::uint32_t tag = 0;
+            EXPECT_EQ(wide.FindTie(row.interfaceId, &tag), &row);
+            EXPECT_EQ(wide.FindTie(row.interfaceId), &row);
+            EXPECT_NE(tag, 0U);
+        }
+    }
+    EXPECT_EQ(wide.FindTie({1, 8}), nullptr);
+}
+
 TEST(ZELMetaClassTest, TheFactoryMakesAnObject) {
     const ZELMetaClass withFactory("Square", nullptr, []() -> ZELBaseUnknown* { return new Square(3); });
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -85,6 +86,25 @@ TEST(ZELPoolTest, AFreedBlockServesTheNextRequestOfItsSize) {
 
     EXPECT_EQ(reinterpret_cast<std::uintptr_t>(second), place);
     ZELPoolFree(second, 33);
+}
+
+TEST(ZELPoolTest, BeginningsOfLargerBlocksAreInOneLine) {
+    constexpr int kCount = 3000;
+    std::vector<void*> blocks;
+    for (int number = 0; number < kCount; ++number) blocks.push_back(ZELPoolAllocate(96));
+
+    for (void* const block : blocks) EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) % 32, 0U);
+
+    for (void* const block : blocks) ZELPoolFree(block, 96);
+}
+
+TEST(ZELPoolTest, BlocksAbove128BytesAreWholeLines) {
+    std::vector<std::pair<void*, std::size_t>> blocks;
+    for (std::size_t size = 129; size <= 512; ++size) blocks.emplace_back(ZELPoolAllocate(size), size);
+
+    for (const auto& [block, size] : blocks) EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) % 64, 0U);
+
+    for (const auto& [block, size] : blocks) ZELPoolFree(block, size);
 }
 
 #endif

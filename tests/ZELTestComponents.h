@@ -37,7 +37,7 @@ protected:
     ~INothing() = default;
 };
 
-/// What happened, in order: "tie;" where an adapter ends, "object;" where an object does.
+/// What happened: "object;" where an object ends.
 inline std::string componentEvents;
 
 class Surface : public ZELBaseUnknown {
@@ -72,7 +72,6 @@ private:
 template <class Impl, class Base>
 class SurfaceLayer : public Base {
 public:
-    ~SurfaceLayer() override { componentEvents += "tie;"; }
     HRESULT GetArea(int* area) override { return this->impl().GetArea(area); }
 };
 

@@ -2,6 +2,7 @@
 #define ZELHASH_H
 
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #include "ZELExport.h"
@@ -35,7 +36,28 @@ ZELSYSTEM_API void ZELSetHashSeed(std::uint32_t seed) noexcept;
 /// \returns the key of \p text, all of it.
 ZELSYSTEM_API std::uint32_t ZELHashText(std::string_view text) noexcept;
 
+/// Folds the 128-bit product of two words. Both carry bits of the seed, so that nobody outside can make one
+/// of them zero.
+inline std::uint64_t ZELHashFold(std::uint64_t a, std::uint64_t b) noexcept {
+    __extension__ typedef unsigned __int128 Product;
+    const Product product = static_cast<Product>(a) * b;
+    return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
+}
+
+/// \returns 32 bits that are never 0, which a shared text keeps for "not worked out yet".
+inline std::uint32_t ZELHashFinish(std::uint64_t hash) noexcept {
+    const auto key = static_cast<std::uint32_t>(hash ^ (hash >> 32));
+    return key != 0 ? key : 1;
+}
+
 /// \returns the key of 16 bytes at \p bytes of which \p length count.
-ZELSYSTEM_API std::uint32_t ZELHashBytes16(const unsigned char* bytes, unsigned length) noexcept;
+inline std::uint32_t ZELHashBytes16(const unsigned char* bytes, unsigned length) noexcept {
+    ZELHashSeed();
+    const ZELHashState& state = zelHashState;
+    std::uint64_t words[2];
+    std::memcpy(words, bytes, sizeof words);
+    const std::uint64_t hash = ZELHashFold(words[0] ^ state.second, words[1] ^ state.first ^ length);
+    return ZELHashFinish(ZELHashFold(hash ^ state.first, state.second));
+}
 
 #endif

@@ -14,9 +14,8 @@ class ZELTieLink;
 /// One row of the query table: an interface and how a class answers it. ZELMakeTieRow makes it.
 struct ZELSYSTEM_API ZELTieRow {
     ZELInterfaceId interfaceId;  ///< what a query asks for
-    ZELTieLink* (*make)(
-        ZELBaseUnknown&);        ///< makes the adapter, with a count of 1 and a reference on the object
-    void* (*face)(ZELTieLink&);  ///< the interface pointer of an adapter that make made
+    /// Makes the adapter, with a count of 1 and a reference on the object. Throws std::bad_alloc.
+    ZELTieLink* (*make)(ZELBaseUnknown&);
 };
 
 /// What is known of a component class: its name, its base and the interfaces that it answers.
@@ -61,20 +60,17 @@ public:
     /// A second call, or one while objects of the class have adapters, is a programming error and fatal.
     void RegisterTies(std::span<const ZELTieRow> rows);
 
-    /// Finds the row for \p id: the class's own, else the nearest base's.
-    /// \param[out] tag when not null: a number that no other row in the process has; written on success only.
-    /// \returns null when neither the class nor a base answers \p id.
+    /// Finds the row for \p id: the class's own, else the nearest base's. What was found is remembered, so
+    /// that asking again costs one comparison. \param[out] tag when not null: a number that no other row in
+    /// the process has; written on success only. \returns null when neither the class nor a base answers \p
+    /// id.
     const ZELTieRow* FindTie(const ZELInterfaceId& id, std::uint32_t* tag = nullptr) const noexcept {
-        for (const ZELMetaClass* meta = this; meta != nullptr; meta = meta->_Base) {
-            const ZELTieRow* const rows = meta->_Rows;
-            for (std::uint32_t index = 0; index < meta->_RowCount; ++index) {
-                if (rows[index].interfaceId == id) {
-                    if (tag != nullptr) *tag = meta->_FirstTag + index;
-                    return rows + index;
-                }
-            }
+        Found& found = _FOUND[(id.high ^ id.low) % kFoundCount];
+        if (found.version != version || found.row->interfaceId != id) [[unlikely]] {
+            if (!search_Tie(id, found)) return nullptr;
         }
-        return nullptr;
+        if (tag != nullptr) *tag = found.tag;
+        return found.row;
     }
 
 private:
@@ -84,6 +80,19 @@ private:
     const ZELTieRow* _Rows = nullptr;
     std::uint32_t _RowCount = 0;
     std::uint32_t _FirstTag = 0;
+
+    /// A row that was asked for: the last one of those whose identifiers fall to this place.
+    struct Found {
+        const ZELTieRow* row;
+        std::uint32_t tag;
+        std::uint32_t version;  ///< of the tables in which it was found; 0 before
+    };
+    static constexpr unsigned kFoundCount = 4;
+
+    bool search_Tie(const ZELInterfaceId& id, Found& found) const noexcept;
+
+    static std::uint32_t version;  ///< grows whenever rows are registered
+    mutable Found _FOUND[kFoundCount] = {};
 };
 
 #endif

@@ -78,7 +78,9 @@ public:
     ZELString& Append(const char* text) { return text != nullptr ? Append(std::string_view(text)) : *this; }
 
     friend bool operator==(const ZELString& a, const ZELString& b) noexcept {
-        return a._Text == b._Text || a.View() == b.View();
+        if (a._Text == b._Text) return true;
+        return a._Text != nullptr && b._Text != nullptr ? a._Text->Equals(*b._Text)
+                                                        : a.Length() == b.Length();
     }
     friend bool operator<(const ZELString& a, const ZELString& b) noexcept { return a.Compare(b) < 0; }
 

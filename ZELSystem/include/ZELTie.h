@@ -2,6 +2,7 @@
 #define ZELTIE_H
 
 #include <cstdint>
+#include <type_traits>
 
 #include "ZELBaseUnknown.h"
 #include "ZELExport.h"
@@ -20,6 +21,9 @@ public:
     /// \returns the object that the adapter stands for.
     ZELBaseUnknown& Object() const noexcept { return *_Object; }
 
+    /// \returns the interface that the adapter serves: it stands right before what this class holds.
+    void* Face() noexcept { return reinterpret_cast<unsigned char*>(this) - sizeof(void*); }
+
     /// Ties the new adapter to \p object and takes its reference. Called once, by the row that makes it.
     void bind_Object(ZELBaseUnknown& object) noexcept {
         _Object = &object;
@@ -34,7 +38,12 @@ protected:
     std::uint32_t drop_Caller() noexcept { return --_Count; }
 
     /// Takes the adapter out of its object's chain. \returns the object, whose reference is now the caller's.
-    ZELBaseUnknown* unlink_Object() noexcept;
+    ZELBaseUnknown* unlink_Object() noexcept {
+        ZELTieLink** link = &_Object->_Ties;
+        while (*link != this) link = &(*link)->_Next;
+        *link = _Next;
+        return _Object;
+    }
 
 private:
     friend class ZELBaseUnknown;
@@ -49,16 +58,17 @@ private:
 ///
 /// Layers on top, one per interface of the chain, forward the interface's own operations to impl():
 /// `template <class Impl, class Base> class XLayer : public Base { HRESULT Op() override { return
-/// this->impl().Op(); } };` The last Release unlinks the adapter, frees it and then gives back its reference
-/// on the object.
+/// this->impl().Op(); } };` They hold nothing, so that all adapters have one size. The last Release unlinks
+/// the adapter, frees it and then gives back its reference on the object.
 template <class Interface, class Impl>
-class ZELSYSTEM_API ZELTie : public Interface, public ZELTieLink, public ZELPooled {
+class ZELSYSTEM_API ZELTie : public Interface, public ZELTieLink {
 public:
     using InterfaceType = Interface;
     using ImplType = Impl;
 
-    ZELTie() noexcept = default;
-    virtual ~ZELTie() = default;
+    ZELTie() noexcept {
+        static_assert(sizeof(Interface) == sizeof(void*), "an interface has operations only");
+    }
 
     HRESULT QueryInterface(const ZELInterfaceId& id, void** out) override {
         return Object().QueryInterface(id, out);
@@ -70,7 +80,8 @@ public:
         const std::uint32_t count = drop_Caller();
         if (count == 0) {
             ZELBaseUnknown* const object = unlink_Object();
-            delete this;
+            // No destructor: there is nothing in it to end, nor in the layers above.
+            ZELPoolFree(static_cast<void*>(this), sizeof(*this));
             object->Release();
         }
         return count;
@@ -78,19 +89,21 @@ public:
 
     /// \returns the implementing object.
     Impl& impl() const noexcept { return static_cast<Impl&>(Object()); }
+
+protected:
+    ~ZELTie() = default;
 };
 
 /// \returns the row by which a class answers the interface of \p T, a ZELTie with all its layers.
 template <class T>
 constexpr ZELTieRow ZELMakeTieRow() {
     using Interface = typename T::InterfaceType;
-    return {Interface::ClassId(),
-            [](ZELBaseUnknown& object) -> ZELTieLink* {
-                T* const tie = new T;
+    static_assert(sizeof(T) == sizeof(ZELTie<Interface, typename T::ImplType>), "a layer holds nothing");
+    return {Interface::ClassId(), [](ZELBaseUnknown& object) -> ZELTieLink* {
+                T* const tie = ::new (ZELPoolAllocate(sizeof(T))) T;
                 tie->bind_Object(object);
                 return tie;
-            },
-            [](ZELTieLink& link) -> void* { return static_cast<Interface*>(static_cast<T*>(&link)); }};
+            }};
 }
 
 #endif

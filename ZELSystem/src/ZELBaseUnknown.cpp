@@ -36,7 +36,7 @@ HRESULT ZELBaseUnknown::QueryInterface(const ZELInterfaceId& id, void** out) noe
     for (ZELTieLink* tie = _Ties; tie != nullptr; tie = tie->_Next) {
         if (tie->_Tag != tag) continue;
         tie->add_Caller();
-        *out = row->face(*tie);
+        *out = tie->Face();
         return S_OK;
     }
 
@@ -49,7 +49,7 @@ HRESULT ZELBaseUnknown::QueryInterface(const ZELInterfaceId& id, void** out) noe
     made->_Tag = tag;
     made->_Next = _Ties;
     _Ties = made;
-    *out = row->face(*made);
+    *out = made->Face();
     return S_OK;
 }
 
@@ -59,11 +59,4 @@ const char* ZELBaseUnknown::IsA() const { return MetaObject().Name(); }
 
 int ZELBaseUnknown::IsAKindOf(const char* className) const {
     return className != nullptr && (className == kClassName || MetaObject().IsAKindOf(className)) ? 1 : 0;
-}
-
-ZELBaseUnknown* ZELTieLink::unlink_Object() noexcept {
-    ZELTieLink** link = &_Object->_Ties;
-    while (*link != this) link = &(*link)->_Next;
-    *link = _Next;
-    return _Object;
 }

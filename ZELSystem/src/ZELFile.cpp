@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -63,6 +64,9 @@ struct Room {
     }
 };
 
+/// So much is read at once: its pages, taken just before, are in the cache when they are filled.
+constexpr std::size_t kReadStep = std::size_t{256} * 1024;
+
 /// Reads to the end of the file, wherever that is by then.
 /// \returns 0, or the number of the reason; \p room is the caller's to free either way.
 int ReadAll(int descriptor, std::size_t expected, Room& room, std::size_t& length) noexcept {
@@ -71,7 +75,9 @@ int ReadAll(int descriptor, std::size_t expected, Room& room, std::size_t& lengt
     length = 0;
     for (;;) {
         if (length == room.size && !room.Resize(room.size * 2)) return ENOMEM;
-        const ssize_t count = read(descriptor, room.bytes + length, room.size - length);
+        const std::size_t step = std::min(room.size - length, kReadStep);
+        ZELTakePages(room.bytes + length, step);
+        const ssize_t count = read(descriptor, room.bytes + length, step);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return LastError();
         if (count == 0) break;

@@ -2,14 +2,16 @@
 
 #include <sys/mman.h>
 
+#include <algorithm>
 #include <cstdint>
 
 void ZELAdviseHugePages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t bytes) noexcept {
 #if defined(MADV_HUGEPAGE)
     constexpr std::uintptr_t kHugePage = std::uintptr_t{2} << 20;
+    constexpr std::size_t kAtHand = std::size_t{8} << 20;
     const auto begin = reinterpret_cast<std::uintptr_t>(memory);
     const std::uintptr_t first = (begin + kHugePage - 1) / kHugePage * kHugePage;
-    const std::uintptr_t end = (begin + bytes) / kHugePage * kHugePage;
+    const std::uintptr_t end = (begin + std::min(bytes, kAtHand)) / kHugePage * kHugePage;
     // Advice only: nothing depends on whether the system follows it.
     if (end > first) madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
 #endif

@@ -40,9 +40,9 @@ std::string Joined(std::string_view name, std::string_view content) {
     return std::string(name).append(".").append(content);
 }
 
-/// \returns the name, with content word, of the package document that a tuning document is read with; empty
+/// \returns the name, with content word, of the document of a package: the first kind that there is; empty
 /// when there is none.
-std::string PackageOfTuning(const std::string& directories, std::string_view package) {
+std::string DocumentOf(const std::string& directories, std::string_view package) {
     for (const auto& row : kContentWords) {
         const std::string name = Joined(package, row.word);
         if (row.word != kTuning && ZELFindPath(directories, name)) return name;
@@ -104,21 +104,26 @@ void CheckPlan::add(const std::string& directories, CheckTarget target) {
 }
 
 void CheckPlan::AddName(std::string_view name, const std::string& path) {
-    const std::string document = Joined(name, kMetadata);
+    std::string document = DocumentOf(path, name);
+    if (document.empty()) document = Joined(name, kMetadata);
     add(path, {document, ShownFile(ZELFindPath(path, document).value_or(""))});
 }
 
 void CheckPlan::AddFile(std::string_view file, const std::string& path) {
     using enum ZanDicDiagnosticCode;
 
-    const std::string native = ZELNativePath(file);
+    std::string native = ZELNativePath(file);
+    std::error_code fault;
+    if (native.find('/') == native.npos && !fs::exists(native, fault)) {
+        // A document of the path, as other commands take it.
+        native = ZELFindPath(path, native).value_or(native);
+    }
     const std::size_t separator = native.rfind('/');
     const std::string name = native.substr(separator + 1);
     const std::string directory(separator == native.npos ? std::string_view(".")
                                 : separator == 0         ? std::string_view("/")
                                                          : std::string_view(native).substr(0, separator));
 
-    std::error_code fault;
     const auto refuse = [&](ZanDicDiagnosticCode code, std::string text) {
         findings.push_back(
             FileFinding(ZanDicDiagnosticName(code), ZanDicSeverity::Error, native, std::move(text)));
@@ -140,7 +145,7 @@ void CheckPlan::AddFile(std::string_view file, const std::string& path) {
 
 void CheckPlan::add_Tuning(const std::string& directories, std::string_view package,
                            const std::string& file) {
-    const std::string document = PackageOfTuning(directories, package);
+    const std::string document = DocumentOf(directories, package);
     if (!document.empty()) {
         return add(directories, {document, ShownFile(ZELFindPath(directories, document).value_or("")), true});
     }
@@ -173,7 +178,7 @@ void CheckPlan::AddPath(const std::string& path, bool ofEveryKind) {
     }
     for (const auto& [name, file] : first) {
         // One with a package is read with that.
-        const bool isAlone = ContentWordOf(name) == kTuning && PackageOfTuning(path, PackageIn(name)).empty();
+        const bool isAlone = ContentWordOf(name) == kTuning && DocumentOf(path, PackageIn(name)).empty();
         if (isAlone) add_Tuning(path, PackageIn(name), file);
     }
 }

@@ -30,10 +30,11 @@ struct CheckPlan {
     std::vector<CheckRound> rounds = {};
     Findings findings = {};
 
-    /// Adds the package of a name without content word.
+    /// Adds the package of a name without content word: its metadata, or else the kind that there is.
     void AddName(std::string_view name, const std::string& path);
 
-    /// Adds a document by its file: its prerequisites are looked for in its directory, then on \p path.
+    /// Adds a document by its file: its prerequisites are looked for in its directory, then on \p path. A
+    /// name without directory that is not there is looked for on \p path as well.
     void AddFile(std::string_view file, const std::string& path);
 
     /// Adds every `*.metadata` of \p path; with \p ofEveryKind the documents of all kinds, and a finding for

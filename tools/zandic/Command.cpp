@@ -156,6 +156,14 @@ constexpr Command kCommands[] = {
      {},
      "",
      RunHelp},
+    {"completion",
+     Group::Help,
+     "the script by which a shell completes, and the manual page",
+     {"bash|zsh|man", "what it is for", true, true},
+     {},
+     "Installing the tool installs them as well. For the present bash alone: source <(zandic completion "
+     "bash).",
+     RunCompletion},
 };
 
 constexpr std::string_view kGroupWords[] = {"Look", "Check", "Draw", "Write", "Help"};

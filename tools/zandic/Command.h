@@ -58,6 +58,7 @@ void RunSave(Session& session, const Options& options, Output& output);
 void RunExpress(Session& session, const Options& options, Output& output);
 void RunCheck(Session& session, const Options& options, Output& output);
 void RunExplain(Session& session, const Options& options, Output& output);
+void RunCompletion(Session& session, const Options& options, Output& output);
 void RunHelp(Session& session, const Options& options, Output& output);
 
 /// \returns what is wrong with options of `check` that are right one by one.

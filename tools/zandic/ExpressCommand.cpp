@@ -12,6 +12,7 @@
 #include "Command.h"
 #include "Files.h"
 #include "Model.h"
+#include "ProfilingScope.h"
 #include "Streams.h"
 #include "Targets.h"
 #include "ZELFile.h"
@@ -80,6 +81,7 @@ std::optional<ZELFileContent> Export(Session& session, OXMIDicPackage& package,
     const ZELString name = zandic::Name(package);
     const FileWatch file(SchemaPath(directory, name.View()));
     const LineScope errorsAreTold(LineRule::Errors);
+    const ProfilingScope step("express", name.View());
     const zandic::Result result = session.Dictionary().Manager().SaveExpress(directory.c_str(), &name);
 
     if (!result || !file.IsWritten()) {
@@ -114,6 +116,7 @@ void RunExpress(Session& session, const Options& options, Output& output) {
     // the same for all.
     const std::vector<AskedPackage> packages = Targets(session, options).Packages();
     AskForAllAttributes(session.Dictionary());
+    session.Expect("writing", packages.size());
     std::set<std::string, std::less<>> exported;
     std::vector<std::string> files;
     for (const auto& [asked, package] : packages) {
@@ -121,6 +124,7 @@ void RunExpress(Session& session, const Options& options, Output& output) {
         const std::string name(zandic::Name(*package).View());
         if (!exported.insert(name).second) continue;
         const auto schema = Export(session, *package, directory);
+        session.Done();
         if (!schema) continue;
         TellLeftOut(session, *package);
         if (passing) {

@@ -135,7 +135,9 @@ bool FillReferrers(Session& session, const Options& options, const std::string& 
     ofName.names = {name};
     const std::vector<AskedObject> targets = Targets(session, ofName).Objects();
     if (targets.empty()) return false;
-    AskForAllAttributes(session.Dictionary());
+    const bool isAnyAttribute = std::any_of(
+        targets.begin(), targets.end(), [](const AskedObject& each) { return IsAttribute(*each.object); });
+    if (isAnyAttribute) AskForAllAttributes(session.Dictionary());
     UuidMap<bool> wanted;
     for (const AskedObject& each : targets) wanted[zandic::Uuid(*each.object)] = true;
     ForEachReference(session.Dictionary(), [&](const Reference& reference) {

@@ -75,7 +75,7 @@ void ForEachClass(const zandic::Dictionary& dictionary, Visit&& visit) {
     });
 }
 
-/// Asks every class for all its attributes. Which attribute redefines which is known only after that.
+/// Lets every class know all its attributes. Which attribute redefines which is known only after that.
 void AskForAllAttributes(const zandic::Dictionary& dictionary);
 
 /// \returns the owner of a member that does not know it itself (MemberNames.h); null for anything else.

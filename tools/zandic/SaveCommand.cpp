@@ -8,6 +8,7 @@
 #include "Command.h"
 #include "DumpJson.h"
 #include "Files.h"
+#include "ProfilingScope.h"
 #include "ReadBack.h"
 #include "Streams.h"
 #include "Targets.h"
@@ -49,6 +50,7 @@ std::string SaveDocument(Session& session, const Request& request, const std::st
         documents.emplace_back(document, PathIn(directory, document));
     }
     const LineScope lossesAreTold(LineRule::Faults);
+    const ProfilingScope step("save", package);
     const zandic::Result result = session.Dictionary().Manager().SaveXml(directory.c_str(), &name);
 
     // The result says nothing of the file: a document is saved when one is there that was not before.
@@ -89,6 +91,7 @@ std::vector<std::string> SaveAll(Session& session, std::vector<Request>& request
             continue;
         }
         request.document = SaveDocument(session, request, directory);
+        session.Done();
         if (request.document.empty()) continue;
         written.push_back(PathIn(directory, request.document));
         CopyTuning(session, std::string(zandic::Name(*request.package).View()), directory, written);
@@ -122,9 +125,12 @@ void RunSave(Session& session, const Options& options, Output& output) {
     for (AskedPackage& each : Targets(session, options).Packages()) requests.push_back({std::move(each), {}});
     const bool mayRefuse = !session.IsClean();
     std::string model = DumpText(session.Dictionary());
+    session.Expect("saving", requests.size());
     const std::vector<std::string> written = SaveAll(session, requests, directory);
     if (written.empty()) return WriteFileList({}, options.json, output);
 
+    session.Expect("reading back", 1);
+    const ProfilingScope step("read back", directory);
     const std::string path = directory + ":" + session.Path();
     if (const auto wrong = WrongReadBack(NamesOf(requests), path, std::move(model), mayRefuse)) {
         return session.Refuse(directory, *wrong);

@@ -46,7 +46,8 @@ Session::Session(const Options& options)
     : _Path(PathOf(options)), _TraceMethods(options.traceMethods.value_or("")) {
     Lines().SetRule(RuleOf(options));
     ZELSetLineSink(&Lines());
-    ZanDicSetProfiler(&_Clock);
+    if (!options.quiet && HasStatusLine()) _Progress.emplace(_Clock, DrawStatusLine);
+    ZanDicSetProfiler(_Progress ? static_cast<ZanDicProfiler*>(&*_Progress) : &_Clock);
     ZanDicSetDiagnosticObserver(&_Observer);
     if (options.traceLevel) ZanDicSetTraceLevel(*options.traceLevel);
 }
@@ -78,6 +79,7 @@ bool Session::LoadAs(const std::string& name, Gravity gravity) {
     }
 
     const zandic::Result result = _Dictionary.Load(name, _Path.c_str());
+    Done();
     std::optional<Fault> error = _Observer.TakeFirstError();
     (result ? _LOADED : _REFUSED).insert(name);
     if (result) return true;
@@ -110,6 +112,7 @@ std::vector<std::string> Session::LoadPath(PathDocuments which) {
     } else if (documents.empty()) {
         Refuse(_Path, "no package document on the path");
     }
+    Expect("loading", documents.size());
     for (const std::string& document : documents) LoadAs(document, Gravity::Warning);
     return documents;
 }

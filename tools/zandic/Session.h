@@ -2,6 +2,7 @@
 #define ZANDIC_TOOL_SESSION_H
 
 #include <algorithm>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -10,6 +11,7 @@
 #include "Faults.h"
 #include "LoadClock.h"
 #include "Options.h"
+#include "Progress.h"
 #include "zandic.hpp"
 
 namespace tool {
@@ -48,6 +50,16 @@ public:
 
     /// \returns the loads, those first that ended first: a package after what it uses.
     std::vector<LoadOf> LoadCosts() const;
+
+    /// Says what is done from now on, and with how many packages: for those who wait.
+    void Expect(std::string_view doing, std::size_t packages) {
+        if (_Progress) _Progress->Expect(doing, static_cast<int>(packages));
+    }
+
+    /// One of the expected packages is done.
+    void Done() {
+        if (_Progress) _Progress->Done();
+    }
 
     /// Lets the loads from now on be measured in memory, too.
     void MeasureMemory() { _Clock.MeasureMemory(); }
@@ -88,6 +100,7 @@ private:
     zandic::Dictionary _Dictionary;
     FaultObserver _Observer;
     LoadClock _Clock;
+    std::optional<Progress> _Progress;  ///< none where nobody would see it
     std::string _Path;
     std::string _TraceMethods;
     std::set<std::string, std::less<>> _LOADED;   ///< names asked for that are there

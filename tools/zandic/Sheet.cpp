@@ -73,6 +73,16 @@ std::vector<std::string> Wrapped(std::string_view text, std::size_t width) {
     return lines;
 }
 
+std::string Beginning(std::string_view text, std::size_t count) {
+    std::size_t end = 0;
+    while (end < text.size()) {
+        const bool isCharacter = (static_cast<unsigned char>(text[end]) & 0xc0U) != 0x80U;
+        if (isCharacter && count-- == 0) break;
+        ++end;
+    }
+    return std::string(text.substr(0, end));
+}
+
 std::string Joined(const std::vector<std::string>& texts) {
     return fmt::format("{}", fmt::join(texts, ", "));
 }

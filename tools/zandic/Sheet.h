@@ -56,6 +56,9 @@ std::size_t WidthOf(std::string_view text);
 /// \returns the lines of \p text, none wider than \p width unless it is a single word.
 std::vector<std::string> Wrapped(std::string_view text, std::size_t width);
 
+/// \returns the first \p count characters of a UTF-8 text.
+std::string Beginning(std::string_view text, std::size_t count);
+
 /// \returns the texts with ", " between them.
 std::string Joined(const std::vector<std::string>& texts);
 

@@ -88,6 +88,7 @@ std::string PackageNameIn(const std::string& name) { return name.substr(0, name.
 void AddHierarchies(OXMIDicPackage& package, Stats& stats) {
     for (const ClassHandle& root : HierarchyElements(package)) {
         if (AboveOf(*root)) continue;
+        const std::string rootName(zandic::Name(*root).View());
         std::vector<HierarchyNode> nodes;
         AppendBelow(*root, 0, std::nullopt, true, nodes);
         WidthCounter width;
@@ -96,7 +97,7 @@ void AddHierarchies(OXMIDicPackage& package, Stats& stats) {
             const int depth = node.depth + 1;
             int& deepest = stats.deepest[PackageNameIn(name)];
             deepest = std::max(deepest, depth);
-            stats.deep.push_back({depth, name, "below " + QualifiedName(*root)});
+            stats.deep.push_back({depth, name, "below " + rootName});
             const int own = zandic::OwnAttributes(*node.element).Size();
             const int all = width.Enter(node);
             stats.wide.push_back({all, name, fmt::format("{} own", own), own});
@@ -186,15 +187,14 @@ void WritePackages(const Stats& stats, const PackageCounts& total, bool withCost
 
 void WriteRanked(std::string_view heading, const std::vector<Ranked>& list, Output& output) {
     if (list.empty()) return;
-    output.Write("\n" + Heading(heading));
-    const std::size_t numberWidth = WidthOfNumber(list.front().number);
-    std::size_t nameWidth = 0;
-    for (const Ranked& each : list) nameWidth = std::max(nameWidth, WidthOf(each.name));
+    const std::size_t width = WidthOfNumber(list.front().number);
+    std::vector<std::vector<std::string>> rows;
     for (const Ranked& each : list) {
-        const std::string pad(nameWidth - WidthOf(each.name), ' ');
-        output.Write(
-            fmt::format("  {:>{}}  {}{}  {}\n", each.number, numberWidth, each.name, pad, each.note));
+        rows.push_back({fmt::format("{:>{}}", each.number, width), each.name, each.note});
     }
+    Sheet sheet(output);
+    sheet.Section(heading);
+    sheet.Rows(rows);
 }
 
 void WriteText(const Stats& stats, bool withCost, Output& output) {

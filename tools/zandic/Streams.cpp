@@ -1,10 +1,18 @@
 #include "Streams.h"
 
+#include <unistd.h>
+
 #include <cstdio>
+#include <mutex>
 #include <string>
+
+#include "ZELEnvironment.h"
 
 namespace tool {
 namespace {
+
+constexpr std::string_view kToBeginning = "\r";
+constexpr std::string_view kClearRest = "\033[K";
 
 bool Passes(const ZELLine& line, LineRule rule) {
     if (rule == LineRule::All) return true;
@@ -20,6 +28,26 @@ bool Passes(const ZELLine& line, LineRule rule) {
     }
 }
 
+/// The status line and who may write.
+struct Terminal {
+    std::mutex mutex;
+    bool hasLine = false;
+
+    /// To be called with the mutex.
+    void Draw(std::string_view line) {
+        if (line.empty() && !hasLine) return;
+        const std::string text = std::string(kToBeginning).append(line).append(kClearRest);
+        std::fwrite(text.data(), 1, text.size(), stderr);
+        hasLine = !line.empty();
+    }
+};
+
+/// It outlives the libraries, as the line filter does.
+Terminal& TheTerminal() {
+    static Terminal& terminal = *new Terminal;
+    return terminal;
+}
+
 }  // namespace
 
 void LineFilter::Write(const ZELLine& line) {
@@ -31,7 +59,16 @@ LineFilter& Lines() {
     return filter;
 }
 
+bool HasStatusLine() { return isatty(STDERR_FILENO) != 0 && ZELGetEnv("TERM").value_or("dumb") != "dumb"; }
+
+void DrawStatusLine(std::string_view line) {
+    const std::lock_guard lock(TheTerminal().mutex);
+    TheTerminal().Draw(line);
+}
+
 void WriteErrorLine(std::string_view line) {
+    const std::lock_guard lock(TheTerminal().mutex);
+    TheTerminal().Draw("");
     // One piece, so that the lines of several programs on one terminal stay whole.
     std::string text(line);
     text += '\n';

@@ -47,8 +47,15 @@ private:
     LineRule _Before;
 };
 
-/// Writes \p line and a newline to standard error.
+/// Writes \p line and a newline to standard error. A status line goes before.
 void WriteErrorLine(std::string_view line);
+
+/// \returns whether standard error is a terminal on which a line can be drawn anew.
+bool HasStatusLine();
+
+/// Draws \p line as the last one of the terminal, in place of the one before; an empty one takes it away.
+/// Any thread.
+void DrawStatusLine(std::string_view line);
 
 }  // namespace tool
 

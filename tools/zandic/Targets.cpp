@@ -189,6 +189,7 @@ std::vector<AskedPackage> Targets::PackagesOfAll() {
 }
 
 std::vector<AskedPackage> Targets::Packages() {
+    _Session.Expect("loading", _Options.names.size() + _Options.in.size());
     if (AreAll()) return PackagesOfAll();
     std::vector<AskedPackage> packages;
     for (const std::string& name : _Options.names) {
@@ -204,6 +205,7 @@ std::vector<AskedPackage> Targets::Packages() {
 
 std::vector<AskedObject> Targets::Objects() {
     std::vector<AskedObject> objects;
+    _Session.Expect("loading", _Options.names.size() + _Options.in.size());
     if (AreAll()) {
         for (const auto& [asked, package] : PackagesOfAll()) {
             objects.push_back({asked, zandic::As<OXMIDicElementH>(package)});

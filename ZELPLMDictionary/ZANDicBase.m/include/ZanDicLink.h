@@ -50,6 +50,12 @@ public:
     /// Lets the processor fetch what Object reads.
     [[gnu::always_inline]] void PrefetchPlace() const { __builtin_prefetch(&places[_Place]); }
 
+    /// Lets it fetch what is \p offset bytes behind the begin of the object, which may be null.
+    [[gnu::always_inline]] void PrefetchObject(std::uintptr_t offset) const {
+        const auto begin = reinterpret_cast<std::uintptr_t>(places[_Place].object);
+        __builtin_prefetch(reinterpret_cast<const void*>(begin + offset));
+    }
+
 protected:
     /// \param object null resets the link. An object that is gone cannot be linked: lost at once.
     void Set(ZanDicObj* object);

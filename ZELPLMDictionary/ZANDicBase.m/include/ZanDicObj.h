@@ -172,8 +172,12 @@ public:
     /// Whether a default object that is made and destroyed would show in the trace: the lookups that can
     /// do without one make it only then.
     static bool shows_Probe();
+    /// Makes and destroys a default object where that shows.
+    static void show_Probe();
     /// The default object that all searches by name share; made, and shown, at the first call.
     static void make_SharedProbe();
+    /// Makes it where that shows.
+    static void show_SharedProbe();
 
 protected:
     /// Drops every link that this object holds to others; run when it goes.

@@ -75,7 +75,7 @@ private:
     struct Store;
 
     static Store* empty_Store(ZanHashListKind kind) noexcept;
-    Store& make_Store();
+    void make_Room(int capacity);
     HRESULT append_Object(ZanDicObj* object, bool isNew);
 
     Store* _STORE;  ///< owned; the shared empty one of the kind while nothing is in the list

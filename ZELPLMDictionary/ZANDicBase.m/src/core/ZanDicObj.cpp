@@ -56,23 +56,31 @@ constexpr struct {
 
 constexpr int kTypeCodes = 64;
 
-/// The row of each type code, from 1; 0 for none.
-constexpr std::array<unsigned char, kTypeCodes> kInterfaceRows = [] {
-    std::array<unsigned char, kTypeCodes> rows{};
-    for (std::size_t row = 0; row < std::size(kInterfaces); ++row) {
-        rows.at(static_cast<std::size_t>(kInterfaces[row].type)) = static_cast<unsigned char>(row + 1);
-    }
-    return rows;
+/// The interface of each type code; all zero for none.
+constexpr std::array<ZELInterfaceId, kTypeCodes> kInterfaceOfCode = [] {
+    std::array<ZELInterfaceId, kTypeCodes> ids{};
+    for (const auto& [type, id] : kInterfaces) ids.at(static_cast<std::size_t>(type)) = id;
+    return ids;
 }();
 
 const ZELInterfaceId* FindInterface(int type) {
     if (type < 0 || type >= kTypeCodes) return nullptr;
-    const std::size_t row = kInterfaceRows[static_cast<std::size_t>(type)];
-    return row != 0 ? &kInterfaces[row - 1].id : nullptr;
+    const ZELInterfaceId& id = kInterfaceOfCode[static_cast<std::size_t>(type)];
+    return id.high != 0 ? &id : nullptr;
 }
 
 /// The constructors are silent at level 0 even when they are listed.
 bool ConstructorShows(TraceLevel level) { return kConstructor.On(level) && ZanDicGetTraceLevel() != 0; }
+
+[[gnu::cold, gnu::noinline]] HRESULT RefuseType(int code) {
+    if (ZanDicTraceScope("ZanDicObj::bind_Interface").On(TraceLevel::Error)) {
+        // A blank instead of the usual separator's.
+        ZanDicWriteAlways(
+            "ZanDicObj::bind_Interface -*** WARNING *** Unkown object type=" + std::to_string(code) + ".",
+            ZELLineSeverity::Warning);
+    }
+    return E_FAIL;
+}
 
 ZELString NameBehind(const OXMIDicCategory& category) {
     ZELString name;
@@ -329,16 +337,9 @@ int ZanDicObj::lost_Links(LinkName link) const {
 
 HRESULT ZanDicObj::bind_Interface(OXMDicTYPE type, void** out) const {
     const int code = type < OXMDicTYPE_Primitive ? _Type : type;
-    if (const ZELInterfaceId* const id = FindInterface(code)) {
-        return const_cast<ZanDicObj*>(this)->QueryInterface(*id, out);
-    }
-    if (ZanDicTraceScope("ZanDicObj::bind_Interface").On(TraceLevel::Error)) {
-        // A blank instead of the usual separator's.
-        ZanDicWriteAlways(
-            "ZanDicObj::bind_Interface -*** WARNING *** Unkown object type=" + std::to_string(code) + ".",
-            ZELLineSeverity::Warning);
-    }
-    return E_FAIL;
+    if (const ZELInterfaceId* const id = FindInterface(code)) [[likely]]
+        return const_cast<ZanDicObj*>(this)->ZELBaseUnknown::QueryInterface(*id, out);
+    return RefuseType(code);
 }
 
 ZanDicObj::_type ZanDicObj::get_type() const { return _type_Element; }
@@ -386,6 +387,14 @@ ZanDicRareFields& ZanDicObj::make_Rare() {
 
 bool ZanDicObj::shows_Probe() {
     return ConstructorShows(TraceLevel::Call) || kDestructor.On(TraceLevel::Call);
+}
+
+void ZanDicObj::show_Probe() {
+    if (shows_Probe()) const ZanDicObj probe;
+}
+
+void ZanDicObj::show_SharedProbe() {
+    if (shows_Probe()) make_SharedProbe();
 }
 
 void ZanDicObj::make_SharedProbe() {

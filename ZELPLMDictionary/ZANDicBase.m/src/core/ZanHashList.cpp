@@ -1,10 +1,17 @@
 #include "ZanHashList.h"
 
+#include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 #include "ZELArray.h"
 #include "ZELPool.h"
@@ -14,9 +21,8 @@
 
 namespace {
 
-/// Up to so many objects are searched one by one.
-constexpr int kSmall = 8;
 constexpr int kNone = -1;
+constexpr int kFirstRoom = 4;  ///< of a list of which nobody said how long it gets
 
 /// Where the entries of a list stand, by the hashes of their keys: a power of two of slots, at most three
 /// quarters of them taken. A slot is one number, the entry's and above it as many bits of the hash as there
@@ -31,26 +37,24 @@ public:
         std::memcpy(_SLOTS, other._SLOTS, Bytes());
     }
     SlotIndex& operator=(const SlotIndex&) = delete;
-    ~SlotIndex() { Clear(); }
-
-    bool IsEmpty() const { return _SLOTS == nullptr; }
-
-    /// How many entries there may be before the index must be made anew.
-    int MostEntries() const { return IsEmpty() ? 0 : Slots() / 4 * 3; }
-
-    void Clear() {
-        if (_SLOTS != nullptr) ZELPoolFree(std::exchange(_SLOTS, nullptr), Bytes());
-        _Bits = 0;
+    ~SlotIndex() {
+        if (_SLOTS != nullptr) ZELPoolFree(_SLOTS, Bytes());
     }
 
-    /// Empties the index and makes room for \p count entries.
-    void Make(int count) {
-        Clear();
+    /// An empty index with room for \p count entries.
+    explicit SlotIndex(int count) : SlotIndex() {
         unsigned bits = 4;
         while ((1 << bits) / 4 * 3 < count) ++bits;
         allocate(bits);
-        std::memset(_SLOTS, 0, Bytes());
+        Empty();
     }
+
+    void Swap(SlotIndex& other) noexcept {
+        std::swap(_SLOTS, other._SLOTS);
+        std::swap(_Bits, other._Bits);
+    }
+
+    void Empty() { std::memset(_SLOTS, 0, Bytes()); }
 
     void Enter(std::uint32_t hash, int entry) {
         int slot = Home(hash);
@@ -123,72 +127,185 @@ private:
     unsigned _Bits = 0;      ///< of the number of slots
 };
 
+/// Which of many tags are the wanted one.
+class TagSet {
+public:
+    static constexpr int kGroup = 16;
+
+    /// \returns the tag of a key of that hash: a byte that is never 0, which is what free places have.
+    static std::uint8_t TagOf(std::uint32_t hash) {
+        const auto high = static_cast<std::uint8_t>(hash >> 24);
+        return high != 0 ? high : std::uint8_t{1};
+    }
+
+    /// \returns a number with a bit set for each of the \p count tags, a multiple of the group and 64 at the
+    /// most, that is \p tag.
+    static std::uint64_t Find(const std::uint8_t* tags, int count, std::uint8_t tag) {
+        std::uint64_t found = FindInGroup(tags, tag);
+        for (int at = kGroup; at < count; at += kGroup) found |= FindInGroup(tags + at, tag) << at;
+        return found;
+    }
+
+private:
+#if defined(__SSE2__)
+    static std::uint64_t FindInGroup(const std::uint8_t* tags, std::uint8_t tag) {
+        const __m128i all = _mm_loadu_si128(reinterpret_cast<const __m128i*>(tags));
+        const __m128i same = _mm_cmpeq_epi8(all, _mm_set1_epi8(static_cast<char>(tag)));
+        return static_cast<std::uint32_t>(_mm_movemask_epi8(same));
+    }
+#else
+    static std::uint64_t FindInGroup(const std::uint8_t* tags, std::uint8_t tag) {
+        std::uint64_t found = 0;
+        for (int at = 0; at < kGroup; ++at) found |= std::uint64_t{tags[at] == tag} << at;
+        return found;
+    }
+#endif
+};
+
 }  // namespace
 
-/// Entries in order of insertion. A removed one stays behind as a gap until the list is packed; gaps at both
-/// ends are not walked over. In a list that does not own, each entry has a link beside it that tells
-/// whether the object is still there: the pointer itself is then never followed.
-struct ZanHashList::Store : ZELPooled {
+/// The one block that a list with objects has: this head, the tags of the keys, and the entries in order of
+/// insertion. So a search reads three lines of the cache, and then the key's text and the object at once. The
+/// tags are looked through all together, without a branch that could be guessed wrong; lists too long for
+/// that have an index instead.
+///
+/// A removed entry stays behind as a gap until the list is packed; gaps at both ends are not walked over. In
+/// a list that does not own, each entry has a link beside it that tells whether the object is still there:
+/// the pointer itself is then never followed.
+struct ZanHashList::Store {
     struct Entry {
         ZELString key;  ///< the object's name when it was appended
         ZanDicObj* object;
     };
 
-    constexpr explicit Store(ZanHashListKind listKind) noexcept : kind(listKind) {}
+    /// What few lists need.
+    struct Extra : ZELPooled {
+        ZELArray<ZanDicLink<ZanDicObj>> links;  ///< same index as the entries; empty in a list that owns
+        SlotIndex index;                        ///< by key; none while there are tags
+        ZELArray<ZELString> lost;               ///< keys of objects that went
+        std::uint64_t seenLostCount = 0;        ///< nothing has gone since the count of lost links was this
+    };
 
-    ZELArray<Entry> entries;
-    ZELArray<ZanDicLink<ZanDicObj>> links;  ///< same index as the entries; empty in a list that owns
-    SlotIndex index;                        ///< by key; empty while small
-    int first = 0;                          ///< what is before it are gaps
-    int gaps = 0;                           ///< the gaps behind it
-    ZELArray<ZELString> lost;               ///< keys of objects that went
-    std::uint64_t seenLostCount = 0;        ///< nothing has gone since the count of lost links was this
+    static constexpr int kMostTags = 64;
+
+    constexpr Store(ZanHashListKind listKind, int room) noexcept
+        : kind(listKind), tagGroups(GroupsFor(room)), capacity(room) {}
+
+    Extra* extra = nullptr;  ///< owned; there in each list that does not own
     ZanHashListKind kind;
+    std::uint8_t tagGroups;  ///< of 16 tags; 0 where the index is
+    int capacity;            ///< how many entries there is room for
+    int end = 0;             ///< index behind the last entry
+    int first = 0;           ///< what is before it are gaps
+    int gaps = 0;            ///< the gaps behind it
 
-    int End() const { return entries.Size(); }
-    int Count() const { return End() - first - gaps; }
-    bool IsGone(int at) const { return kind == ZanHashListKind::Links && !links[at]; }
+    /// \returns an empty store with room for \p capacity entries, the caller's to give to Destroy.
+    static Store* Create(ZanHashListKind kind, int capacity) {
+        std::unique_ptr<Extra> extra;
+        if (kind == ZanHashListKind::Links || capacity > kMostTags) extra = std::make_unique<Extra>();
+        if (capacity > kMostTags) SlotIndex(capacity).Swap(extra->index);
+        Store* const made = ::new (ZELPoolAllocate(BytesFor(capacity))) Store(kind, capacity);
+        made->extra = extra.release();
+        std::memset(made->Tags(), 0, static_cast<std::size_t>(made->TagCount()));
+        return made;
+    }
 
+    static void Destroy(Store* store) noexcept {
+        std::destroy_n(store->Entries(), store->end);
+        delete store->extra;
+        ZELPoolFree(store, BytesFor(store->capacity));
+    }
+
+    /// \returns a store with more room that has taken over all that \p store has, which is no more. When
+    /// memory is short, \p store is as it was.
+    static Store* MoveTo(int capacity, Store* store) {
+        SlotIndex index;
+        std::unique_ptr<Extra> extra;
+        if (capacity > kMostTags) {
+            if (store->extra == nullptr) extra = std::make_unique<Extra>();
+            SlotIndex(capacity).Swap(index);
+        }
+        Store* const moved = ::new (ZELPoolAllocate(BytesFor(capacity))) Store(store->kind, capacity);
+        moved->extra = extra != nullptr ? extra.release() : std::exchange(store->extra, nullptr);
+        if (capacity > kMostTags) moved->extra->index.Swap(index);
+        std::uninitialized_move_n(store->Entries(), store->end, moved->Entries());
+        moved->end = store->end;
+        moved->first = store->first;
+        moved->gaps = store->gaps;
+        Destroy(store);
+        moved->EnterAll();
+        return moved;
+    }
+
+    Store* Copy() const {
+        std::unique_ptr<Extra> copied(extra != nullptr ? new Extra(*extra) : nullptr);
+        Store* const made = ::new (ZELPoolAllocate(BytesFor(capacity))) Store(kind, capacity);
+        std::uninitialized_copy_n(Entries(), end, made->Entries());
+        std::memcpy(made->Tags(), Tags(), static_cast<std::size_t>(TagCount()));
+        made->extra = copied.release();
+        made->end = end;
+        made->first = first;
+        made->gaps = gaps;
+        return made;
+    }
+
+    Entry* Entries() { return reinterpret_cast<Entry*>(Tags() + TagCount()); }
+    const Entry* Entries() const { return const_cast<Store*>(this)->Entries(); }
+    Entry& At(int at) { return Entries()[at]; }
+
+    int Count() const { return end - first - gaps; }
+    bool IsGone(int at) const { return kind == ZanHashListKind::Links && !extra->links[at]; }
+
+    /// There must be room for one more.
     void Append(const ZELString& key, ZanDicObj* object) {
-        for (int at = lost.Size() - 1; at >= 0; --at) {
-            if (lost[at] == key) lost.EraseAt(at);
+        if (extra != nullptr) {
+            ZELArray<ZELString>& lost = extra->lost;
+            for (int at = lost.Size() - 1; at >= 0; --at) {
+                if (lost[at] == key) lost.EraseAt(at);
+            }
+            if (kind == ZanHashListKind::Links) extra->links.Append(ZanDicLink<ZanDicObj>(object));
         }
-        entries.Append({key, object});
-        if (kind == ZanHashListKind::Links) links.Append(ZanDicLink<ZanDicObj>(object));
-        if (index.IsEmpty() ? End() - first > kSmall : End() > index.MostEntries()) {
-            Pack();
-        } else if (!index.IsEmpty()) {
-            index.Enter(HashOf(End() - 1), End() - 1);
-        }
+        std::construct_at(Entries() + end, Entry{key, object});
+        ++end;
+        Enter(end - 1);
     }
 
     /// \returns the entry of that key; one whose object is gone is dropped, since its name is free.
-    int Find(const ZELString& key) {
+    [[gnu::always_inline]] inline int Find(const ZELString& key) {
+        // Searches in random order wait for memory, and this takes one wait out of three: where in the block
+        // the entry is, its tags tell.
+        const auto* const block = reinterpret_cast<const unsigned char*>(this);
+        for (std::size_t line = 1; line <= kLinesAhead; ++line) {
+            __builtin_prefetch(block + line * ZELPoolLists::kLine);
+        }
         const int at = FindEntry(key);
-        if (at == kNone || !IsGone(at)) return at;
-        lost.Append(key);
-        RemoveAt(at);
-        return kNone;
+        if (at == kNone || !IsGone(at)) [[likely]]
+            return at;
+        return DropGone(at, key);
     }
 
     /// \returns the entry of that very object.
     int Find(const ZanDicObj& object) {
         const int named = Find(object.Name());
-        if (named != kNone && entries[named].object == &object) return named;
-        for (int at = first; at < End(); ++at) {  // renamed since
-            if (entries[at].object == &object && !IsGone(at)) return at;
+        if (named != kNone && At(named).object == &object) return named;
+        for (int at = first; at < end; ++at) {  // renamed since
+            if (At(at).object == &object && !IsGone(at)) return at;
         }
         return kNone;
     }
 
     void RemoveAt(int at) {
-        if (!index.IsEmpty()) index.Leave(at, [this](int entry) { return HashOf(entry); });
-        entries[at] = {ZELString(), nullptr};
-        if (kind == ZanHashListKind::Links) links[at].Reset();
+        if (HasTags()) {
+            Tags()[at] = 0;
+        } else {
+            extra->index.Leave(at, [this](int entry) { return HashOf(entry); });
+        }
+        At(at) = {ZELString(), nullptr};
+        if (kind == ZanHashListKind::Links) extra->links[at].Reset();
         ++gaps;
-        while (gaps != 0 && entries[End() - 1].object == nullptr) DropLast();
-        for (; gaps != 0 && entries[first].object == nullptr; ++first) --gaps;
-        if (gaps + first > kSmall && gaps + first > End() / 2) Pack();
+        while (gaps != 0 && At(end - 1).object == nullptr) DropLast();
+        for (; gaps != 0 && At(first).object == nullptr; ++first) --gaps;
+        if (gaps + first > kFewGaps && gaps + first > end / 2) Pack();
     }
 
     /// Makes the entries from `first` on what callers see.
@@ -198,60 +315,95 @@ struct ZanHashList::Store : ZELPooled {
 
     /// Drops the entries of objects that are gone.
     void DropLost() {
-        if (kind == ZanHashListKind::Links && seenLostCount != ZanDicLinkBase::LostCount()) Pack();
-    }
-
-    void Reserve(int count) {
-        entries.Reserve(count);
-        if (kind == ZanHashListKind::Links) links.Reserve(count);
-        if (count > index.MostEntries()) MakeIndex(count);
+        if (extra == nullptr || kind != ZanHashListKind::Links) return;
+        if (extra->seenLostCount != ZanDicLinkBase::LostCount()) Pack();
     }
 
 private:
-    std::uint32_t HashOf(int at) const { return entries[at].key.ComputeHashKey(); }  // a name keeps it
+    static constexpr int kFewGaps = 8;
+    static constexpr std::size_t kLinesAhead = 5;  ///< what the entries of 20 attributes take
+
+    static constexpr std::uint8_t GroupsFor(int capacity) {
+        if (capacity > kMostTags) return 0;
+        return static_cast<std::uint8_t>((capacity + TagSet::kGroup - 1) / TagSet::kGroup);
+    }
+    static constexpr std::size_t BytesFor(int capacity) {
+        return sizeof(Store) + static_cast<std::size_t>(GroupsFor(capacity)) * TagSet::kGroup +
+               static_cast<std::size_t>(capacity) * sizeof(Entry);
+    }
+
+    bool HasTags() const { return capacity <= kMostTags; }
+    int TagCount() const { return tagGroups * TagSet::kGroup; }
+    std::uint8_t* Tags() { return reinterpret_cast<std::uint8_t*>(this + 1); }
+    const std::uint8_t* Tags() const { return reinterpret_cast<const std::uint8_t*>(this + 1); }
+
+    std::uint32_t HashOf(int at) const { return Entries()[at].key.ComputeHashKey(); }  // a name keeps it
 
     void DropLast() {
-        entries.Truncate(End() - 1);
-        if (kind == ZanHashListKind::Links) links.Truncate(End());
+        std::destroy_at(Entries() + --end);
+        if (kind == ZanHashListKind::Links) extra->links.Truncate(end);
         --gaps;
     }
 
     void Pack() {
         const bool hasLinks = kind == ZanHashListKind::Links;
         int kept = 0;
-        for (int at = first; at < End(); ++at) {
-            if (entries[at].object == nullptr) continue;
+        for (int at = first; at < end; ++at) {
+            if (At(at).object == nullptr) continue;
             if (IsGone(at)) {
-                lost.Append(std::move(entries[at].key));
+                extra->lost.Append(std::move(At(at).key));
                 continue;
             }
             if (kept != at) {
-                entries[kept] = std::move(entries[at]);
-                if (hasLinks) links[kept] = std::move(links[at]);
+                At(kept) = std::move(At(at));
+                if (hasLinks) extra->links[kept] = std::move(extra->links[at]);
             }
             ++kept;
         }
-        entries.Truncate(kept);
-        links.Truncate(hasLinks ? kept : 0);
+        std::destroy(Entries() + kept, Entries() + end);
+        if (hasLinks) extra->links.Truncate(kept);
+        end = kept;
         first = gaps = 0;
-        seenLostCount = ZanDicLinkBase::LostCount();
-        MakeIndex(kept);
+        if (extra != nullptr) extra->seenLostCount = ZanDicLinkBase::LostCount();
+        EnterAll();
     }
 
-    /// Enters all entries anew, with room for \p count.
-    void MakeIndex(int count) {
-        if (count <= kSmall) return index.Clear();
-        index.Make(count);
-        for (int at = first; at < End(); ++at) {
-            if (entries[at].object != nullptr) index.Enter(HashOf(at), at);
+    void Enter(int at) {
+        if (HasTags()) {
+            Tags()[at] = TagSet::TagOf(HashOf(at));
+        } else {
+            extra->index.Enter(HashOf(at), at);
         }
     }
 
-    int FindEntry(const ZELString& key) const {
+    void EnterAll() {
+        if (HasTags()) {
+            std::memset(Tags(), 0, static_cast<std::size_t>(TagCount()));
+        } else {
+            extra->index.Empty();
+        }
+        for (int at = first; at < end; ++at) {
+            if (At(at).object != nullptr) Enter(at);
+        }
+    }
+
+    [[gnu::noinline]] int DropGone(int at, const ZELString& key) {
+        extra->lost.Append(key);
+        RemoveAt(at);
+        return kNone;
+    }
+
+    [[gnu::always_inline]] inline int FindEntry(const ZELString& key) const {
+        if (end == 0) return kNone;
         const std::uint32_t hash = key.ComputeHashKey();  // a name keeps it: cheaper than comparing texts
-        if (!index.IsEmpty()) return index.Find(hash, [&](int at) { return entries[at].key == key; });
-        for (int at = first; at < End(); ++at) {
-            if (entries[at].object != nullptr && HashOf(at) == hash && entries[at].key == key) return at;
+        const Entry* const entries = Entries();
+        if (tagGroups == 0) [[unlikely]]
+            return extra->index.Find(hash, [&](int at) { return entries[at].key == key; });
+        for (std::uint64_t found = TagSet::Find(Tags(), TagCount(), TagSet::TagOf(hash)); found != 0;
+             found &= found - 1) {
+            const int at = std::countr_zero(found);
+            __builtin_prefetch(entries[at].object);  // together with the text, not after it
+            if (entries[at].key == key) return at;
         }
         return kNone;
     }
@@ -259,25 +411,24 @@ private:
 
 ZanHashList::Store* ZanHashList::empty_Store(ZanHashListKind kind) noexcept {
     /// Never destroyed: lists may outlive whatever is destroyed at exit.
-    union Immortal {
-        constexpr explicit Immortal(ZanHashListKind listKind) noexcept : store(listKind) {}
-        ~Immortal() {}
-        Store store;
-    };
-    static constinit Immortal links(ZanHashListKind::Links);
-    static constinit Immortal owner(ZanHashListKind::Owner);
-    return kind == ZanHashListKind::Owner ? &owner.store : &links.store;
+    static constinit Store links(ZanHashListKind::Links, 0);
+    static constinit Store owner(ZanHashListKind::Owner, 0);
+    return kind == ZanHashListKind::Owner ? &owner : &links;
 }
 
-ZanHashList::Store& ZanHashList::make_Store() {
-    if (_STORE == empty_Store(_STORE->kind)) _STORE = new Store(_STORE->kind);
-    return *_STORE;
+/// Makes room for \p capacity entries in all.
+void ZanHashList::make_Room(int capacity) {
+    if (_STORE == empty_Store(_STORE->kind)) {
+        _STORE = Store::Create(_STORE->kind, capacity);
+    } else if (capacity > _STORE->capacity) {
+        _STORE = Store::MoveTo(capacity, _STORE);
+    }
 }
 
 ZanHashList::ZanHashList(int /*size*/, ZanHashListKind kind) : _STORE(empty_Store(kind)) {}
 
 ZanHashList::ZanHashList(const ZanHashList& other)
-    : _STORE(other._STORE->End() != 0 ? new Store(*other._STORE) : empty_Store(other._STORE->kind)) {}
+    : _STORE(other._STORE->end != 0 ? other._STORE->Copy() : empty_Store(other._STORE->kind)) {}
 
 ZanHashList& ZanHashList::operator=(const ZanHashList& other) {
     ZanHashList copy(other);
@@ -290,7 +441,7 @@ ZanHashList::~ZanHashList() { clear(); }
 ZanDicObj* ZanHashList::operator[](int position) const {
     if (position < 1 || position > Size()) return nullptr;
     _STORE->Settle();
-    return _STORE->entries[_STORE->first + position - 1].object;
+    return _STORE->At(_STORE->first + position - 1).object;
 }
 
 int ZanHashList::Size() const {
@@ -300,7 +451,7 @@ int ZanHashList::Size() const {
 
 int ZanHashList::LostCount() const {
     _STORE->DropLost();
-    return _STORE->lost.Size();
+    return _STORE->extra != nullptr ? _STORE->extra->lost.Size() : 0;
 }
 
 HRESULT ZanHashList::Append(ZanDicObj* object) { return append_Object(object, false); }
@@ -321,7 +472,8 @@ HRESULT ZanHashList::append_Object(ZanDicObj* object, bool isNew) {
         trace.Error("*** ERROR *** Could not insert in ZELHASH_ZanDicObj");
         return trace.Exit(E_FAIL);
     }
-    make_Store().Append(object->Name(), object);
+    if (_STORE->end == _STORE->capacity) make_Room(std::max(kFirstRoom, _STORE->end * 2));
+    _STORE->Append(object->Name(), object);
     return trace.Exit(S_OK);
 }
 
@@ -341,7 +493,7 @@ HRESULT ZanHashList::Remove(const ZELString& name) {
     if (ZanDicTrace::MayWrite(TraceLevel::Call) && ZanDicObj::shows_Probe()) probe.emplace().SetName(&name);
 
     const int at = _STORE->Find(name);
-    ZanDicObj* const object = at != kNone ? _STORE->entries[at].object : nullptr;
+    ZanDicObj* const object = at != kNone ? _STORE->At(at).object : nullptr;
     if (auto line = trace.Line(TraceLevel::Call)) line << "removing object:" << name << ", @=" << object;
     if (object != nullptr) _STORE->RemoveAt(at);
     return trace.Exit(object != nullptr ? S_OK : E_FAIL);
@@ -364,10 +516,11 @@ HRESULT ZanHashList::RemoveAll() {
 }
 
 HRESULT ZanHashList::Search(const ZELString& name, ZanDicObj** found) const {
-    if (ZanDicTrace::MayWrite(TraceLevel::Call) && ZanDicObj::shows_Probe()) ZanDicObj::make_SharedProbe();
+    if (ZanDicTrace::MayWrite(TraceLevel::Call)) [[unlikely]]
+        ZanDicObj::show_SharedProbe();
     const int at = _STORE->Find(name);
     if (at == kNone || found == nullptr) return E_FAIL;
-    *found = _STORE->entries[at].object;
+    *found = _STORE->At(at).object;
     return S_OK;
 }
 
@@ -381,9 +534,9 @@ bool ZanHashList::take_Object(const ZanDicObj* object) {
 
 void ZanHashList::clear() {
     Store* const empty = empty_Store(_STORE->kind);
-    if (_STORE != empty) delete std::exchange(_STORE, empty);
+    if (_STORE != empty) Store::Destroy(std::exchange(_STORE, empty));
 }
 
 void ZanHashList::reserve(int count) {
-    if (count > 0) make_Store().Reserve(count);
+    if (count > 0) make_Room(count);
 }

@@ -256,8 +256,8 @@ bool ZanDictionary::keeps_Obj(const ZanDicObj& object) const {
 }
 
 HRESULT ZanDictionary::search_Obj(const ZELDbBinary* uuid, ZanDicObj** object) {
-    std::optional<ZanDicObj> probe;
-    if (ZanDicTrace::MayWrite(TraceLevel::Call) && ZanDicObj::shows_Probe()) probe.emplace();
+    if (ZanDicTrace::MayWrite(TraceLevel::Call)) [[unlikely]]
+        ZanDicObj::show_Probe();
     if (object == nullptr) return E_FAIL;
     *object = uuid != nullptr ? find_Obj(*uuid) : nullptr;
     return *object != nullptr ? S_OK : E_FAIL;

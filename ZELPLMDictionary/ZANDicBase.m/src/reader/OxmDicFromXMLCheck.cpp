@@ -140,12 +140,12 @@ HRESULT CheckClass(Reading& reading, const ElementNote& note) {
     const ZELVBTXMLNode node = reading.document.ElementAt(note.node);
     const ClassCheck check(reading, trace, note, *super);
     HRESULT result = S_OK;
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     // A failed check does not end the walk, whether or not anybody asked to go on.
     for (const ZELVBTXMLNode child : node.Children()) {
         if (child.getTag() != tag::kRelationship) continue;
         if (const HRESULT rc = check.CheckRelationship(child); Failed(rc)) result = rc;
     }
-    reading.owner = {};
+    reading.owners.pop_back();
     return trace.Exit(result);
 }

@@ -418,14 +418,14 @@ HRESULT FillClass(Reading& reading, const ZELVBTXMLNode& node, OXMIDicClass& ele
 
     note.references = reading.references;
     note.firstMember = reading.members.size();
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     ZanDicExpectMembers(element, node.Children().Count());
     Identities children(node);
     while (const Identity* const child = children.Next()) {
         if (!reading.faults.GoesOn(FillMember(reading, trace, *child, element), result)) break;
         note.hasRelationships = note.hasRelationships || IsWord<tag::kRelationship>(child->node.getTag());
     }
-    reading.owner = {};
+    reading.owners.pop_back();
     note.endMember = reading.members.size();
     return trace.Exit(result);
 }
@@ -437,13 +437,13 @@ HRESULT FillEnum(Reading& reading, const ZELVBTXMLNode& node, OXMIDicEnum& eleme
     if (!reading.faults.GoesOn(FillAttributes<kEnumWords>(reading, trace, node, element), result)) {
         return trace.Exit(result);
     }
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     ZanDicExpectMembers(element, node.Children().Count());
     Identities children(node);
     while (const Identity* const child = children.Next()) {
         if (!reading.faults.GoesOn(FillEnumeratorOf(reading, trace, *child, element), result)) break;
     }
-    reading.owner = {};
+    reading.owners.pop_back();
     return trace.Exit(result);
 }
 

@@ -223,6 +223,7 @@ public:
             _Reading.objects[level.note].end = _Reading.objects.size();
             level.trace.Exit(result);
             _LEVELS.pop_back();
+            _Reading.owners.pop_back();
             note_Result(result);
         }
     }
@@ -281,6 +282,7 @@ private:
         }
         _LEVELS.push_back({node, node.getFirstNodePosition(), row.type, note.object.Get(), trace,
                            _Reading.objects.size() - 1, result, !goesOn});
+        _Reading.owners.push_back(NameOf(node));
         return S_OK;
     }
 
@@ -296,9 +298,9 @@ HRESULT FillRBOClass(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRBOClas
     HRESULT result = S_OK;
     const HRESULT rc = FillAttributes<kRBOClassWords>(reading, trace, node, element, kRBOClassLoop);
     if (!reading.faults.GoesOn(rc, result)) return trace.Exit(result);
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     for (const ZELVBTXMLNode child : node.Children()) PassOver(reading, trace, child);
-    reading.owner = {};
+    reading.owners.pop_back();
     return trace.Exit(result);
 }
 
@@ -318,9 +320,9 @@ HRESULT FillRBOMapping(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRBOMa
                                result)) {
         return trace.Exit(result);
     }
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     reading.faults.GoesOn(ObjectWalk(reading, trace, node, element).Walk(), result);
-    reading.owner = {};
+    reading.owners.pop_back();
     note.endMember = reading.objects.size();
     return trace.Exit(result);
 }

@@ -63,7 +63,16 @@ std::string_view NameOf(const ZELVBTXMLNode& node) {
 }
 
 std::string Reading::ElementName(const ZELVBTXMLNode& node) const {
-    return owner.empty() ? std::string(NameOf(node)) : Joined({owner, "::", NameOf(node)});
+    constexpr std::size_t kMost = 16;
+    std::string name;
+    for (std::size_t level = 0; level < owners.size(); ++level) {
+        if (owners.size() > kMost && level == 1) {
+            name += "...::";
+            level = owners.size() - kMost + 1;
+        }
+        name.append(owners[level]).append("::");
+    }
+    return name.append(NameOf(node));
 }
 
 OXMIDicPrimitive* Reading::Primitive(int kind) {

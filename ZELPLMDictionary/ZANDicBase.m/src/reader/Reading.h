@@ -143,7 +143,8 @@ struct Reading {
           untargeted(theUntargeted),
           document(theDocument) {}
 
-    /// \returns the name of a tag's element as diagnostics give it.
+    /// \returns the name of a tag's element as diagnostics give it: behind those of its owners. Of a deep
+    /// nest the middle is left out.
     std::string ElementName(const ZELVBTXMLNode& node) const;
 
     /// \returns the manager's primitive of that kind; null when it has none.
@@ -165,7 +166,8 @@ struct Reading {
     LeftOut& untargeted;  ///< attributes whose target was at fault, of all packages
     const ZELVBTXMLDocument& document;
     ZanDicRef<OXMIDicPackage> package;  ///< the one that this load made; null before
-    std::string_view owner;             ///< name of the element whose members are being read
+    std::vector<std::string_view>
+        owners;  ///< names of the elements inside which is read, the outermost first
     TextCache texts;
     ReferenceNotes references;           ///< of the tag that is being filled
     ZELVBTXMLAttribute persistent;       ///< of the class that is being filled
