@@ -286,4 +286,76 @@ TEST_F(ZELVBTXMLDocumentTest, FourGibibytesAreRefusedUnread) {
     EXPECT_EQ(error.reason, "the document has 4 GiB or more");
 }
 
+class ZELVBTXMLPieceTest : public ZELVBTXMLNodeTest {
+protected:
+    static constexpr const char* kKinds[] = {"declaration", "doctype", "comment",
+                                             "instruction", "cdata",   "text"};
+
+    /// Reads \p text and keeps its pieces. \returns them.
+    Strings Pieces(std::string_view text) {
+        document = ZELVBTXMLDocument::CreateFromMemory(text, &error, ZELVBTXMLKeep::Pieces);
+        EXPECT_NE(document, nullptr) << error.reason;
+        Strings pieces;
+        for (std::uint32_t index = 0; index < document->PieceCount(); ++index) {
+            const ZELVBTXMLPiece piece = document->PieceAt(index);
+            pieces.push_back(std::string(kKinds[static_cast<std::size_t>(piece.Kind())]) + " " +
+                             std::string(piece.Text()));
+        }
+        return pieces;
+    }
+};
+
+TEST_F(ZELVBTXMLPieceTest, NothingIsKeptUnlessAskedFor) {
+    Read("<?xml version='1.0'?><!-- c --><a>text<!-- d --></a>");
+
+    EXPECT_EQ(document->PieceCount(), 0);
+}
+
+TEST_F(ZELVBTXMLPieceTest, EverythingBesideTagsIsKeptAsItStands) {
+    EXPECT_EQ(Pieces("<?xml version='1.0'?>\n<!DOCTYPE a [<!-- in --><?in?>]><!-- b --><?c d?>"
+                     "<a>t &lt; u<![CDATA[ <v> ]]>\r\n<b/> <?e?><!--f--></a>\n<!-- g -->"),
+              (Strings{"declaration <?xml version='1.0'?>", "text \n",
+                       "doctype <!DOCTYPE a [<!-- in --><?in?>]>", "comment <!-- b -->",
+                       "instruction <?c d?>", "text t &lt; u", "cdata <![CDATA[ <v> ]]>", "text \r\n",
+                       "text  ", "instruction <?e?>", "comment <!--f-->", "text \n", "comment <!-- g -->"}));
+}
+
+TEST_F(ZELVBTXMLPieceTest, ADocumentWithoutDeclarationKeepsNone) {
+    EXPECT_EQ(Pieces("<a/>"), Strings{});
+    EXPECT_EQ(Pieces("\xEF\xBB\xBF<a/>\n"), Strings{"text \n"});
+}
+
+TEST_F(ZELVBTXMLPieceTest, APieceKnowsItsElementAndWhatItIsBefore) {
+    Pieces("<!--0--><a><!--1--><b><!--2--></b><!--3--><c/></a><!--4-->");
+    const ZELVBTXMLNode a = document->ElementAt(0);
+    const ZELVBTXMLNode b = document->ElementAt(1);
+    const ZELVBTXMLNode c = document->ElementAt(2);
+
+    EXPECT_TRUE(document->PieceAt(0).IsOutside());
+    EXPECT_TRUE(document->PieceAt(0).IsBefore(a));
+    EXPECT_TRUE(document->PieceAt(1).IsIn(a));
+    EXPECT_TRUE(document->PieceAt(1).IsBefore(b));
+    EXPECT_TRUE(document->PieceAt(2).IsIn(b));
+    EXPECT_FALSE(document->PieceAt(2).IsIn(a));
+    EXPECT_TRUE(document->PieceAt(3).IsIn(a));
+    EXPECT_FALSE(document->PieceAt(3).IsBefore(b));
+    EXPECT_TRUE(document->PieceAt(3).IsBefore(c));
+    EXPECT_TRUE(document->PieceAt(4).IsOutside());
+    EXPECT_FALSE(document->PieceAt(4).IsBefore(a));
+    EXPECT_EQ(Text(document->PieceAt(3).Position()), "1:35");
+}
+
+TEST_F(ZELVBTXMLPieceTest, PiecesTouchWhenNothingStandsBetween) {
+    Pieces("<a> <!--1--><?t?><b/><!--3--></a>");
+
+    EXPECT_TRUE(document->PieceAt(0).Touches(document->PieceAt(1)));
+    EXPECT_TRUE(document->PieceAt(1).Touches(document->PieceAt(2)));
+    EXPECT_FALSE(document->PieceAt(2).Touches(document->PieceAt(3)));
+}
+
+TEST_F(ZELVBTXMLPieceTest, PiecesOfAnotherEncodingAreUtf8) {
+    EXPECT_EQ(Pieces("<?xml version='1.0' encoding='ISO-8859-1'?><a><!--\xE9--></a>")[1],
+              "comment <!--\xC3\xA9-->");
+}
+
 }  // namespace

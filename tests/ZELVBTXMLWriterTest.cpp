@@ -49,6 +49,26 @@ std::string AttributeOf(std::string_view value, long* replaced = nullptr) {
     return std::string(content.View());
 }
 
+TEST(ZELXMLEscapeTest, WritesValuesAsTheWriterDoes) {
+    EXPECT_TRUE(rc::check([](const std::string& value) {
+        std::string text = "<A b=\"";
+        long replaced = 0;
+
+        const std::string written = AttributeOf(value, &replaced);
+
+        RC_ASSERT(ZELXMLEscape(value, text) == replaced);
+        RC_ASSERT(text + "\"/>\n" == written);
+    }));
+}
+
+TEST(ZELXMLEscapeTest, CountsWhatItReplaces) {
+    std::string text = "before ";
+
+    EXPECT_EQ(ZELXMLEscape("a\"b\xC3\xA9\x01\xFF", text), 2);
+
+    EXPECT_EQ(text, "before a&quot;b\xC3\xA9\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
 TEST_F(ZELVBTXMLWriterTest, WritesOneElementALineAndIndentsByTwo) {
     document.Markup("<?xml version=\"1.0\"?>");
     document.Begin("A");

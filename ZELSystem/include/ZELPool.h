@@ -21,7 +21,7 @@ struct ZELSYSTEM_API ZELPoolBlock {
     ZELPoolBlock* next;
 };
 
-/// What the inline functions below need: whose lists there are, and up to which size blocks are in them.
+/// What the inline functions below need: the lists, and which blocks are in them.
 struct ZELSYSTEM_API ZELPoolLists {
     static constexpr std::size_t kGranule = 8;
     static constexpr std::size_t kLine = 64;
@@ -31,7 +31,7 @@ struct ZELSYSTEM_API ZELPoolLists {
     static constexpr std::size_t kCount = kSmallCount + (kLargest - kLargestSmall) / kLine + 1;
 
     ZELPoolBlock* free[kCount];  ///< blocks of one size, the one given back last first
-    std::size_t largest;         ///< kLargest; 0 where the pool is not used
+    std::size_t tooLarge;        ///< from this size on blocks are not in the lists; 0 where none is
 
     static constexpr std::size_t ListOf(std::size_t size) noexcept {
         if (size <= kLargestSmall) return (size + kGranule - 1) / kGranule;
@@ -58,7 +58,7 @@ inline void* ZELPoolAllocate(std::size_t size) {
 /// Gives \p block back; \p size is the one it was asked with. A null block is ignored.
 inline void ZELPoolFree(void* block, std::size_t size) noexcept {
     if (block == nullptr) return;
-    if (size > zelPoolLists.largest) return ::operator delete(block);
+    if (size >= zelPoolLists.tooLarge) return ::operator delete(block);
     ZELPoolBlock*& list = zelPoolLists.free[ZELPoolLists::ListOf(size)];
     list = ::new (block) ZELPoolBlock{list};
 }

@@ -167,6 +167,47 @@ private:
     std::uint32_t parent_;
 };
 
+/// Something of a document that is neither tag nor attribute; only of documents that keep these.
+class ZELVBTXMLPiece {
+public:
+    ZELVBTXMLPiece(const ZELVBTXMLTape& tape, std::uint32_t index) : tape_(&tape), index_(index) {}
+
+    ZELVBTXMLPieceKind Kind() const { return Record().kind; }
+    /// The piece as it stands in the document, its marks included and references not replaced. Line ends are
+    /// those of the document.
+    std::string_view Text() const { return {tape_->text + Record().offset, Record().length}; }
+
+    /// Number of the element that it stands in; ZELVBTXMLPieceRecord::kNoElement outside the root.
+    std::uint32_t Parent() const { return Record().parent; }
+    /// Whether it stands directly inside \p element.
+    bool IsIn(const ZELVBTXMLNode& element) const { return Record().parent == element.Index(); }
+    /// Whether it stands outside the root.
+    bool IsOutside() const { return Record().parent == ZELVBTXMLPieceRecord::kNoElement; }
+    /// Whether it stands in front of the start tag of \p element.
+    bool IsBefore(const ZELVBTXMLNode& element) const {
+        return Record().offset < tape_->elements[element.Index()].tagOffset;
+    }
+    /// Whether nothing stands between it and \p next.
+    bool Touches(const ZELVBTXMLPiece& next) const {
+        return Record().offset + Record().length == next.Record().offset;
+    }
+
+    /// Place of its first character.
+    ZELVBTXMLPosition Position() const { return tape_->PositionOf(Record().offset); }
+
+private:
+    const ZELVBTXMLPieceRecord& Record() const { return tape_->pieces[index_]; }
+
+    const ZELVBTXMLTape* tape_;
+    std::uint32_t index_;
+};
+
+/// What a document keeps beside elements and attributes.
+enum class ZELVBTXMLKeep {
+    Nothing,
+    Pieces,  ///< for programs that write the document again: 16 bytes more for each piece
+};
+
 /// An XML document that was read: owner of its text and of everything that the views refer to.
 ///
 /// Reading checks the whole of XML 1.0 (fifth edition) that concerns a reader which does not validate,
@@ -177,8 +218,8 @@ private:
 /// quotes, comments and characters are checked and nothing else; nothing that they define is used, nothing
 /// outside the document is ever read, and a reference to anything but a character or one of the five
 /// predefined entities is a fault. Comments, processing instructions and character data
-/// are checked and not kept. A document has less than 4 GiB; nesting is bounded by memory alone.
-/// Costs, beside the text: 16 bytes an element, 8 an attribute.
+/// are checked, and kept only when that is asked for (ZELVBTXMLKeep). A document has less than 4 GiB; nesting
+/// is bounded by memory alone. Costs, beside the text: 16 bytes an element, 8 an attribute.
 class ZELSYSTEM_API ZELVBTXMLDocument {
 public:
     static constexpr std::size_t kReadablePadding = 32;
@@ -186,12 +227,14 @@ public:
     /// Reads the document in the file \p path.
     /// \param[out] error written on failure; may be null.
     /// \returns null when the file cannot be read, is no regular file or is refused.
-    static std::unique_ptr<ZELVBTXMLDocument> CreateFromFile(const char* path, ZELVBTXMLError* error);
+    static std::unique_ptr<ZELVBTXMLDocument> CreateFromFile(const char* path, ZELVBTXMLError* error,
+                                                             ZELVBTXMLKeep keep = ZELVBTXMLKeep::Nothing);
 
     /// Reads the document \p text, of which a copy is kept.
     /// \param[out] error written on failure; may be null.
     /// \returns null when it is refused.
-    static std::unique_ptr<ZELVBTXMLDocument> CreateFromMemory(std::string_view text, ZELVBTXMLError* error);
+    static std::unique_ptr<ZELVBTXMLDocument> CreateFromMemory(std::string_view text, ZELVBTXMLError* error,
+                                                               ZELVBTXMLKeep keep = ZELVBTXMLKeep::Nothing);
 
     ~ZELVBTXMLDocument();
     ZELVBTXMLDocument(const ZELVBTXMLDocument&) = delete;
@@ -207,6 +250,11 @@ public:
     ZELVBTXMLNode ElementAt(std::uint32_t index) const { return {*tape_, index}; }
     /// The attribute of number \p index, which is below AttributeCount().
     ZELVBTXMLAttribute AttributeAt(std::uint32_t index) const { return {*tape_, index}; }
+
+    /// How many pieces are kept, in document order; 0 unless that was asked for.
+    std::uint32_t PieceCount() const { return tape_->pieceCount; }
+    /// The piece of number \p index, which is below PieceCount().
+    ZELVBTXMLPiece PieceAt(std::uint32_t index) const { return {*tape_, index}; }
 
 private:
     class Storage;

@@ -50,6 +50,26 @@ struct ZELVBTXMLAsideRecord {
     std::uint32_t decoded;  ///< 1 or 0
 };
 
+/// What a document has beside tags and attributes.
+enum class ZELVBTXMLPieceKind : std::uint32_t {
+    Declaration,    ///< <?xml ...?>
+    DocumentType,   ///< <!DOCTYPE ...>, with everything inside
+    Comment,        ///< <!-- ... -->
+    Instruction,    ///< <? ... ?>
+    CharacterMark,  ///< <![CDATA[ ... ]]>
+    Text,           ///< what stands between two of these, or tags; blanks and line ends too
+};
+
+/// A piece on the tape: 16 bytes.
+struct ZELVBTXMLPieceRecord {
+    static constexpr std::uint32_t kNoElement = 0xFFFFFFFF;
+
+    std::uint32_t offset;  ///< in the text, of its first character
+    std::uint32_t length;  ///< bytes
+    std::uint32_t parent;  ///< index of the element that it stands in; kNoElement outside the root
+    ZELVBTXMLPieceKind kind;
+};
+
 /// The tape of one document, as the views of ZELVBTXMLNode.h read it: the document's own text, offsets
 /// and lengths into it, and the values that do not stand in the text as they read.
 /// The document owns it; callers use the views.
@@ -59,9 +79,11 @@ struct ZELVBTXMLTape {
     const ZELVBTXMLElementRecord* elements = nullptr;  ///< one more than there are, for the ends of the last
     const ZELVBTXMLAttributeRecord* attributes = nullptr;
     const ZELVBTXMLAsideRecord* asides = nullptr;
+    const ZELVBTXMLPieceRecord* pieces = nullptr;
     ZELXMLPositions* positions = nullptr;
     std::uint32_t elementCount = 0;
     std::uint32_t attributeCount = 0;
+    std::uint32_t pieceCount = 0;
 
     std::string_view Tag(std::uint32_t element) const {
         return {text + elements[element].tagOffset, elements[element].tagLength};

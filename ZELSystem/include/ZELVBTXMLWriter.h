@@ -1,6 +1,7 @@
 #ifndef ZELVBTXMLWRITER_H
 #define ZELVBTXMLWRITER_H
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -9,6 +10,10 @@
 
 /// Whether \p name may be the name of a tag or an attribute.
 ZELSYSTEM_API bool ZELXMLIsName(std::string_view name);
+
+/// Appends \p value to \p text as the writer below writes values: escaped, and so that a reader gives it
+/// back. \returns how many characters had to be replaced.
+ZELSYSTEM_API long ZELXMLEscape(std::string_view value, std::string& text);
 
 /// Writes an XML document as text, straight into a file: one element a line, two blanks of indentation for
 /// each level (the first kMostIndented of them), "/>" for an element without content, a newline at the end.
@@ -61,7 +66,6 @@ public:
 private:
     void NewLine(std::size_t depth);
     void Escaped(std::string_view text);
-    const char* Special(const char* p, const char* end);
 
     ZELDurableFile& _File;
     std::vector<std::string_view> _OPEN;  ///< tags of the elements begun and not ended

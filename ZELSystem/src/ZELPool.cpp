@@ -23,7 +23,7 @@ void* ZELPoolRefill(std::size_t size) { return ::operator new(size); }
 #else
 
 // Neither constructed nor destroyed, so that they serve static objects of any library.
-constinit ZELPoolLists zelPoolLists = {{}, ZELPoolLists::kLargest};
+constinit ZELPoolLists zelPoolLists = {{}, ZELPoolLists::kLargest + 1};
 
 namespace {
 

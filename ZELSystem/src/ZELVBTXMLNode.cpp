@@ -47,7 +47,7 @@ public:
     }
 
     /// Writes the tape. Call it once.
-    bool Read(ZELVBTXMLError* error) {
+    bool Read(ZELVBTXMLError* error, ZELVBTXMLKeep keep) {
         if (text_.size() > kMaxLength) return Refuse(error, kTooLong) != nullptr;
         positions_.emplace(text_,
                            source_.encoding == ZELXMLEncoding::Utf8 ? ZELXMLTokenizer::MarkLength(text_) : 0);
@@ -56,7 +56,7 @@ public:
             Refuse(error, std::string(kZELXMLReasons[kBroken]), positions_->PositionOf(text_.size()));
             return false;
         }
-        ZELXMLTokenizer tokenizer(text_.data(), text_.size(), store_, source_);
+        ZELXMLTokenizer tokenizer(text_.data(), text_.size(), store_, source_, keep);
         if (!tokenizer.Run()) {
             Refuse(error, tokenizer.Reason(), positions_->PositionOf(tokenizer.FaultOffset()));
             return false;
@@ -68,9 +68,11 @@ public:
                  .elements = store_.elements.Data(),
                  .attributes = store_.attributes.Data(),
                  .asides = store_.asides.Data(),
+                 .pieces = store_.pieces.Data(),
                  .positions = &*positions_,
                  .elementCount = static_cast<std::uint32_t>(store_.elements.Size() - 1),
-                 .attributeCount = static_cast<std::uint32_t>(store_.attributes.Size())};
+                 .attributeCount = static_cast<std::uint32_t>(store_.attributes.Size()),
+                 .pieceCount = static_cast<std::uint32_t>(store_.pieces.Size())};
         return true;
     }
 
@@ -108,8 +110,8 @@ ZELVBTXMLDocument::ZELVBTXMLDocument(std::unique_ptr<Storage> storage, std::stri
 
 ZELVBTXMLDocument::~ZELVBTXMLDocument() = default;
 
-std::unique_ptr<ZELVBTXMLDocument> ZELVBTXMLDocument::CreateFromFile(const char* path,
-                                                                     ZELVBTXMLError* error) try {
+std::unique_ptr<ZELVBTXMLDocument> ZELVBTXMLDocument::CreateFromFile(const char* path, ZELVBTXMLError* error,
+                                                                     ZELVBTXMLKeep keep) try {
     if (path == nullptr) return Refuse(error, "no file name is given");
     // Looked at before the file is read, so that nothing is read in vain; what counts is the length then
     // read.
@@ -121,17 +123,18 @@ std::unique_ptr<ZELVBTXMLDocument> ZELVBTXMLDocument::CreateFromFile(const char*
     if (Failed(ZELReadFile(path, content, &reason))) return Refuse(error, std::move(reason));
     if (content.Size() > kMaxLength) return Refuse(error, kTooLong);
     auto storage = std::make_unique<Storage>(std::move(content));
-    if (!storage->Read(error)) return nullptr;
+    if (!storage->Read(error, keep)) return nullptr;
     return std::unique_ptr<ZELVBTXMLDocument>(new ZELVBTXMLDocument(std::move(storage), path));
 } catch (const std::bad_alloc&) {
     return Refuse(error, kOutOfMemory);
 }
 
 std::unique_ptr<ZELVBTXMLDocument> ZELVBTXMLDocument::CreateFromMemory(std::string_view text,
-                                                                       ZELVBTXMLError* error) try {
+                                                                       ZELVBTXMLError* error,
+                                                                       ZELVBTXMLKeep keep) try {
     if (text.size() > kMaxLength) return Refuse(error, kTooLong);
     auto storage = std::make_unique<Storage>(text);
-    if (!storage->Read(error)) return nullptr;
+    if (!storage->Read(error, keep)) return nullptr;
     return std::unique_ptr<ZELVBTXMLDocument>(new ZELVBTXMLDocument(std::move(storage), {}));
 } catch (const std::bad_alloc&) {
     return Refuse(error, kOutOfMemory);

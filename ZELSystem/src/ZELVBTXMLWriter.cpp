@@ -95,7 +95,54 @@ ZELXMLCharacter DecodeWithin(const char* p, const char* end) {
     return ZELXMLDecode(character);
 }
 
+/// Writes what stands for the character at \p p, and the characters beyond ASCII that follow it.
+/// \returns where it stopped.
+template <class Out>
+const char* PutSpecial(const char* p, const char* end, Out& out, long& replaced) {
+    if (const std::string_view reference = ReferenceOf(*p); !reference.empty()) {
+        out.Append(reference);
+        return p + 1;
+    }
+    const char* const begin = p;
+    while (p != end && !ZELXMLIsAscii(*p)) {
+        const ZELXMLCharacter c = DecodeWithin(p, end);
+        if (c.length == 0 || !ZELXMLIsCharacter(c.code)) break;
+        p += c.length;
+    }
+    if (p != begin) {
+        out.Append({begin, static_cast<std::size_t>(p - begin)});
+        return p;
+    }
+    const std::uint32_t length = DecodeWithin(p, end).length;
+    out.Append(kReplacement);
+    ++replaced;
+    return p + (length != 0 ? length : 1);
+}
+
+template <class Out>
+void PutEscaped(std::string_view text, Out& out, long& replaced) {
+    const char* const end = text.data() + text.size();
+    for (const char* p = text.data(); p != end;) {
+        const char* const special = FindSpecial(p, end);
+        out.Append({p, static_cast<std::size_t>(special - p)});
+        p = special != end ? PutSpecial(special, end, out, replaced) : end;
+    }
+}
+
+/// A text that takes what a file takes otherwise.
+struct TextEnd {
+    std::string& text;
+    void Append(std::string_view bytes) { text.append(bytes); }
+};
+
 }  // namespace
+
+long ZELXMLEscape(std::string_view value, std::string& text) {
+    TextEnd end{text};
+    long replaced = 0;
+    PutEscaped(value, end, replaced);
+    return replaced;
+}
 
 bool ZELXMLIsName(std::string_view name) {
     if (name.empty()) return false;
@@ -165,34 +212,4 @@ void ZELVBTXMLWriter::End() {
     _TagIsOpen = false;
 }
 
-void ZELVBTXMLWriter::Escaped(std::string_view text) {
-    const char* const end = text.data() + text.size();
-    for (const char* p = text.data(); p != end;) {
-        const char* const special = FindSpecial(p, end);
-        _File.Append({p, static_cast<std::size_t>(special - p)});
-        p = special != end ? Special(special, end) : end;
-    }
-}
-
-/// Writes what stands for the character at \p p, and the characters beyond ASCII that follow it.
-/// \returns where it stopped.
-const char* ZELVBTXMLWriter::Special(const char* p, const char* end) {
-    if (const std::string_view reference = ReferenceOf(*p); !reference.empty()) {
-        _File.Append(reference);
-        return p + 1;
-    }
-    const char* const begin = p;
-    while (p != end && !ZELXMLIsAscii(*p)) {
-        const ZELXMLCharacter c = DecodeWithin(p, end);
-        if (c.length == 0 || !ZELXMLIsCharacter(c.code)) break;
-        p += c.length;
-    }
-    if (p != begin) {
-        _File.Append({begin, static_cast<std::size_t>(p - begin)});
-        return p;
-    }
-    const std::uint32_t length = DecodeWithin(p, end).length;
-    _File.Append(kReplacement);
-    ++_Replaced;
-    return p + (length != 0 ? length : 1);
-}
+void ZELVBTXMLWriter::Escaped(std::string_view text) { PutEscaped(text, _File, _Replaced); }

@@ -23,8 +23,12 @@ const char* FindValueStop(const char* p, char quote) {
 }  // namespace
 
 ZELXMLTokenizer::ZELXMLTokenizer(const char* text, std::size_t length, ZELXMLTapeStore& store,
-                                 ZELXMLSource source)
-    : text_(text), end_(text + length), store_(store), source_(source) {
+                                 ZELXMLSource source, ZELVBTXMLKeep keep)
+    : text_(text),
+      end_(text + length),
+      store_(store),
+      source_(source),
+      keeps_(keep == ZELVBTXMLKeep::Pieces) {
     // More than usual documents need, and untouched room is free.
     store_.elements.Reserve(length / 64 + 16);
     store_.attributes.Reserve(length / 16 + 16);
@@ -32,9 +36,11 @@ ZELXMLTokenizer::ZELXMLTokenizer(const char* text, std::size_t length, ZELXMLTap
 
 bool ZELXMLTokenizer::Run() {
     const char* p = ReadEncodingMark(text_);
+    const char* const declaration = p;
     if (p != nullptr) p = ReadDeclaration(p);
+    if (p != nullptr && keeps_) Note(ZELVBTXMLPieceKind::Declaration, declaration, p);
     if (p != nullptr) p = ReadMisc(p, true);
-    if (p != nullptr) p = ReadRoot(p);
+    if (p != nullptr) p = keeps_ ? ReadRoot<true>(p) : ReadRoot<false>(p);
     if (p != nullptr) p = ReadMisc(p, false);
     if (p == nullptr) return false;
     const auto elementCount = static_cast<std::uint32_t>(store_.elements.Size());
@@ -104,16 +110,35 @@ const char* ZELXMLTokenizer::ReadWideName(const char* begin, const char* p, ZELX
     return p == begin ? FailAt(p, whenNone, whenNone, p) : p;
 }
 
+void ZELXMLTokenizer::Note(ZELVBTXMLPieceKind kind, const char* begin, const char* end) {
+    if (begin == end) return;
+    store_.pieces.Append({Offset(begin), static_cast<std::uint32_t>(end - begin), open_, kind});
+}
+
+/// The kind of what begins with "<!" or "<?" and was read.
+ZELVBTXMLPieceKind ZELXMLTokenizer::KindOf(const char* markup) {
+    if (markup[1] == '?') return ZELVBTXMLPieceKind::Instruction;
+    if (markup[2] == '-') return ZELVBTXMLPieceKind::Comment;
+    return markup[2] == '[' ? ZELVBTXMLPieceKind::CharacterMark : ZELVBTXMLPieceKind::DocumentType;
+}
+
 /// Reads the root element, everything inside it included. One turn of the loop is one tag.
+template <bool kKeeps>
 const char* ZELXMLTokenizer::ReadRoot(const char* p) {
     p = ReadStartTag(p);
     while (p != nullptr && open_ != kNoElement) {
+        [[maybe_unused]] const char* const text = p;
         p = ReadText(p);
         if (p == nullptr) return nullptr;
+        if constexpr (kKeeps) Note(ZELVBTXMLPieceKind::Text, text, p);
         if (p[1] == '/') {
             p = ReadEndTag(p);
         } else if (p[1] == '!' || p[1] == '?') {
+            [[maybe_unused]] const char* const markup = p;
             p = ReadMarkup(p);
+            if constexpr (kKeeps) {
+                if (p != nullptr) Note(KindOf(markup), markup, p);
+            }
         } else {
             p = ReadStartTag(p);
         }

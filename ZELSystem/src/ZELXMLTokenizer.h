@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "ZELVBTXMLTape.h"
+#include "ZELVBTXMLNode.h"
 #include "ZELXMLBlock.h"
 #include "ZELXMLEncoding.h"
 #include "ZELXMLFault.h"
@@ -17,6 +17,7 @@ struct ZELXMLTapeStore {
     ZELXMLBlock<ZELVBTXMLAttributeRecord> attributes;
     ZELXMLBlock<ZELVBTXMLAsideRecord> asides;
     ZELXMLBlock<char> decodedText;
+    ZELXMLBlock<ZELVBTXMLPieceRecord> pieces;  ///< none unless they are kept
 };
 
 /// Checks a document against the rules of XML 1.0 that ZELVBTXMLDocument names, and writes its tape, in
@@ -26,8 +27,8 @@ struct ZELXMLTapeStore {
 /// it, or null once the fault is noted. The NULs behind the text stop every scan, so only a NUL is ever
 /// checked for being the end.
 ///
-/// Comments, processing instructions and character data are not kept. The functions that read them know
-/// where each begins and ends: a tool that needs them gets one more row of records, appended there.
+/// Comments, processing instructions and character data are noted where ReadRoot and ReadMisc call what reads
+/// them, when they are to be kept. ReadRoot is compiled for both cases: a load does not pay for the question.
 class ZELXMLTokenizer {
 public:
     /// NULs that must stand behind the text.
@@ -35,7 +36,8 @@ public:
 
     /// \param text \p length bytes of UTF-8, less than 4 GiB, and kPadding NULs; both stay the caller's.
     /// \param source the encoding that the document has itself.
-    ZELXMLTokenizer(const char* text, std::size_t length, ZELXMLTapeStore& store, ZELXMLSource source = {});
+    ZELXMLTokenizer(const char* text, std::size_t length, ZELXMLTapeStore& store, ZELXMLSource source = {},
+                    ZELVBTXMLKeep keep = ZELVBTXMLKeep::Nothing);
 
     /// Reads the whole document. Call it once.
     /// \returns whether it is well formed; if not, the store holds nothing of use.
@@ -51,7 +53,7 @@ public:
     static std::uint32_t MarkLength(std::string_view text);
 
 private:
-    static constexpr std::uint32_t kNoElement = 0xFFFFFFFF;
+    static constexpr std::uint32_t kNoElement = ZELVBTXMLPieceRecord::kNoElement;
 
     /// One of the three parts of an XML declaration.
     struct DeclarationPart;
@@ -67,9 +69,13 @@ private:
     const char* FailAt(const char* p, ZELXMLFault fault, ZELXMLFault atEnd, const char* begin);
     const char* FailInStartTag(const char* p, ZELXMLFault fault);
     std::uint32_t Offset(const char* p) const { return static_cast<std::uint32_t>(p - text_); }
+    /// Keeps what was read from \p begin to \p end, if there is anything.
+    void Note(ZELVBTXMLPieceKind kind, const char* begin, const char* end);
+    static ZELVBTXMLPieceKind KindOf(const char* markup);
     /// The "<" of the innermost open element.
     const char* OpenTag() { return text_ + store_.elements[open_].tagOffset - 1; }
 
+    template <bool kKeeps>
     const char* ReadRoot(const char* p);
     const char* ReadStartTag(const char* p);
     const char* ReadEndTag(const char* p);
@@ -106,6 +112,7 @@ private:
     const char* const end_;
     ZELXMLTapeStore& store_;
     const ZELXMLSource source_;
+    const bool keeps_;
     std::uint32_t open_ = kNoElement;  ///< innermost open element; its endOfSubtree names the one around it
     bool asciiOnly_ = false;
     const char* doctype_ = nullptr;  ///< where the document type declaration begins, if there is one

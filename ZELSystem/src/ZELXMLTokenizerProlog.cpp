@@ -137,7 +137,10 @@ const char* ZELXMLTokenizer::TakeEncoding(const char* p, std::string_view name) 
 /// declaration: up to the root element's tag, or to the end of the text.
 const char* ZELXMLTokenizer::ReadMisc(const char* p, bool beforeRoot) {
     while (p != nullptr) {
+        const char* const blanks = p;
         p = ZELXMLSkipBlanks(p);
+        if (keeps_) Note(ZELVBTXMLPieceKind::Text, blanks, p);
+        const char* const markup = p;
         if (p == end_) return beforeRoot ? Fail(ZELXMLFault::NoElement, p) : p;
         if (*p != '<') return FailAt(p, ZELXMLFault::TextOutsideRoot, ZELXMLFault::NoElement, p);
         if (p[1] == '?') {
@@ -156,6 +159,7 @@ const char* ZELXMLTokenizer::ReadMisc(const char* p, bool beforeRoot) {
         } else {
             return beforeRoot ? p : Fail(ZELXMLFault::SecondRoot, p);
         }
+        if (keeps_ && p != nullptr) Note(KindOf(markup), markup, p);
     }
     return nullptr;
 }

@@ -69,6 +69,30 @@ constexpr OptionRow kExpressOptions[] = {
     kJsonOption,
 };
 
+constexpr OptionRow kWhyOptions[] = {
+    {"--in", "NAME ...", "packages to load beside: their extensions count too", &Options::in},
+    kJsonOption,
+};
+constexpr OptionRow kGraphOptions[] = {
+    kInOption,
+    {"--format", "svg|dot|mermaid", "what is written; svg unless given", &Options::format},
+    {"--around", "CLASS", "the class and those near it, as PACKAGE::CLASS or, of what is loaded, CLASS",
+     &Options::around},
+    {"--depth", "N", "with --around: how many steps away; 1 unless given", &Options::depth},
+    {"--max-boxes", "N", "how many classes get a box; 40 unless given", &Options::maxBoxes, false, 1},
+    {"--max-rows", "N", "how many attributes a box lists; 12 unless given", &Options::maxRows},
+    kJsonOption,
+};
+constexpr OptionRow kFmtOptions[] = {
+    {"--check", "", "write nothing; exit status 1 where something would be written", &Options::check},
+    kJsonOption,
+};
+
+std::string_view WrongPicture(const Options& options) {
+    if (options.json && options.format) return "--json and --format exclude each other";
+    return options.depth && !options.around ? "--depth needs --around" : "";
+}
+
 std::string_view WrongPlaces(const Options& options) {
     if (options.to && options.toOutput) return "--to and --stdout exclude each other";
     return options.json && options.toOutput ? "--json and --stdout exclude each other" : "";
@@ -106,6 +130,15 @@ constexpr Command kCommands[] = {
      "that no other block holds. That is made for this answer, in the memory of this run only. Of a package, "
      "classes without blocks are only named.",
      RunBlocks},
+    {"why",
+     Group::Look,
+     "where an attribute comes from, file and line",
+     {"NAME", "PACKAGE::CLASS::ATTRIBUTE, own or inherited, or the UUID of an attribute", true},
+     kWhyOptions,
+     "Says where the attribute is declared and how it comes to the class, what it redefines and what that "
+     "changes, which attribute block it is in and why, what extends the class, and to which classes a "
+     "relationship applies: each with file, line and column.",
+     RunWhy},
     {"stats", Group::Look, "how many, how deep, how wide, and what a load takes", kPackages, kStatsOptions,
      "Counts what is loaded, those packages that a NAME uses included. Deepest: the classes on the way from "
      "a "
@@ -136,6 +169,14 @@ constexpr Command kCommands[] = {
      "Writes one line for each package that got loaded, those that a NAME uses included: name, UUID, "
      "elements by kind, its own milliseconds. The last line is the total.",
      RunLoad},
+    {"graph", Group::Draw, "a class diagram: SVG, DOT or Mermaid", kClasses, kGraphOptions,
+     "Draws classes with their attributes, what inherits, extends and refers to what, and a cluster for each "
+     "package. What a named package refers to elsewhere stands beside it, by name only; of a named class all "
+     "that is joined to it does.\n"
+     "Where there are more classes than boxes, those that hold the schema together are drawn. A line on "
+     "standard error and below the picture says what is left out.\n"
+     "SVG is drawn by 'dot' of Graphviz.",
+     RunGraph, WrongPicture},
     {"dump", Group::Write, "the whole model as JSON (--json)", kPackages, kDumpOptions,
      "Writes every package that is in memory after the loads, with all that it holds.", RunDump},
     {"save", Group::Write, "packages as documents (--to DIR)", kPackages, kSaveOptions,
@@ -149,6 +190,17 @@ constexpr Command kCommands[] = {
      "neither persistent nor a super class, ends its schema: then a warning tells how many classes are not "
      "written.",
      RunExpress, WrongPlaces},
+    {"fmt",
+     Group::Write,
+     "documents in the layout of save",
+     {"FILE", "documents of any kind, loaded or not", true},
+     kFmtOptions,
+     "Writes each FILE again in the layout of 'save': line breaks, indentation, quotes and escapes, in "
+     "UTF-8. "
+     "Elements and attributes stay in their order; comments, processing instructions, texts, unknown content "
+     "and attributes given twice are kept. Nothing is loaded. A file is replaced as durably as by 'save', or "
+     "left as it is: so is one that is not well formed. Writes the name of each file that changed.",
+     RunFmt},
     {"help",
      Group::Help,
      "the help of a command",

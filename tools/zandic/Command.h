@@ -58,6 +58,9 @@ void RunSave(Session& session, const Options& options, Output& output);
 void RunExpress(Session& session, const Options& options, Output& output);
 void RunCheck(Session& session, const Options& options, Output& output);
 void RunExplain(Session& session, const Options& options, Output& output);
+void RunWhy(Session& session, const Options& options, Output& output);
+void RunGraph(Session& session, const Options& options, Output& output);
+void RunFmt(Session& session, const Options& options, Output& output);
 void RunCompletion(Session& session, const Options& options, Output& output);
 void RunHelp(Session& session, const Options& options, Output& output);
 

@@ -23,13 +23,18 @@ struct Options {
     std::optional<std::string> traceMethods;  ///< a file
     std::optional<std::string> to;            ///< the directory for files
     bool toOutput = false;                    ///< standard output takes them
-    std::optional<int> depth;                 ///< how many levels
+    std::optional<int> depth;                 ///< how many levels, or steps
     std::optional<std::string> kind;          ///< a tag
     std::optional<std::string> type;          ///< a pattern for the name of a type
     std::optional<std::string> refersTo;      ///< an object
     bool attributes = false;                  ///< with the attributes of each class
     std::optional<int> top;                   ///< how many of a list
     bool noTimes = false;                     ///< nothing that is measured
+    std::optional<std::string> format;        ///< in which a picture is written
+    std::optional<std::string> around;        ///< the class in the middle of a picture
+    std::optional<int> maxBoxes;              ///< of a picture
+    std::optional<int> maxRows;               ///< of a box
+    bool check = false;                       ///< nothing is written
     bool json = false;
     bool quiet = false;
 

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -63,22 +64,43 @@ struct Pipe {
     }
 };
 
-int Spawn(const std::vector<std::string>& arguments, const Pipe& out, const Pipe& err, pid_t& process) {
-    std::vector<std::string> texts{"zandic"};
-    texts.insert(texts.end(), arguments.begin(), arguments.end());
+/// What is to be run.
+struct Program {
+    const char* file;  ///< found as the shell finds it
+    std::vector<std::string> arguments;
+    int input = -1;  ///< its standard input; none: nothing
+};
+
+int Spawn(Program program, const Pipe& out, const Pipe& err, pid_t& process) {
     std::vector<char*> pointers;
-    pointers.reserve(texts.size() + 1);
-    for (std::string& text : texts) pointers.push_back(text.data());
+    pointers.reserve(program.arguments.size() + 1);
+    for (std::string& text : program.arguments) pointers.push_back(text.data());
     pointers.push_back(nullptr);
 
     posix_spawn_file_actions_t files;
     posix_spawn_file_actions_init(&files);
-    posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    if (program.input >= 0) {
+        posix_spawn_file_actions_adddup2(&files, program.input, STDIN_FILENO);
+    } else {
+        posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    }
     posix_spawn_file_actions_adddup2(&files, out.writeEnd.Number(), STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&files, err.writeEnd.Number(), STDERR_FILENO);
-    const int error = posix_spawn(&process, kThisProgram, &files, nullptr, pointers.data(), environ);
+    const int error = posix_spawnp(&process, program.file, &files, nullptr, pointers.data(), environ);
     posix_spawn_file_actions_destroy(&files);
     return error;
+}
+
+/// Opens a file in memory that holds \p text, to be read from its beginning. \returns 0, or an error.
+int OpenText(std::string_view text, Descriptor& file) {
+    file.Take(memfd_create("input", MFD_CLOEXEC));
+    if (!file.IsOpen()) return errno;
+    for (std::string_view rest = text; !rest.empty();) {
+        const ssize_t size = write(file.Number(), rest.data(), rest.size());
+        if (size < 0 && errno != EINTR) return errno;
+        if (size > 0) rest.remove_prefix(static_cast<std::size_t>(size));
+    }
+    return lseek(file.Number(), 0, SEEK_SET) == 0 ? 0 : errno;
 }
 
 /// Reads both streams as they come, so that neither fills up while the other is waited for. Both are closed
@@ -103,18 +125,17 @@ int StatusOf(pid_t process) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
-}  // namespace
-
-SecondRun RunAgain(const std::vector<std::string>& arguments) {
+SecondRun Run(Program program) {
     SecondRun run;
     Pipe out;
     Pipe err;
     pid_t process = 0;
     int error = out.Open();
     if (error == 0) error = err.Open();
-    if (error == 0) error = Spawn(arguments, out, err, process);
+    if (error == 0) error = Spawn(std::move(program), out, err, process);
     if (error != 0) {
         run.err = std::strerror(error);
+        run.isMissing = error == ENOENT;
         return run;
     }
     run.isStarted = true;
@@ -123,6 +144,27 @@ SecondRun RunAgain(const std::vector<std::string>& arguments) {
     ReadBoth(out, err, run);
     run.status = StatusOf(process);
     return run;
+}
+
+}  // namespace
+
+SecondRun RunAgain(const std::vector<std::string>& arguments) {
+    std::vector<std::string> all{"zandic"};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return Run({kThisProgram, std::move(all)});
+}
+
+SecondRun RunProgram(const std::string& program, const std::vector<std::string>& arguments,
+                     std::string_view input) {
+    Descriptor file;
+    if (const int error = OpenText(input, file); error != 0) {
+        SecondRun run;
+        run.err = std::strerror(error);
+        return run;
+    }
+    std::vector<std::string> all{program};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return Run({program.c_str(), std::move(all), file.Number()});
 }
 
 }  // namespace tool

@@ -89,6 +89,13 @@ bool Session::LoadAs(const std::string& name, Gravity gravity) {
     return false;
 }
 
+std::string Session::AskedFor(std::string_view package) const {
+    for (const std::string& asked : _Clock.Finished()) {
+        if (_Observer.NameIn(asked) == package) return asked.substr(0, asked.find('.'));
+    }
+    return std::string(package);
+}
+
 std::vector<Session::LoadOf> Session::LoadCosts() const {
     std::vector<LoadOf> costs;
     for (const std::string& asked : _Clock.Finished()) {

@@ -42,6 +42,9 @@ public:
         return _Dictionary.Package(_Observer.NameIn(asked));
     }
 
+    /// \returns the name, without a content word, under which a loaded package was looked for on the path.
+    std::string AskedFor(std::string_view package) const;
+
     /// One load that was tried: the package's name and what it took by itself.
     struct LoadOf {
         std::string package;
@@ -78,6 +81,7 @@ public:
 
     /// Note what could not be done, and what must not be asked for.
     void Refuse(std::string subject, std::string text);
+    void Refuse(const Fault& fault) { Note(fault, ExitStatus::Refused); }
     void RejectUse(std::string subject, std::string text);
 
     /// Makes the exit status at least as bad; whoever calls says why.
@@ -85,6 +89,12 @@ public:
 
     /// Notes what the user should know though it was done.
     void Warn(std::string_view subject, std::string_view text);
+
+    /// Notes a remark on what was done.
+    void Remark(std::string_view text) { Tell("zandic: " + std::string(text)); }
+
+    /// Costs exit status 1 without a line: the output says why.
+    void Fail() { _Status = std::max(_Status, ExitStatus::Refused); }
 
     /// \returns whether all went well so far.
     bool IsClean() const { return _Status == ExitStatus::Done; }
