@@ -1,8 +1,9 @@
 /// Any bytes as a package document: the reader may refuse them, and then leaves nothing behind.
 ///
 /// Bytes behind the first zero are a second document, the package Q, which the first may use. Each input is
-/// read twice, stopping at the first fault and going on after all of them; both must come to the same
-/// result. Whatever was loaded is looked at and unloaded, after which no object may be left.
+/// read three times, stopping at the first fault, going on after all of them, and going on in a thorough way;
+/// all must come to the same result. Whatever was loaded is looked at and unloaded, after which no object may
+/// be left.
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -30,17 +31,27 @@ public:
     void Write(const ZELLine&) override {}
 };
 
+void Require(bool isSo) {
+    if (!isSo) std::abort();
+}
+
 /// Asks for everything that a fault knows, and goes on.
 class GoOn final : public ZanDicDiagnosticObserver {
 public:
+    explicit GoOn(bool isThorough) : _IsThorough(isThorough) {}
+
     bool OnDiagnostic(const ZanDicDiagnostic& fault) override {
         _Size +=
             fault.Reason().size() + fault.TraceText().size() + fault.Element().size() + fault.File().size();
-        _Size += static_cast<std::size_t>(fault.Place().line);
+        _Size += static_cast<std::size_t>(fault.Place().line) + fault.OtherPackage().size();
+        Require(fault.Number() == ++_Count && fault.Cause() < fault.Number());
         return true;
     }
+    bool IsThorough() const override { return _IsThorough; }
 
 private:
+    bool _IsThorough;
+    int _Count = 0;
     std::size_t _Size = 0;
 };
 
@@ -63,10 +74,6 @@ public:
 private:
     std::string _Path;
 };
-
-void Require(bool isSo) {
-    if (!isSo) std::abort();
-}
 
 /// Asks every class for what it hands out.
 void LookAt(OXMIDicPackage& package) {
@@ -127,12 +134,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     documents.Write("Q.metadata", end == std::string_view::npos ? std::string_view() : text.substr(end + 1));
 
     const HRESULT stopping = LoadAndUnload(*manager, documents.Path());
-    GoOn observer;
-    ZanDicSetDiagnosticObserver(&observer);
-    ZanDicSetTraceLevel(5);
-    const HRESULT goingOn = LoadAndUnload(*manager, documents.Path());
-    ZanDicSetTraceLevel(0);
-    ZanDicSetDiagnosticObserver(nullptr);
-    Require(stopping == goingOn);
+    for (const bool isThorough : {false, true}) {
+        GoOn observer(isThorough);
+        ZanDicSetDiagnosticObserver(&observer);
+        ZanDicSetTraceLevel(isThorough ? 0 : 5);
+        const HRESULT goingOn = LoadAndUnload(*manager, documents.Path());
+        ZanDicSetTraceLevel(0);
+        ZanDicSetDiagnosticObserver(nullptr);
+        Require(stopping == goingOn);
+    }
     return 0;
 }

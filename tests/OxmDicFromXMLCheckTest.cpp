@@ -149,7 +149,7 @@ TEST_F(OxmDicFromXMLCheckTest, TheFaultNamesTheInheritedSide) {
     EXPECT_EQ(faults.rows[0].code, ZanDicDiagnosticCode::InvalidRedefinition);
     EXPECT_EQ(faults.rows[0].element, "Sub::To");
     EXPECT_EQ(faults.rows[0].attribute, "TargetRef");
-    EXPECT_EQ(faults.rows[0].otherParty, "P::Super");
+    EXPECT_EQ(faults.rows[0].otherParty, "P::Super::To");
 }
 
 }  // namespace

@@ -81,7 +81,7 @@ TEST_F(OxmDicFromXMLCompleteRBOTest, GoingOnTellsEveryReference) {
 
     EXPECT_EQ(faults.Summary(),
               "reference-of-wrong-kind 2:183 M::R @BaseClassRef\n"
-              "reference-not-found 2:300 M::C @BaseClassRef\n"
+              "reference-not-found 2:300 M::R::C @BaseClassRef\n"
               "reference-not-found 3:62 M::S @BaseClassRef\n");
 }
 

@@ -287,7 +287,7 @@ TEST_F(OxmDicFromXMLTuningTest, AnObserverThatGoesOnIsToldAllFaultsAndNothingIsC
               "missing-attribute 1:128 Part @AttributeUuids\n"
               "unsupported-tag 1:153 \n"
               "invalid-block 1:248 Part::G @Uuid\n"
-              "tuning-failed 0:0 Tuned\n");
+              "tuning-failed 0:0 Tuned <- 1\n");
     EXPECT_EQ(BlocksOf(kPart), "");
 }
 

@@ -24,9 +24,16 @@ public:
         std::string file, package, tag, element, attribute, value, reason, otherParty, traceText;
         bool traced;
         ZanDicPlace place;
+        ZELDbBinary otherUuid;
+        std::string otherPackage;
+        int number;
+        int cause;
     };
 
-    explicit FaultCollector(bool goesOn = true) : _GoesOn(goesOn) { ZanDicSetDiagnosticObserver(this); }
+    explicit FaultCollector(bool goesOn = true, bool isThorough = false)
+        : _GoesOn(goesOn), _IsThorough(isThorough) {
+        ZanDicSetDiagnosticObserver(this);
+    }
     FaultCollector(const FaultCollector&) = delete;
     FaultCollector& operator=(const FaultCollector&) = delete;
     ~FaultCollector() { ZanDicSetDiagnosticObserver(nullptr); }
@@ -36,9 +43,21 @@ public:
         rows.push_back({fault.Severity(), fault.Code(), text(fault.File()), text(fault.Package()),
                         text(fault.Tag()), text(fault.Element()), text(fault.Attribute()),
                         text(fault.Value()), text(fault.Reason()), text(fault.OtherParty()),
-                        text(fault.TraceText()), fault.Traced(), fault.Place()});
+                        text(fault.TraceText()), fault.Traced(), fault.Place(), fault.OtherUuid(),
+                        text(fault.OtherPackage()), fault.Number(), fault.Cause()});
         return _GoesOn;
     }
+
+    void OnDocument(ZanDicReadDocument document) override {
+        const std::string_view name = document.file.substr(document.file.rfind('/') + 1);
+        documents += std::string(name) + " " + std::string(document.package) + " " +
+                     (document.end == ZanDicReading::Loaded   ? "loaded"
+                      : document.end == ZanDicReading::Failed ? "failed"
+                                                              : "name taken") +
+                     "\n";
+    }
+
+    bool IsThorough() const override { return _IsThorough; }
 
     /// Each fault on a line: code, place, element and attribute.
     std::string Summary() const {
@@ -47,15 +66,18 @@ public:
             summary += std::string(ZanDicDiagnosticName(row.code)) + " " + std::to_string(row.place.line) +
                        ":" + std::to_string(row.place.column) + " " + row.element;
             if (!row.attribute.empty()) summary += " @" + row.attribute;
+            if (row.cause != 0) summary += " <- " + std::to_string(row.cause);
             summary += "\n";
         }
         return summary;
     }
 
     std::vector<Row> rows;
+    std::string documents;  ///< a line for each that was read
 
 private:
     bool _GoesOn;
+    bool _IsThorough;
 };
 
 class ReaderFixture : public DictionaryFixture {

@@ -178,7 +178,7 @@ TEST_F(ToolRingTest, ARingWhoseLastMemberFailsIsRefusedFromEachMember) {
 
         EXPECT_EQ(run.status, 1);
         EXPECT_EQ(LastLine(WithoutPlaces(run.err)),
-                  "zandic: own/M4.metadata:1:77: error: attribute Name of Class \"\" is missing");
+                  "zandic: own/M4.metadata:1:77: error: attribute Name of Class is missing");
     }
 }
 

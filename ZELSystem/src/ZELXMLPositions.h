@@ -11,7 +11,7 @@
 /// Lines and columns of a text, worked out when they are asked for.
 ///
 /// Notes the place at every kStep bytes, as far as was asked for, and counts on from the nearest note:
-/// an answer costs kStep bytes of reading however long the lines are, once the notes are there.
+/// an answer costs kStep bytes of reading at most however long the lines are, once the notes are there.
 class ZELXMLPositions {
 public:
     /// \param text valid for as long as questions are asked, with a byte to read behind its end.
@@ -22,7 +22,7 @@ public:
     ZELVBTXMLPosition PositionOf(std::size_t offset);
 
 private:
-    static constexpr std::size_t kStep = 4096;
+    static constexpr std::size_t kStep = 1024;
 
     /// Line breaks before a byte, and characters since the last one.
     struct Place {
@@ -30,7 +30,10 @@ private:
         std::uint32_t characters = 0;
     };
 
+    static constexpr std::size_t kBlock = 16;
+
     Place Count(Place place, std::size_t begin, std::size_t end) const;
+    static void CountBlock(const char* bytes, Place& place);
 
     std::string_view text_;
     std::uint32_t markLength_;

@@ -39,6 +39,20 @@ constexpr OptionRow kStatsOptions[] = {
     kJsonOption,
 };
 constexpr OptionRow kListOptions[] = {kInOption, kJsonOption};
+constexpr OptionRow kCheckOptions[] = {
+    {"--all", "", "every document of every kind on the path", &Options::all},
+    {"--all-faults", "", "also the faults that only follow from others", &Options::allFaults},
+    {"--strict", "", "warnings fail the check as errors do", &Options::strict},
+    {"--format", "text|json|sarif|junit", "the form of the answer; text, if nothing is said",
+     &Options::format},
+    kJsonOption,
+    {"--baseline", "FILE", "accept the faults that the file records; only new ones count",
+     &Options::baseline},
+    {"--write-baseline", "FILE", "record today's faults in the file, and accept them",
+     &Options::writeBaseline},
+    {"--in", "NAME ...", "without a name: the packages to check", &Options::in},
+};
+constexpr OptionRow kExplainOptions[] = {kJsonOption};
 constexpr OptionRow kDumpOptions[] = {
     kInOption,
     {"--json", "", "the only form there is, and needed", &Options::json, true},
@@ -131,6 +145,26 @@ constexpr Command kCommands[] = {
      "root down, both included. Widest: own and inherited attributes. Referred to: by everything but "
      "redefinitions, primitives left out. Memory is what a load leaves on the heap.",
      RunStats},
+    {"check",
+     Group::Check,
+     "every fault in documents, at its place",
+     {"NAME", "packages, or files: what holds a separator or ends in a content word"},
+     kCheckOptions,
+     "Reads each document with its tuning document and writes a line for each fault, sorted by "
+     "place: FILE:LINE:COLUMN: error[CODE]: TEXT, with a note for whatever else takes part in it. "
+     "Errors are what makes a load fail, or costs a package its attribute blocks; warnings are what "
+     "a load accepts and its author would want to know. Nothing stays loaded. What a file needs is "
+     "looked for in its own directory, then on the path. The exit status is 1 when there are errors.\n"
+     "'zandic explain CODE' tells the rule.",
+     RunCheck,
+     WrongCheck},
+    {"explain",
+     Group::Check,
+     "what a fault's code means",
+     {"CODE", "codes of faults; without one, the list of all"},
+     kExplainOptions,
+     "Writes the rule in words, with an example that breaks it and one that keeps it.",
+     RunExplain},
     {"load", Group::Check, "load packages, and count what is in them", kPackages, kLoadOptions,
      "Writes one line for each package that got loaded, those that a NAME uses included: name, UUID, "
      "elements by kind, its own milliseconds. The last line is the total.",

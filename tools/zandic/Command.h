@@ -56,11 +56,16 @@ void RunBlocks(Session& session, const Options& options, Output& output);
 void RunDump(Session& session, const Options& options, Output& output);
 void RunSave(Session& session, const Options& options, Output& output);
 void RunExpress(Session& session, const Options& options, Output& output);
+void RunCheck(Session& session, const Options& options, Output& output);
+void RunExplain(Session& session, const Options& options, Output& output);
 void RunWhy(Session& session, const Options& options, Output& output);
 void RunGraph(Session& session, const Options& options, Output& output);
 void RunFmt(Session& session, const Options& options, Output& output);
 void RunCompletion(Session& session, const Options& options, Output& output);
 void RunHelp(Session& session, const Options& options, Output& output);
+
+/// \returns what is wrong with options of `check` that are right one by one.
+std::string_view WrongCheck(const Options& options);
 
 }  // namespace tool
 

@@ -22,6 +22,9 @@ public:
     /// \returns the file of a package; empty when none was noted.
     std::string_view FileOf(std::string_view package) const;
 
+    /// Keeps a document that was read already.
+    void Keep(std::string_view file, std::unique_ptr<ZELVBTXMLDocument> tree);
+
     /// \returns the document with the places of its elements; null when it cannot be read or is not well
     /// formed.
     const DocumentPlaces* Read(std::string_view file);
@@ -32,6 +35,8 @@ public:
 
 private:
     std::map<std::string, std::string, std::less<>> _FILES;  ///< by package
+    /// By file: those that are kept and were not asked for yet.
+    std::map<std::string, std::unique_ptr<ZELVBTXMLDocument>, std::less<>> _KEPT;
     std::map<std::string, std::unique_ptr<DocumentPlaces>, std::less<>>
         _DOCUMENTS;  ///< by file; null: unreadable
 };

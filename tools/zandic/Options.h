@@ -30,13 +30,20 @@ struct Options {
     bool attributes = false;                  ///< with the attributes of each class
     std::optional<int> top;                   ///< how many of a list
     bool noTimes = false;                     ///< nothing that is measured
-    std::optional<std::string> format;        ///< in which a picture is written
+    std::optional<std::string> format;        ///< of a picture, or of the answer of check
     std::optional<std::string> around;        ///< the class in the middle of a picture
     std::optional<int> maxBoxes;              ///< of a picture
     std::optional<int> maxRows;               ///< of a box
     bool check = false;                       ///< nothing is written
     bool json = false;
     bool quiet = false;
+
+    // check
+    bool all = false;                          ///< every document of the path
+    bool allFaults = false;                    ///< also what only follows from other faults
+    bool strict = false;                       ///< warnings count as errors do
+    std::optional<std::string> baseline;       ///< a file: faults that are accepted
+    std::optional<std::string> writeBaseline;  ///< the same, to be written
 
     bool Traces() const { return traceLevel.has_value() || traceMethods.has_value(); }
 };

@@ -54,14 +54,14 @@ constexpr Rule kRules[] = {
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       Persistent=\"Yes\"/>"},
     {"no-package-tag", Error, "a document has no Package tag",
-     "The root of a document is the tag Package, or the first of its children that\n"
-     "is one.",
+     "The root of a document is the tag Package, or the first of its children\n"
+     "that is one.",
      "== Parts.metadata\n"
      "<package Name=\"Parts\" Uuid=\"10000000-0000-0000-0000000000000001\"/>",
      "<Package Name=\"Parts\" Uuid=\"10000000-0000-0000-0000000000000001\"/>"},
     {"package-name-differs", Warning, "a document names its package otherwise than its file does",
-     "The package gets the name in the document. It is found under the name of the\n"
-     "file all the same, but nobody who reads the one expects the other.",
+     "The package gets the name in the document. It is found under the name of\n"
+     "the file all the same, but nobody who reads the one expects the other.",
      "<Package Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000001\"/>",
      "<Package Name=\"Parts\" Uuid=\"10000000-0000-0000-0000000000000001\"/>"},
     {"invalid-domain", Error, "a Domain is no domain",
@@ -75,9 +75,15 @@ constexpr Rule kRules[] = {
      "them, and this goes away. It is told by --all-faults.",
      "== Parts.metadata\n"
      "<Package Name=\"Parts\" Uuid=\"10000000-0000-0000-0000000000000001\"\n"
-     "         UseNames=\"People\"/>\n"
+     "         UseNames=\"People\">\n"
+     "  <Class Name=\"Buyer\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
+     "         SuperRef=\"20000000-0000-0000-0000000000000002\" Persistent=\"Yes\"/>\n"
+     "</Package>\n"
      "== People.metadata\n"
-     "<Package Name=\"People\"/>",
+     "<Package Name=\"People\">\n"
+     "  <Class Name=\"Person\" Uuid=\"20000000-0000-0000-0000000000000002\"\n"
+     "         Persistent=\"Yes\"/>\n"
+     "</Package>",
      "== Parts.metadata\n"
      "<Package Name=\"Parts\" Uuid=\"10000000-0000-0000-0000000000000001\"\n"
      "         UseNames=\"People\">\n"
@@ -120,8 +126,9 @@ constexpr Rule kRules[] = {
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       Persistent=\"Yes\"/>"},
     {"invalid-number", Warning, "a number is none, or does not fit",
-     "MaxLength, Lower, Upper and Value are signed decimal numbers of 32 bits. What\n"
-     "stands behind the digits is passed over, and what has no digits altogether.",
+     "MaxLength, Lower, Upper and Value are signed decimal numbers of 32 bits.\n"
+     "What stands behind the digits is passed over, and what has no digits\n"
+     "altogether.",
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       Persistent=\"Yes\">\n"
      "  <Simple Name=\"Label\" Uuid=\"10000000-0000-0000-0000000000000003\"\n"
@@ -146,8 +153,8 @@ constexpr Rule kRules[] = {
      "          Type=\"String\" CaseMode=\"Upper\"/>\n"
      "</Class>"},
     {"unknown-attribute", Warning, "a tag does not know an attribute",
-     "It is kept as a free attribute of the element, and saved with it. Where it is\n"
-     "meant for one that the tag knows, it has no effect.",
+     "It is kept as a free attribute of the element, and saved with it. Where it\n"
+     "is meant for one that the tag knows, it has no effect.",
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       Persistent=\"Yes\" Abstrakt=\"Yes\"/>",
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
@@ -164,8 +171,9 @@ constexpr Rule kRules[] = {
      "<Comment>Print was a command.</Comment>"},
     {"unsupported-tag", Error, "a tag is known and not supported",
      "The tags Implement and Security inside a class make its load fail, and so\n"
-     "does every other tag in a tuning document than Class, Extension, their blocks\n"
-     "and Comment. A Simple inside a mapping has no effect, which is a warning.",
+     "does every other tag in a tuning document than Class, Extension, their\n"
+     "blocks and Comment. A Simple inside a mapping has no effect, which is a\n"
+     "warning.",
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       Persistent=\"Yes\">\n"
      "  <Security Name=\"Open\" Uuid=\"10000000-0000-0000-0000000000000003\"/>\n"
@@ -193,8 +201,8 @@ constexpr Rule kRules[] = {
      "something that a program has made and that stands in the way.",
      "", ""},
     {"duplicate-name", Error, "two elements of one owner have the same name",
-     "Names are looked up in their owner: two elements of a package, two members of\n"
-     "a class, two enumerators of an enumeration need two names. The note says\n"
+     "Names are looked up in their owner: two elements of a package, two members\n"
+     "of a class, two enumerators of an enumeration need two names. The note says\n"
      "where the first one stands.",
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       Persistent=\"Yes\"/>\n"
@@ -217,8 +225,8 @@ constexpr Rule kRules[] = {
      "<Class Name=\"Tool\" Uuid=\"10000000-0000-0000-0000000000000003\"\n"
      "       Persistent=\"Yes\"/>"},
     {"reference-not-found", Error, "a reference points at nothing",
-     "No element that is loaded has the UUID. It has to stand in this package, or in\n"
-     "one that is loaded with it: name that in UseNames.",
+     "No element that is loaded has the UUID. It has to stand in this package, or\n"
+     "in one that is loaded with it: name that in UseNames.",
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       SuperRef=\"10000000-0000-0000-00000000000000FF\" Persistent=\"Yes\"/>",
      "<Class Name=\"Item\" Uuid=\"10000000-0000-0000-00000000000000FF\"\n"
@@ -226,9 +234,10 @@ constexpr Rule kRules[] = {
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       SuperRef=\"10000000-0000-0000-00000000000000FF\" Persistent=\"Yes\"/>"},
     {"reference-of-wrong-kind", Error, "a reference points at something of another kind",
-     "A SuperRef points at a class, the TargetRef of a Simple at an enumeration, that\n"
-     "of a relationship at a class, InverseOfRef at a relationship, CategoryRefs at\n"
-     "categories. The note says where the element stands that is meant.",
+     "A SuperRef points at a class, the TargetRef of a Simple at an enumeration,\n"
+     "that of a relationship at a class, InverseOfRef at a relationship,\n"
+     "CategoryRefs at categories. The note says where the element stands that is\n"
+     "meant.",
      "<Enum Name=\"Colour\" Uuid=\"10000000-0000-0000-0000000000000002\"/>\n"
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000003\"\n"
      "       SuperRef=\"10000000-0000-0000-0000000000000002\" Persistent=\"Yes\"/>",
@@ -269,9 +278,9 @@ constexpr Rule kRules[] = {
      "<Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       Persistent=\"Yes\"/>"},
     {"invalid-redefinition", Error, "a relationship does not redefine the inherited one",
-     "A relationship that has the name of an inherited one points at a class below\n"
-     "the target of that, or at the same class where it has no super class. The\n"
-     "note says where the inherited one stands.",
+     "A relationship that has the name of an inherited one points at a class\n"
+     "below the target of that, or at the same class where it has no super class.\n"
+     "The note says where the inherited one stands.",
      "<Class Name=\"Person\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
      "       Persistent=\"Yes\"/>\n"
      "<Class Name=\"Machine\" Uuid=\"10000000-0000-0000-0000000000000003\"\n"
@@ -301,10 +310,11 @@ constexpr Rule kRules[] = {
      "                TargetRef=\"10000000-0000-0000-0000000000000003\"/>\n"
      "</Class>"},
     {"invalid-block", Error, "an attribute block of a tuning document is at fault",
-     "A block is described once, holds attributes of its own class, each once, and\n"
-     "extends no block that leads back to it. Where the blocks of a class and of its\n"
-     "super classes are brought together, no attribute is in two of them, and a name\n"
-     "stands for one. A load goes on without the blocks of the package.",
+     "A block is described once, holds attributes of its own class, each once,\n"
+     "and extends no block that leads back to it. Where the blocks of a class and\n"
+     "of its super classes are brought together, no attribute is in two of them,\n"
+     "and a name stands for one. A load goes on without the blocks of the\n"
+     "package.",
      "== Parts.metadata\n"
      "<Package Name=\"Parts\" Uuid=\"10000000-0000-0000-0000000000000001\">\n"
      "  <Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\"\n"
@@ -317,8 +327,9 @@ constexpr Rule kRules[] = {
      "<Package Name=\"Parts\" Uuid=\"10000000-0000-0000-0000000000000001\">\n"
      "  <Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\">\n"
      "    <AttributeBlock Name=\"Shape\"\n"
-     "        Uuid=\"10000000-0000-0000-0000000000000004\" AttributeUuids=\n"
-     "        \"10000000-0000-0000-0000000000000003 10000000-0000-0000-0000000000000003\"/>\n"
+     "        Uuid=\"10000000-0000-0000-0000000000000004\"\n"
+     "        AttributeUuids=\"10000000-0000-0000-0000000000000003\n"
+     "                        10000000-0000-0000-0000000000000003\"/>\n"
      "  </Class>\n"
      "</Package>",
      "== Parts.metadata\n"
@@ -333,16 +344,16 @@ constexpr Rule kRules[] = {
      "<Package Name=\"Parts\" Uuid=\"10000000-0000-0000-0000000000000001\">\n"
      "  <Class Name=\"Part\" Uuid=\"10000000-0000-0000-0000000000000002\">\n"
      "    <AttributeBlock Name=\"Shape\"\n"
-     "        Uuid=\"10000000-0000-0000-0000000000000004\" AttributeUuids=\n"
-     "        \"10000000-0000-0000-0000000000000003\"/>\n"
+     "        Uuid=\"10000000-0000-0000-0000000000000004\"\n"
+     "        AttributeUuids=\"10000000-0000-0000-0000000000000003\"/>\n"
      "  </Class>\n"
      "</Package>"},
 
     // of the search for documents
     {"shadowed-document", Warning, "a document is never found behind another of its name",
      "Two directories of the path hold a document of the same name and kind. The\n"
-     "one in the directory that comes first is read, the other never: remove it or\n"
-     "rename it, or change the order of the path.",
+     "one in the directory that comes first is read, the other never: remove it\n"
+     "or rename it, or change the order of the path.",
      "== Parts.metadata\n"
      "<Package Name=\"Parts\" Uuid=\"10000000-0000-0000-0000000000000001\"/>\n"
      "== old/Parts.metadata\n"

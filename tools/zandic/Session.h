@@ -84,6 +84,9 @@ public:
     void Refuse(const Fault& fault) { Note(fault, ExitStatus::Refused); }
     void RejectUse(std::string subject, std::string text);
 
+    /// Makes the exit status at least as bad; whoever calls says why.
+    void Raise(ExitStatus status) { _Status = std::max(_Status, status); }
+
     /// Notes what the user should know though it was done.
     void Warn(std::string_view subject, std::string_view text);
 

@@ -4,9 +4,13 @@
 #define ZAN_DIC_DIAGNOSTIC_H
 
 #include <cstdint>
+#include <memory>
 #include <string_view>
 
+#include "ZELDbBinary.h"
 #include "ZanDicExport.h"
+
+class ZELVBTXMLDocument;
 
 /// How grave a fault is: an error makes the load fail, a warning does not. Faults of tuning documents are
 /// warnings: the package stays loaded, without what the document describes.
@@ -96,8 +100,35 @@ public:
     /// Worked out when asked for, which costs a walk over the document.
     virtual ZanDicPlace Place() const = 0;
 
+    /// The UUID of the other party and the name of its package, for finding it; empty where there is none.
+    virtual ZELDbBinary OtherUuid() const = 0;
+    virtual std::string_view OtherPackage() const = 0;
+
+    /// Number of this fault in its load, in the order of telling, from 1.
+    virtual int Number() const = 0;
+
+    /// Number of the fault without which this one would not be there; 0: it stands for itself.
+    virtual int Cause() const = 0;
+
 protected:
     ~ZanDicDiagnostic() = default;
+};
+
+/// How the reading of a document ended.
+enum class ZanDicReading : std::uint8_t {
+    Loaded,     ///< what it describes is there
+    Failed,     ///< it has an error, or needs a package that has one; nothing of it is there
+    NameTaken,  ///< another document has brought a package of that name: this one was not read any further
+};
+
+/// A document whose reading is over.
+struct ZanDicReadDocument {
+    std::string_view file;  ///< as it was opened
+    std::string_view
+        package;  ///< in it; of a document that cannot be read, the one that its file's name says
+    ZanDicReading end;
+    /// What the file holds, for whoever wants to keep it: it may be taken. Null when it is not well formed.
+    std::unique_ptr<ZELVBTXMLDocument>& tree;
 };
 
 /// Is told each fault once, whatever the trace level, in the order in which the reader finds them.
@@ -108,6 +139,16 @@ public:
     /// answer to a warning does not matter, but for one of a tuning document, which it ends the same way.
     /// Must not call the dictionary.
     virtual bool OnDiagnostic(const ZanDicDiagnostic& diagnostic) = 0;
+
+    /// Is told each document that was found, when its reading is over; before that come its faults.
+    virtual void OnDocument(ZanDicReadDocument /*document*/) {}
+
+    /// Whether it wants to know of a package what loading it alone would show, and of each fault what follows
+    /// from it. Then a reference to a package that is loaded and not used, directly or through others, finds
+    /// nothing; a reference to what was left out, and a package that needs one which failed, are told as
+    /// faults that have a cause, without a trace line; and the tuning document of a package that failed is
+    /// read.
+    virtual bool IsThorough() const { return false; }
 
 protected:
     ~ZanDicDiagnosticObserver() = default;

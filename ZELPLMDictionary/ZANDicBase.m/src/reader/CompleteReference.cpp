@@ -25,6 +25,27 @@ struct Whereabouts {
     ZanDicRef<OXMIDicPackage> package;
 };
 
+/// Why a setter refuses an object of the right kind, for people. The setters that are not here do so only for
+/// an object that is being taken out.
+struct Refusal {
+    std::string_view setter;
+    std::string_view why;
+};
+
+constexpr Refusal kRefusals[] = {
+    {"SetSuperClass", "it is the class itself or below it, or an extension above a class"},
+    {"SetSuperInterface", "it is the interface itself or below it"},
+    {"AddScope", "it is no class"},
+    {"AddElement", "the key has an attribute of that name already"},
+};
+
+std::string_view WhyRefused(std::string_view setter) {
+    for (const Refusal& refusal : kRefusals) {
+        if (refusal.setter == setter) return refusal.why;
+    }
+    return "the model does not allow it";
+}
+
 }  // namespace
 
 std::string ReferenceLine(const ReferenceSpot& spot, std::string_view reason) {
@@ -35,14 +56,20 @@ std::string ReferenceLine(const ReferenceSpot& spot, std::string_view reason) {
 Fault ReferenceFault(const ReferenceSpot& spot, ZanDicDiagnosticCode code, OXMIDicElementH* target) {
     Fault fault = FaultOf(spot.reading, code, spot.node);
     fault.attribute = spot.attribute;
-    if (target != nullptr) fault.otherParty = QualifiedName(*target);
+    if (target != nullptr) SetOther(fault, *target);
     return fault;
+}
+
+HRESULT ReportLeftOut(const ReferenceSpot& spot, std::string_view uuidText, int cause) {
+    Fault fault = ReferenceFault(spot, ZanDicDiagnosticCode::ReferenceNotFound, nullptr);
+    fault.detail = uuidText;
+    return spot.reading.faults.ReportConsequence(std::move(fault), cause);
 }
 
 HRESULT ReportSetterFailed(const ReferenceSpot& spot, OXMIDicElementH& target, std::string_view setter) {
     Fault fault = ReferenceFault(spot, ZanDicDiagnosticCode::ReferenceRefused, &target);
-    fault.detail = Joined({setter, text::kFailed});
-    fault.lines.push_back({spot.trace, ReferenceLine(spot, fault.detail)});
+    fault.detail = WhyRefused(setter);
+    fault.lines.push_back({spot.trace, ReferenceLine(spot, Joined({setter, text::kFailed}))});
     return spot.reading.faults.Report(fault);
 }
 

@@ -17,6 +17,7 @@ namespace complete {
 /// What a reference may point at: an interface that the object answers, and the types that it may have.
 /// Several kinds answer the same interfaces, so the type decides as well.
 struct TargetKind {
+    std::string_view word;  ///< for people
     std::string_view interfaceName;
     ZELInterfaceId interfaceId;
     std::span<const OXMDicTYPE> types;
@@ -41,16 +42,19 @@ inline constexpr OXMDicTYPE kRelationshipTypes[] = {OXMDicTYPE_Relationship};
 inline constexpr OXMDicTYPE kInterfaceTypes[] = {OXMDicTYPE_Interface};
 inline constexpr OXMDicTYPE kRBOClassTypes[] = {OXMDicTYPE_RBOClass};
 
-inline constexpr TargetKind kClassKind{"OXMIDicClass", IID_OXMIDicClass, kClassTypes};
-inline constexpr TargetKind kEnumKind{"OXMIDicEnum", IID_OXMIDicEnum, kEnumTypes};
-inline constexpr TargetKind kCategoryKind{"OXMIDicCategory", IID_OXMIDicCategory, kCategoryTypes};
-inline constexpr TargetKind kCommandKind{"OXMIDicCommand", IID_OXMIDicCommand, kCommandTypes};
-inline constexpr TargetKind kAttributeKind{"OXMIDicAttribute", IID_OXMIDicAttribute, kAttributeTypes};
-inline constexpr TargetKind kRelationshipKind{"OXMIDicRelationship", IID_OXMIDicRelationship,
+inline constexpr TargetKind kClassKind{"class", "OXMIDicClass", IID_OXMIDicClass, kClassTypes};
+inline constexpr TargetKind kEnumKind{"enumeration", "OXMIDicEnum", IID_OXMIDicEnum, kEnumTypes};
+inline constexpr TargetKind kCategoryKind{"category", "OXMIDicCategory", IID_OXMIDicCategory, kCategoryTypes};
+inline constexpr TargetKind kCommandKind{"command", "OXMIDicCommand", IID_OXMIDicCommand, kCommandTypes};
+inline constexpr TargetKind kAttributeKind{"attribute", "OXMIDicAttribute", IID_OXMIDicAttribute,
+                                           kAttributeTypes};
+inline constexpr TargetKind kRelationshipKind{"relationship", "OXMIDicRelationship", IID_OXMIDicRelationship,
                                               kRelationshipTypes};
-inline constexpr TargetKind kInterfaceKind{"OXMIDicInterface", IID_OXMIDicInterface, kInterfaceTypes};
-inline constexpr TargetKind kRBOClassKind{"OXMIDicRBOClass", IID_OXMIDicRBOClass, kRBOClassTypes};
-inline constexpr TargetKind kAnyKind{"OXMIDicElement", IID_OXMIDicElement, {}};
+inline constexpr TargetKind kInterfaceKind{"interface", "OXMIDicInterface", IID_OXMIDicInterface,
+                                           kInterfaceTypes};
+inline constexpr TargetKind kRBOClassKind{"RBO class", "OXMIDicRBOClass", IID_OXMIDicRBOClass,
+                                          kRBOClassTypes};
+inline constexpr TargetKind kAnyKind{"element", "OXMIDicElement", IID_OXMIDicElement, {}};
 
 /// One reference attribute of one tag, or one item of it.
 struct ReferenceSpot {
@@ -67,6 +71,10 @@ std::string ReferenceLine(const ReferenceSpot& spot, std::string_view reason);
 /// A failed reference as a fault, its lines apart.
 Fault ReferenceFault(const ReferenceSpot& spot, ZanDicDiagnosticCode code, OXMIDicElementH* target);
 
+/// Reports that a reference follows the object that it means into the fault of number \p cause.
+/// \returns E_FAIL.
+HRESULT ReportLeftOut(const ReferenceSpot& spot, std::string_view uuidText, int cause);
+
 /// Reports that a setter refused the target. \returns E_FAIL.
 HRESULT ReportSetterFailed(const ReferenceSpot& spot, OXMIDicElementH& target, std::string_view setter);
 
@@ -79,8 +87,8 @@ using AddLine = void (*)(Fault&, const ReferenceSpot&, std::string_view reason);
 void AddReferenceLine(Fault& fault, const ReferenceSpot& spot, std::string_view reason);
 
 /// Finds the object that a UUID of the document means, of the kind and in the domain that it must have.
-/// \param[out] target null when the object was left out after a fault of its own: no fault again.
-/// \returns S_OK; E_FAIL, reported.
+/// \returns S_OK; E_FAIL, reported: where the object was left out after a fault of its own, as what follows
+/// from that.
 template <class Face>
 HRESULT Resolve(const ReferenceSpot& spot, std::string_view uuidText, const TargetKind& kind,
                 ZanDicRef<Face>& target, AddLine addLine = AddReferenceLine) {
@@ -88,12 +96,13 @@ HRESULT Resolve(const ReferenceSpot& spot, std::string_view uuidText, const Targ
 
     Reading& reading = spot.reading;
     const ZELDbBinary uuid = UuidFromText(uuidText);
-    if (reading.leftOut.Has(uuid)) return S_OK;
     ZanDicRef<OXMIDicElementH> found;
-    if (Failed(reading.manager.Search(&uuid, found.Out())) || !found) {
-        if (reading.leftOut.MayHave(uuid)) return S_OK;
-        Fault fault = ReferenceFault(spot, ReferenceNotFound, nullptr);
-        fault.detail = uuidText;
+    const bool isFound = Succeeded(reading.manager.Search(&uuid, found.Out())) && found;
+    if (!isFound || (reading.isThorough && !reading.Reaches(*found))) {
+        if (const int cause = reading.CauseOf(uuid); cause != 0) return ReportLeftOut(spot, uuidText, cause);
+        Fault fault = ReferenceFault(spot, ReferenceNotFound, isFound ? found.Get() : nullptr);
+        fault.detail = isFound ? Joined({uuidText, " but ", fault.otherParty, ", whose package is not used"})
+                               : std::string(uuidText);
         addLine(fault, spot, Joined({text::kNoObject, uuidText}));
         return reading.faults.Report(fault);
     }
@@ -102,7 +111,11 @@ HRESULT Resolve(const ReferenceSpot& spot, std::string_view uuidText, const Targ
     found->GetType(&type);
     if (!kind.Admits(type) || Failed(found->QueryInterface(kind.interfaceId, target.OutVoid()))) {
         target.Reset();
+        if (const int cause = reading.leftOut.CauseOf(uuid); cause != 0) {
+            return ReportLeftOut(spot, uuidText, cause);
+        }
         Fault fault = ReferenceFault(spot, ReferenceOfWrongKind, found.Get());
+        fault.detail = kind.word;
         addLine(fault, spot, Joined({text::kQueryInterface, kind.interfaceName, text::kQueryFailed}));
         return reading.faults.Report(fault);
     }

@@ -15,6 +15,9 @@ struct ReasonRow {
 
 using enum ZanDicDiagnosticCode;
 
+/// The element in quotes, with a blank in front; nothing of one without a name.
+constexpr std::string_view kNamed = "named";
+
 constexpr ReasonRow kReasons[] = {
     {FileNotFound, "there is no document {detail}"},
     {InvalidFileExtension, "\"{detail}\" is no content word"},
@@ -26,23 +29,23 @@ constexpr ReasonRow kReasons[] = {
     {PrerequisiteFailed, "package \"{detail}\" of {attribute} is not loaded"},
     {PackageNotCreated, "package \"{element}\" could not be created"},
     {TuningFailed, "{detail}"},
-    {MissingAttribute, "attribute {attribute} of {tag} \"{element}\" is missing"},
+    {MissingAttribute, "attribute {attribute} of {tag}{named} is missing"},
     {InvalidValue, "\"{value}\" is no valid value of {attribute}"},
     {InvalidNumber, "\"{value}\" is no proper number; {detail}"},
     {UnknownWord, "\"{value}\" is no word of {attribute}; {detail}"},
     {UnknownAttribute, "{tag} has no attribute {attribute}; it is kept as a free attribute"},
-    {UnknownTag, "tag {tag} is unknown here; \"{element}\" is skipped"},
-    {DeprecatedTag, "tag {tag} of \"{element}\" is not supported any more"},
-    {UnsupportedTag, "tag {tag} of \"{element}\" is not supported"},
+    {UnknownTag, "tag {tag}{named} is unknown here and skipped"},
+    {DeprecatedTag, "tag {tag}{named} is not supported any more"},
+    {UnsupportedTag, "tag {tag}{named} is not supported"},
     {RepeatedAttribute,
      "attribute {attribute} of {tag} \"{element}\" is given more than once; the last one counts"},
-    {NotCreated, "{tag} \"{element}\" could not be created"},
+    {NotCreated, "{tag}{named} could not be created"},
     {DuplicateName, "the name of {tag} \"{element}\" is taken already"},
     {DuplicateUuid, "UUID {value} of {tag} \"{element}\" belongs to {other} already"},
     {ReferenceNotFound, "{attribute} of \"{element}\": no object has the UUID {detail}"},
-    {ReferenceOfWrongKind, "{attribute} of \"{element}\": {other} is not of the kind asked for"},
+    {ReferenceOfWrongKind, "{attribute} of \"{element}\": {other} is no {detail}"},
     {CrossDomainReference, "{attribute} of \"{element}\": {other} is in another domain"},
-    {ReferenceRefused, "{attribute} of \"{element}\": {other} is refused ({detail})"},
+    {ReferenceRefused, "{attribute} of \"{element}\": {other} is refused: {detail}"},
     {InvalidRedefinition, "\"{element}\" does not redefine what it inherits: {detail}"},
     {InvalidBlock, "attribute blocks of \"{element}\": {detail}"},
 };
@@ -79,8 +82,8 @@ std::string WholeLine(const FaultLine& line) {
 /// A fault as the observer sees it.
 class ReportedFault final : public ZanDicDiagnostic {
 public:
-    ReportedFault(const Fault& fault, const FaultDocument* document)
-        : _Fault(fault), _Document(document), _Reason(PlainReason(fault)) {
+    ReportedFault(const Fault& fault, const FaultDocument* document, int number)
+        : _Fault(fault), _Document(document), _Number(number), _Reason(PlainReason(fault)) {
         for (const FaultLine& line : fault.lines) {
             if (!_TraceText.empty()) _TraceText += '\n';
             _TraceText += WholeLine(line);
@@ -118,10 +121,15 @@ public:
             _Fault.attribute ? _Fault.attribute.Position() : _Fault.node.Position();
         return {position.line, position.column};
     }
+    ZELDbBinary OtherUuid() const override { return _Fault.otherUuid; }
+    std::string_view OtherPackage() const override { return _Fault.otherPackage; }
+    int Number() const override { return _Number; }
+    int Cause() const override { return _Fault.cause; }
 
 private:
     const Fault& _Fault;
     const FaultDocument* _Document;
+    int _Number;
     std::string _Reason;
     std::string _TraceText;
 };
@@ -134,7 +142,12 @@ std::string PlainReason(const Fault& fault) {
     for (std::size_t open = pattern.find('{'); open != std::string_view::npos; open = pattern.find('{')) {
         const std::size_t close = pattern.find('}', open);
         reason += pattern.substr(0, open);
-        reason += PartOf(fault, pattern.substr(open + 1, close - open - 1));
+        const std::string_view part = pattern.substr(open + 1, close - open - 1);
+        if (part != kNamed) {
+            reason += PartOf(fault, part);
+        } else if (!fault.element.empty()) {
+            reason.append(" \"").append(fault.element).append("\"");
+        }
         pattern.remove_prefix(close + 1);
     }
     reason += pattern;
@@ -146,7 +159,10 @@ HRESULT FaultReport::Report(const Fault& fault) {
     const bool isFailure = isError || fault.asksToGoOn;
     bool goesOn = false;
     if (ZanDicDiagnosticObserver* const observer = ZanDicGetDiagnosticObserver(); observer != nullptr) {
-        goesOn = observer->OnDiagnostic(ReportedFault(fault, _Document));
+        goesOn = observer->OnDiagnostic(ReportedFault(fault, _Document, ++*_LastNumber));
+        if (isFailure && _Document != nullptr && _Document->firstFailure == 0) {
+            _Document->firstFailure = fault.cause != 0 ? fault.cause : LastNumber();
+        }
     }
     const ZELLineSeverity severity = isError ? ZELLineSeverity::Error : ZELLineSeverity::Warning;
     for (const FaultLine& line : fault.lines) {
@@ -157,4 +173,10 @@ HRESULT FaultReport::Report(const Fault& fault) {
     if (!isFailure) return S_OK;
     if (!goesOn) _Stopped = true;
     return E_FAIL;
+}
+
+HRESULT FaultReport::ReportConsequence(Fault fault, int cause) {
+    if (!IsThorough()) return E_FAIL;
+    fault.cause = cause;
+    return Report(fault);
 }

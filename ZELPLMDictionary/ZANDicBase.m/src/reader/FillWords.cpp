@@ -46,7 +46,7 @@ HRESULT CheckIdentity(Reading& reading, const ZanDicTraceScope& trace, const ZEL
     if (!node.getAttribute(word::kUuid)) {
         reading.faults.GoesOn(ReportMissing(reading, trace, node, word::kUuid), result);
     }
-    if (Failed(result) && !reading.faults.IsStopped()) reading.leftOut.AddAll(node);
+    if (Failed(result)) LeaveOut(reading, node);
     return result;
 }
 

@@ -61,27 +61,27 @@ public:
         const ZanDicRef<OXMIDicClass> expected = TargetOf(*inherited);
         if (!expected) {
             if (is_Untargeted(*inherited)) return S_OK;
-            return Report(node, "the inherited attribute has no target class",
+            return Report(node, *inherited, "the inherited attribute has no target class",
                           {Joined({text::kNoTargetOf, name.View(), text::kRelationshipOf, text::kSuperClass,
                                    NameOfObject(_Super).View()})});
         }
         ZanDicRef<OXMIDicElement> own;
         if (Failed(_Class.GetClassElement(&name, own.Out())) || !own) {
             if (is_LeftOut(node)) return S_OK;
-            return Report(node, "the class has no such relationship",
+            return Report(node, *inherited, "the class has no such relationship",
                           {Joined({text::kNoRelationship, name.View(), text::kRelationshipFor,
                                    _ClassName.View(), text::kClass})});
         }
         const ZanDicRef<OXMIDicClass> target = TargetOf(*own);
         if (!target) {
             if (is_Untargeted(*own)) return S_OK;
-            return Report(node, "it has no target class",
+            return Report(node, *inherited, "it has no target class",
                           {Joined({text::kNoTargetOf, name.View(), text::kRelationshipOf, text::kCurrentClass,
                                    _ClassName.View()})});
         }
         const ZELString expectedName = NameOfObject(*expected);
         if (Passes(*target, expectedName)) return S_OK;
-        return ReportWrongTarget(node, NameOfObject(*target).View(), expectedName.View());
+        return ReportWrongTarget(node, *inherited, NameOfObject(*target).View(), expectedName.View());
     }
 
 private:
@@ -97,12 +97,12 @@ private:
         return !uuid || _Reading.leftOut.Has(UuidFromText(*uuid));
     }
 
-    HRESULT ReportWrongTarget(const ZELVBTXMLNode& node, std::string_view target,
+    HRESULT ReportWrongTarget(const ZELVBTXMLNode& node, OXMIDicElement& inherited, std::string_view target,
                               std::string_view expected) const {
         const std::string_view className = _ClassName.View();
         const std::string_view name = NameOf(node);
         return Report(
-            node, Joined({"target class ", target, " does not inherit from ", expected}),
+            node, inherited, Joined({"target class ", target, " does not inherit from ", expected}),
             {Joined({text::kInvalidReference, tag::kClass, "=", className, text::kAttributeIs, name}),
              Joined({text::kReferredClass, target, text::kDoesNotInherit, expected, ","}),
              Joined({text::kReferredOfSuper, className}),
@@ -110,11 +110,11 @@ private:
              Joined({text::kOrChange, target, " ", word::kSuperRef, text::kToInherit, expected})});
     }
 
-    HRESULT Report(const ZELVBTXMLNode& node, std::string detail,
+    HRESULT Report(const ZELVBTXMLNode& node, OXMIDicElement& inherited, std::string detail,
                    std::initializer_list<std::string> messages) const {
         Fault fault = FaultOf(_Reading, ZanDicDiagnosticCode::InvalidRedefinition, node);
         fault.attribute = node.getAttribute(word::kTargetRef);
-        fault.otherParty = QualifiedName(_Super);
+        SetOther(fault, inherited);
         fault.detail = std::move(detail);
         for (const std::string& message : messages) fault.lines.push_back({_Trace, message});
         return _Reading.faults.Report(fault);
@@ -140,12 +140,12 @@ HRESULT CheckClass(Reading& reading, const ElementNote& note) {
     const ZELVBTXMLNode node = reading.document.ElementAt(note.node);
     const ClassCheck check(reading, trace, note, *super);
     HRESULT result = S_OK;
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     // A failed check does not end the walk, whether or not anybody asked to go on.
     for (const ZELVBTXMLNode child : node.Children()) {
         if (child.getTag() != tag::kRelationship) continue;
         if (const HRESULT rc = check.CheckRelationship(child); Failed(rc)) result = rc;
     }
-    reading.owner = {};
+    reading.owners.pop_back();
     return trace.Exit(result);
 }

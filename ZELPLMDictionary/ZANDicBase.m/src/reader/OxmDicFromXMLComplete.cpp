@@ -70,7 +70,7 @@ HRESULT CompleteTarget(const ReferenceSpot& spot, Member& member) {
     if (spot.attribute && !isSet && !spot.reading.faults.IsStopped()) {
         ZELDbBinary uuid;
         member.GetUuid(&uuid);
-        spot.reading.untargeted.Add(uuid);
+        spot.reading.untargeted.Add(uuid, spot.reading.faults.LastNumber());
     }
     return rc;
 }
@@ -246,12 +246,12 @@ HRESULT CompleteClassPart(Reading& reading, const ZanDicTraceScope& trace, const
                          goesOn(CompleteCommands(spotAt(slot::kCommands), addCommand));
     if (!isWhole) return result;
 
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     for (std::size_t index = note.firstMember; index < note.endMember; ++index) {
         LookAhead(reading, index);
         if (!goesOn(CompleteMember(reading, reading.members[index]))) break;
     }
-    reading.owner = {};
+    reading.owners.pop_back();
     return result;
 }
 

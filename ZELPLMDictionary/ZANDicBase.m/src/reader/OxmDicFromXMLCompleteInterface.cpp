@@ -66,10 +66,12 @@ HRESULT CompleteMethod(Reading& reading, const ZanDicTraceScope& trace, const ZE
         return S_OK;
     }
     HRESULT result = S_OK;
+    reading.owners.push_back(NameOf(node));
     for (const ZELVBTXMLNode child : node.Children()) {
         if (child.getTag() != tag::kParameter) continue;
         if (!reading.faults.GoesOn(CompleteParameter(reading, trace, child, *method), result)) break;
     }
+    reading.owners.pop_back();
     return result;
 }
 
@@ -85,7 +87,7 @@ HRESULT CompleteInterface(Reading& reading, const ElementNote& note) {
     if (!reading.faults.GoesOn(CompleteSuper({reading, trace, node, &element, super}, element), result)) {
         return trace.Exit(result);
     }
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     for (const ZELVBTXMLNode child : node.Children()) {
         if (NameOf(child).empty() || !child.getAttribute(word::kUuid)) continue;
         if (child.getTag() != tag::kMethod) {
@@ -94,6 +96,6 @@ HRESULT CompleteInterface(Reading& reading, const ElementNote& note) {
         }
         if (!reading.faults.GoesOn(CompleteMethod(reading, trace, child, element), result)) break;
     }
-    reading.owner = {};
+    reading.owners.pop_back();
     return trace.Exit(result);
 }

@@ -80,6 +80,7 @@ public:
             if (row == nullptr) return result;
             level.trace.Exit(result);
             _LEVELS.pop_back();
+            _Reading.owners.pop_back();
             if (Failed(result)) tell_Failure(*row, result);
             note_Result(result);
         }
@@ -108,6 +109,7 @@ private:
         const auto first = static_cast<std::size_t>(&note - _Reading.objects.data()) + 1;
         _LEVELS.push_back({&row, trace, first, note.end});
         note_Result(row.complete({_Reading, trace, node, note.object.Get(), note.reference}));
+        _Reading.owners.push_back(NameOf(node));
     }
 
     /// The line of an object that the first pass could not make, and told then. Where its UUID is that of
@@ -159,8 +161,8 @@ HRESULT CompleteRBOMapping(Reading& reading, const ElementNote& note) {
         trace.Error(Joined({text::kReferenceIsMissing, word::kApplyToRBOClassRef}));
     }
     if (!reading.faults.GoesOn(rc, result)) return result;
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     reading.faults.GoesOn(ObjectWalk(reading, trace, note).Walk(), result);
-    reading.owner = {};
+    reading.owners.pop_back();
     return result;
 }

@@ -42,8 +42,8 @@ HRESULT CreateElement(const ElementTag& tag, Factory<Face> factory, ZanDicRef<Fa
     if (Succeeded(rc) && element) return S_OK;
 
     ZanDicRef<OXMIDicElement> other;
-    const bool isNameTaken = Succeeded(package.GetElement(&tag.name, other.Out()));
-    return ReportNotCreated(tag.reading, kTrace, tag.node, static_cast<bool>(element), isNameTaken,
+    package.GetElement(&tag.name, other.Out());
+    return ReportNotCreated(tag.reading, kTrace, tag.node, static_cast<bool>(element), other.Get(),
                             Joined({text::kCouldNotCreate, tag.node.getTag(), " ", tag.name.View()}));
 }
 
@@ -109,7 +109,7 @@ HRESULT RefuseDeprecated(const ElementTag& tag) {
     fault.lines.push_back({kTrace, Joined({text::kDeprecatedTag, tag.node.getTag(), "[", tag.name.View(),
                                            text::kNotSupportedAnyMore})});
     const HRESULT rc = tag.reading.faults.Report(fault);
-    if (!tag.reading.faults.IsStopped()) tag.reading.leftOut.AddAll(tag.node);
+    LeaveOut(tag.reading, tag.node);
     return rc;
 }
 
@@ -186,7 +186,7 @@ HRESULT ReadElement(Reading& reading, const ZELVBTXMLNode& node) {
         if (!reading.faults.GoesOn(reading.faults.Report(fault), result)) return result;
     }
     if (Failed(result)) {
-        reading.leftOut.AddAll(node);
+        LeaveOut(reading, node);
         return result;
     }
     if (row != nullptr) return row->read({reading, node, reading.texts.Text(name), UuidFromText(*uuid)});

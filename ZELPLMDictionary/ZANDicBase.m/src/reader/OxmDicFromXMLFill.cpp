@@ -228,15 +228,15 @@ HRESULT CreateMember(const MemberTag& tag,
     const HRESULT rc = (tag.owner.*factory)(&tag.name, &tag.uuid, member.Out());
     if (Succeeded(rc) && member) return S_OK;
 
-    bool isNameTaken = false;
+    ZanDicRef<OXMIDicUnique> unique;
+    ZanDicRef<OXMIDicElement> attribute;
     if constexpr (std::is_same_v<Face, OXMIDicUnique>) {
-        ZanDicRef<OXMIDicUnique> other;
-        isNameTaken = Succeeded(tag.owner.GetUnique(&tag.name, other.Out()));
+        tag.owner.GetUnique(&tag.name, unique.Out());
     } else {
-        ZanDicRef<OXMIDicElement> other;
-        isNameTaken = Succeeded(tag.owner.GetClassElement(&tag.name, other.Out()));
+        tag.owner.GetClassElement(&tag.name, attribute.Out());
     }
-    return ReportNotCreated(tag.reading, tag.trace, tag.node, static_cast<bool>(member), isNameTaken,
+    OXMIDicElementH* const namesake = unique ? unique.Get() : attribute.Get();
+    return ReportNotCreated(tag.reading, tag.trace, tag.node, static_cast<bool>(member), namesake,
                             Joined({text::kCouldNotCreateMember, tag.node.getTag(), " ", tag.name.View()}));
 }
 
@@ -265,7 +265,7 @@ HRESULT ReadInverse(const MemberTag& tag) {
     member->QueryInterface(IID_OXMIDicRelationship, relation.OutVoid());
     if (!relation) {
         return ReportNotCreated(
-            tag.reading, tag.trace, tag.node, false, false,
+            tag.reading, tag.trace, tag.node, false, nullptr,
             Joined({text::kCouldNotCreateMember, tag.node.getTag(), " ", tag.name.View()}));
     }
     const HRESULT rc = FillRelation(tag.reading, tag.node, *relation);
@@ -396,8 +396,8 @@ HRESULT FillEnumeratorOf(Reading& reading, const ZanDicTraceScope& trace, const 
     ZanDicRef<OXMIDicEnumerator> enumerator;
     if (Failed(owner.CreateEnumerator(&name, &identity.uuid, enumerator.Out())) || !enumerator) {
         ZanDicRef<OXMIDicEnumerator> other;
-        return ReportNotCreated(reading, trace, node, static_cast<bool>(enumerator),
-                                Succeeded(owner.GetEnumerator(&name, other.Out())),
+        owner.GetEnumerator(&name, other.Out());
+        return ReportNotCreated(reading, trace, node, static_cast<bool>(enumerator), other.Get(),
                                 Joined({text::kCouldNotCreateMember, node.getTag(), " ", name.View()}));
     }
     return FillPlain<kEnumeratorWords>(reading, text::kFillEnumerator, node, *enumerator);
@@ -418,14 +418,14 @@ HRESULT FillClass(Reading& reading, const ZELVBTXMLNode& node, OXMIDicClass& ele
 
     note.references = reading.references;
     note.firstMember = reading.members.size();
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     ZanDicExpectMembers(element, node.Children().Count());
     Identities children(node);
     while (const Identity* const child = children.Next()) {
         if (!reading.faults.GoesOn(FillMember(reading, trace, *child, element), result)) break;
         note.hasRelationships = note.hasRelationships || IsWord<tag::kRelationship>(child->node.getTag());
     }
-    reading.owner = {};
+    reading.owners.pop_back();
     note.endMember = reading.members.size();
     return trace.Exit(result);
 }
@@ -437,13 +437,13 @@ HRESULT FillEnum(Reading& reading, const ZELVBTXMLNode& node, OXMIDicEnum& eleme
     if (!reading.faults.GoesOn(FillAttributes<kEnumWords>(reading, trace, node, element), result)) {
         return trace.Exit(result);
     }
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     ZanDicExpectMembers(element, node.Children().Count());
     Identities children(node);
     while (const Identity* const child = children.Next()) {
         if (!reading.faults.GoesOn(FillEnumeratorOf(reading, trace, *child, element), result)) break;
     }
-    reading.owner = {};
+    reading.owners.pop_back();
     return trace.Exit(result);
 }
 

@@ -61,7 +61,7 @@ HRESULT CheckMemberIdentity(Reading& reading, const ZanDicTraceScope& trace, con
         fault.lines.push_back({trace, Joined({text::kExitOf, node.getTag(), text::kNoAttribute, attribute})});
         if (!reading.faults.GoesOn(reading.faults.Report(fault), result)) return result;
     }
-    if (Failed(result)) reading.leftOut.AddAll(node);
+    if (Failed(result)) LeaveOut(reading, node);
     return result;
 }
 
@@ -75,8 +75,8 @@ HRESULT CreateMember(Reading& reading, const ZanDicTraceScope& trace, const ZELV
     const HRESULT rc = (owner.*factory)(&name, &uuid, member.Out());
     if (Succeeded(rc) && member) return S_OK;
     ZanDicRef<Face> other;
-    return ReportNotCreated(reading, trace, node, static_cast<bool>(member),
-                            Succeeded((owner.*find)(&name, other.Out())),
+    (owner.*find)(&name, other.Out());
+    return ReportNotCreated(reading, trace, node, static_cast<bool>(member), other.Get(),
                             Joined({text::kNotCreated, name.View(), text::kNotCreatedEnd}));
 }
 
@@ -104,6 +104,7 @@ HRESULT FillMethod(Reading& reading, const ZELVBTXMLNode& node, OXMIDicMethod& m
     const HRESULT rc = FillAttributes<kMethodWords>(reading, trace, node, method, kInterfaceLoop);
     if (!reading.faults.GoesOn(rc, result)) return trace.Exit(result);
 
+    reading.owners.push_back(NameOf(node));
     reading.faults.GoesOn(
         FillMembers(reading, trace, node, tag::kParameter,
                     [&](const ZELVBTXMLNode& child) {
@@ -116,6 +117,7 @@ HRESULT FillMethod(Reading& reading, const ZELVBTXMLNode& node, OXMIDicMethod& m
                                                                          *parameter, kInterfaceLoop);
                     }),
         result);
+    reading.owners.pop_back();
     return trace.Exit(result);
 }
 
@@ -131,7 +133,7 @@ HRESULT FillInterface(Reading& reading, const ZELVBTXMLNode& node, OXMIDicInterf
     note.references = reading.references;
     if (!reading.faults.GoesOn(rc, result)) return trace.Exit(result);
 
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     reading.faults.GoesOn(FillMembers(reading, trace, node, tag::kMethod,
                                       [&](const ZELVBTXMLNode& child) {
                                           ZanDicRef<OXMIDicMethod> method;
@@ -141,6 +143,6 @@ HRESULT FillInterface(Reading& reading, const ZELVBTXMLNode& node, OXMIDicInterf
                                           return Failed(made) ? made : FillMethod(reading, child, *method);
                                       }),
                           result);
-    reading.owner = {};
+    reading.owners.pop_back();
     return trace.Exit(result);
 }

@@ -97,20 +97,20 @@ ZanDicRef<OXMIDicElement> Make(const ObjectTag& tag) {
     return ZanDicRef<OXMIDicElement>(made.Detach());
 }
 
-/// Whether an owner has a child of that name.
+/// \returns the child of that name of an owner; null when there is none.
 template <class Owner>
-bool HasChild(const ObjectTag& tag) {
+ZanDicRef<OXMIDicElement> FindChild(const ObjectTag& tag) {
     ZELListPtrIUnknown children;
     static_cast<Owner&>(tag.owner).GetElements(&children);
-    bool isThere = false;
+    ZanDicRef<OXMIDicElement> found;
     for (int position = 1; position <= children.Size(); ++position) {
         ZanDicRef<IUnknown> face(children[position]);
         ZanDicRef<OXMIDicElement> child;
         ZELString name;
         face->QueryInterface(IID_OXMIDicElement, child.OutVoid());
-        isThere = isThere || (child && Succeeded(child->GetName(&name)) && name == tag.name);
+        if (!found && child && Succeeded(child->GetName(&name)) && name == tag.name) found = std::move(child);
     }
-    return isThere;
+    return found;
 }
 
 template <const auto& Words, class Face>
@@ -126,21 +126,21 @@ struct ObjectRow {
     OXMDicTYPE type;
     std::string_view operation;
     ZanDicRef<OXMIDicElement> (*make)(const ObjectTag&);
-    bool (*isTaken)(const ObjectTag&);  ///< null where names do not matter
+    ZanDicRef<OXMIDicElement> (*find)(const ObjectTag&);  ///< null where names do not matter
     HRESULT (*fill)(Reading&, const ZanDicTraceScope&, const ZELVBTXMLNode&, OXMIDicElement&);
     std::string_view mandatoryReference = {};
 };
 
 constexpr ObjectRow kObjectRows[] = {
     {OXMDicTYPE_RBOMapping, tag::kRBORoot, OXMDicTYPE_RBORoot, text::kFillRBORoot,
-     Make<OXMIDicRBOMapping, OXMIDicRBORoot, &OXMIDicRBOMapping::CreateRBORoot>, HasChild<OXMIDicRBOMapping>,
+     Make<OXMIDicRBOMapping, OXMIDicRBORoot, &OXMIDicRBOMapping::CreateRBORoot>, FindChild<OXMIDicRBOMapping>,
      FillObject<kRBORootWords, OXMIDicRBORoot>},
     {OXMDicTYPE_RBORoot, tag::kRBOComponent, OXMDicTYPE_RBOComponent, text::kFillRBOComponent,
-     Make<OXMIDicRBORoot, OXMIDicRBOComponent, &OXMIDicRBORoot::CreateRBOComponent>, HasChild<OXMIDicRBORoot>,
-     FillObject<kRBOComponentWords, OXMIDicRBOComponent>},
+     Make<OXMIDicRBORoot, OXMIDicRBOComponent, &OXMIDicRBORoot::CreateRBOComponent>,
+     FindChild<OXMIDicRBORoot>, FillObject<kRBOComponentWords, OXMIDicRBOComponent>},
     {OXMDicTYPE_RBOComponent, tag::kRBOComponent, OXMDicTYPE_RBOComponent, text::kFillRBOComponent,
      Make<OXMIDicRBOComponent, OXMIDicRBOComponent, &OXMIDicRBOComponent::CreateRBOComponent>,
-     HasChild<OXMIDicRBOComponent>, FillObject<kRBOComponentWords, OXMIDicRBOComponent>},
+     FindChild<OXMIDicRBOComponent>, FillObject<kRBOComponentWords, OXMIDicRBOComponent>},
     {OXMDicTYPE_RBOComponent, tag::kRBOPathExpression, OXMDicTYPE_RBOPathExpression,
      text::kFillRBOPathExpression,
      Make<OXMIDicRBOComponent, OXMIDicRBOPathExpression, &OXMIDicRBOComponent::CreateRBOPathExpression>,
@@ -155,20 +155,22 @@ const ObjectRow* FindObjectRow(OXMDicTYPE ownerType, std::string_view tagName) {
 }
 
 HRESULT ReportObjectNotCreated(Reading& reading, const ZanDicTraceScope& trace, const ObjectTag& tag,
-                               bool isNameTaken) {
+                               OXMIDicElement* namesake) {
     using enum ZanDicDiagnosticCode;
     ZanDicRef<OXMIDicElementH> registered;
-    Fault fault = FaultOf(reading, isNameTaken ? DuplicateName : NotCreated, tag.node);
-    if (isNameTaken) fault.attribute = tag.node.getAttribute(word::kName);
-    if (!isNameTaken && Succeeded(reading.manager.Search(&tag.uuid, registered.Out()))) {
+    Fault fault = FaultOf(reading, namesake != nullptr ? DuplicateName : NotCreated, tag.node);
+    if (namesake != nullptr) {
+        fault.attribute = tag.node.getAttribute(word::kName);
+        SetOther(fault, *namesake);
+    } else if (Succeeded(reading.manager.Search(&tag.uuid, registered.Out()))) {
         fault.code = DuplicateUuid;
         fault.attribute = tag.node.getAttribute(word::kUuid);
-        fault.otherParty = QualifiedName(*registered);
+        SetOther(fault, *registered);
     }
     fault.lines.push_back(
         {trace, Joined({text::kErrorCreating, tag.node.getTag(), text::kColon, tag.name.View()})});
     const HRESULT rc = reading.faults.Report(fault);
-    if (!reading.faults.IsStopped()) reading.leftOut.AddAll(tag.node);
+    LeaveOut(reading, tag.node);
     return rc;
 }
 
@@ -221,6 +223,7 @@ public:
             _Reading.objects[level.note].end = _Reading.objects.size();
             level.trace.Exit(result);
             _LEVELS.pop_back();
+            _Reading.owners.pop_back();
             note_Result(result);
         }
     }
@@ -256,8 +259,9 @@ private:
         ZanDicRef<OXMIDicElement> object = row->make(tag);
         _Reading.objects.push_back({row->type, node.Index(), _Reading.objects.size() + 1});
         if (!object) {
-            const bool isNameTaken = row->isTaken != nullptr && row->isTaken(tag);
-            return ReportObjectNotCreated(_Reading, level.trace, tag, isNameTaken);
+            const ZanDicRef<OXMIDicElement> namesake =
+                row->find != nullptr ? row->find(tag) : ZanDicRef<OXMIDicElement>();
+            return ReportObjectNotCreated(_Reading, level.trace, tag, namesake.Get());
         }
         _Reading.objects.back().object = std::move(object);
         return enter(*row, node);
@@ -278,6 +282,7 @@ private:
         }
         _LEVELS.push_back({node, node.getFirstNodePosition(), row.type, note.object.Get(), trace,
                            _Reading.objects.size() - 1, result, !goesOn});
+        _Reading.owners.push_back(NameOf(node));
         return S_OK;
     }
 
@@ -293,9 +298,9 @@ HRESULT FillRBOClass(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRBOClas
     HRESULT result = S_OK;
     const HRESULT rc = FillAttributes<kRBOClassWords>(reading, trace, node, element, kRBOClassLoop);
     if (!reading.faults.GoesOn(rc, result)) return trace.Exit(result);
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     for (const ZELVBTXMLNode child : node.Children()) PassOver(reading, trace, child);
-    reading.owner = {};
+    reading.owners.pop_back();
     return trace.Exit(result);
 }
 
@@ -315,9 +320,9 @@ HRESULT FillRBOMapping(Reading& reading, const ZELVBTXMLNode& node, OXMIDicRBOMa
                                result)) {
         return trace.Exit(result);
     }
-    reading.owner = NameOf(node);
+    reading.owners.push_back(NameOf(node));
     reading.faults.GoesOn(ObjectWalk(reading, trace, node, element).Walk(), result);
-    reading.owner = {};
+    reading.owners.pop_back();
     note.endMember = reading.objects.size();
     return trace.Exit(result);
 }

@@ -88,10 +88,41 @@ void PackageLoad::Deliver(const PackageLoad& inner) {
     }
     Resume();
     Join(inner);
+    SetUnknownCause(inner.UnknownCause());
     if (Failed(rc)) {
         _Result = rc;
         _FAILED.push_back(ZELString(BeforeFirstDot(_Needed.name.View())));
+        // What keeps a document from being found is told where it is asked for.
+        if ((inner._IsFound || inner._IsKnownToFail) && inner.FirstFailure() != 0) {
+            tell_Failed(_Needed.attribute.Name(), _Needed.name.View(), inner.FirstFailure());
+        }
+        if (_Place.firstFailure == 0) _Place.firstFailure = inner.FirstFailure();
     }
+}
+
+void PackageLoad::SetUnknownCause(int cause) {
+    if (_UnknownCause == 0) _UnknownCause = cause;
+    if (_Reading) _Reading->unknownCause = _UnknownCause;
+}
+
+/// Tells that a package that this one needs failed: a consequence.
+void PackageLoad::tell_Failed(std::string_view attributeName, std::string_view name, int cause) {
+    Fault fault = package_Fault(PrerequisiteFailed);
+    fault.attribute = _Node.getAttribute(attributeName);
+    fault.otherParty = name;
+    fault.detail = name;
+    _Run.faults.ReportConsequence(std::move(fault), cause);
+}
+
+/// Tells the observer how the reading of the package's document, or its tuning document, ended.
+void PackageLoad::tell_Document(const std::string& file, HRESULT rc,
+                                std::unique_ptr<ZELVBTXMLDocument>& tree) const {
+    ZanDicDiagnosticObserver* const observer = ZanDicGetDiagnosticObserver();
+    if (observer == nullptr || file.empty()) return;
+    const ZanDicReading end = Failed(rc)     ? ZanDicReading::Failed
+                              : _IsNameTaken ? ZanDicReading::NameTaken
+                                             : ZanDicReading::Loaded;
+    observer->OnDocument({file, _Place.package, end, tree});
 }
 
 void PackageLoad::Pause() {
@@ -115,8 +146,22 @@ PackageLoad::StepResult PackageLoad::open_Document() {
 
     if (!split_Name() || is_ThereAlready(_AskedName)) return StepResult::Finished;
     enter_Name(_AskedName);
-    if (!find_Document() || !parse_Document() || !find_PackageNode()) return StepResult::Finished;
+    if (!find_Document() || find_Failure()) return StepResult::Finished;
+    _IsFound = true;
+    if (!parse_Document() || !find_PackageNode()) return StepResult::Finished;
     return StepResult::Next;
+}
+
+/// Whether the document was read in this run and failed, and somebody asked to go on.
+bool PackageLoad::find_Failure() {
+    if (_Run.failed.empty()) return false;
+    const auto known = _Run.failed.find(_Place.file);
+    if (known == _Run.failed.end()) return false;
+    _Result = E_FAIL;
+    _IsKnownToFail = true;
+    _Place.firstFailure = known->second.cause;
+    _UnknownCause = known->second.unknownCause;
+    return true;
 }
 
 Fault PackageLoad::package_Fault(ZanDicDiagnosticCode code) const {
@@ -222,7 +267,10 @@ PackageLoad::StepResult PackageLoad::read_Identity() {
     if (_Run.faults.IsStopped()) return StepResult::Finished;
 
     if (_Name != _AskedName) {
-        if (is_ThereAlready(_Name)) return StepResult::Finished;
+        if (is_ThereAlready(_Name)) {
+            _IsNameTaken = true;
+            return StepResult::Finished;
+        }
         enter_Name(_Name);
     }
     _NAMES = read_Names(word::kUseNames, false);
@@ -325,6 +373,8 @@ PackageLoad::StepResult PackageLoad::load_UsedPackages() {
 PackageLoad::StepResult PackageLoad::create_Package() {
     _Reading =
         std::make_unique<Reading>(_Run.manager, _Run.faults, _Run.leftOut, _Run.untargeted, *_Document);
+    _Reading->unknownCause = _UnknownCause;
+    _Reading->isThorough = FaultReport::IsThorough();
     ZanDicExpectObjects(static_cast<int>(_Document->ElementCount()));
     const HRESULT rc = _Run.manager.CreatePackage(&_Name, &_Uuid, &_Domain, _Reading->package.Out());
     if (Succeeded(rc) && _Reading->package) {
@@ -339,7 +389,7 @@ PackageLoad::StepResult PackageLoad::create_Package() {
     if (Succeeded(_Run.manager.Search(&_Uuid, registered.Out()))) {
         fault.code = DuplicateUuid;
         fault.attribute = _Node.getAttribute(word::kUuid);
-        fault.otherParty = QualifiedName(*registered);
+        SetOther(fault, *registered);
     }
     fault.lines.push_back({kTrace, std::string(text::kCreatePackageFailed)});
     goes_On(_Run.faults.Report(fault));
@@ -437,16 +487,24 @@ PackageLoad::StepResult PackageLoad::check_Classes() {
 
 // The end.
 
-void PackageLoad::Fail() {
+void PackageLoad::Fail(int cause) {
     _Result = E_FAIL;
     _Run.faults.Enter(_Place);
     Resume();
+    if (IsCreated() && FaultReport::IsThorough() && !_Run.faults.IsStopped()) {
+        TuningReading tuning(_Run.manager, _Name, _Run.dirNames, *_Reading->package, &_Run);
+        tuning.Read();
+        tell_Document(tuning.File(), E_FAIL, tuning.Tree());
+        _Run.faults.Enter(_Place);
+    }
+    if (_Place.firstFailure == 0) _Place.firstFailure = cause;
     remove_Package();
     Finish();
 }
 
 void PackageLoad::Finish() {
     Resume();
+    if (_IsFound) tell_Document(_Place.file, _Result, _Document);
     _Document.reset();
     if (IsCreated()) kTrace.Say(TraceLevel::Information, text::kReleasing);
     _Reading.reset();
@@ -460,10 +518,11 @@ void PackageLoad::Finish() {
 void PackageLoad::remove_Package() {
     if (!_Run.faults.IsStopped()) {
         if (_Node) {
-            _Run.leftOut.AddAll(_Node);
-        } else {
-            _Run.leftOut.AddUnknown();
+            _Run.leftOut.AddAll(_Node, FirstFailure());
+        } else if (_UnknownCause == 0 && !_IsKnownToFail) {
+            _UnknownCause = FirstFailure();
         }
+        if (_IsFound) _Run.failed.try_emplace(_Place.file, LoadRun::Failure{FirstFailure(), _UnknownCause});
     }
     if (!IsCreated()) return;
     _Reading->elements.clear();
@@ -480,7 +539,7 @@ void PackageLoad::ReadTuning() {
     Resume();
     const ZanDicTrace::DocumentScope document;
     if (auto line = kTrace.Line(TraceLevel::Information)) line << text::kCallingTuning << _Name << ")...";
-    _Tuning = std::make_unique<TuningReading>(_Run.manager, _Name, _Run.dirNames, *_Reading->package);
+    _Tuning = std::make_unique<TuningReading>(_Run.manager, _Name, _Run.dirNames, *_Reading->package, &_Run);
     _Tuning->Read();
 }
 
@@ -493,12 +552,14 @@ void PackageLoad::EndTuning() {
     if (auto line = kTrace.Line(TraceLevel::Information)) {
         line << text::kTuningResult << _Name << ")]=" << ZanDicTraceScope::Word(rc);
     }
+    tell_Document(tuning->File(), rc, tuning->Tree());
     if (Succeeded(rc)) return;
     Fault fault{TuningFailed};
     fault.severity = ZanDicSeverity::Warning;
     fault.element = _Name.View();
     fault.file = tuning->File();
     fault.detail = "the tuning document is at fault; the package is loaded without its attribute blocks";
+    fault.cause = tuning->FirstFailure();
     fault.lines.push_back({kTrace, Joined({text::kTuningWarning, _Name.View(), ")", text::kFailed})});
     _Run.faults.Report(fault);
 }

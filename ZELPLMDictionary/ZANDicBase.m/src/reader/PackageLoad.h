@@ -29,6 +29,13 @@ struct LoadRun {
     FaultReport faults = {};
     LeftOut leftOut = {};
     LeftOut untargeted = {};  ///< attributes whose target was at fault
+    /// What is known of packages that failed, by file: when observers ask to go on, another package may need
+    /// one again, which is not read a second time.
+    struct Failure {
+        int cause;
+        int unknownCause;
+    };
+    std::unordered_map<std::string, Failure> failed = {};
     /// The loads that are not over, by the name asked for and by the document's own.
     std::unordered_map<std::string, PackageLoad*> inProgress = {};
     /// Those of them that made their package, in order of creation.
@@ -99,6 +106,11 @@ public:
     std::size_t FirstMember() const { return _FirstMember; }
     /// S_OK unless something failed so far.
     HRESULT Result() const { return _Result; }
+    /// Number of the fault that failed it, directly or through what it needs; 0: none was told.
+    int FirstFailure() const { return _Place.firstFailure; }
+    /// Number of the fault for which it is not known what a package that it needs has; 0: none.
+    int UnknownCause() const { return _UnknownCause; }
+    void SetUnknownCause(int cause);
 
     /// Closes and opens the phase told to a profiler.
     void Pause();
@@ -111,7 +123,8 @@ public:
     void EndTuning();
     void Finish();
     /// The end of one that did not: takes the package out.
-    void Fail();
+    /// \param cause number of the fault that failed its ring, if it has none itself.
+    void Fail(int cause = 0);
 
 private:
     enum class StepResult { Next, Waits, NeedsPackage, Finished };
@@ -150,6 +163,9 @@ private:
     void remove_Package();
     ZanDicRef<OXMIDicPackage> loaded_Package(const ZELString& name) const;
     bool is_ThereAlready(const ZELString& name);
+    bool find_Failure();
+    void tell_Failed(std::string_view attributeName, std::string_view name, int cause);
+    void tell_Document(const std::string& file, HRESULT rc, std::unique_ptr<ZELVBTXMLDocument>& tree) const;
     void enter_Name(const ZELString& name);
     void leave_Names();
 
@@ -182,7 +198,11 @@ private:
     std::size_t _Step = 0;
     bool _IsEnded = false;  ///< no further step is run
     bool _IsOver = false;
-    bool _IsMet = false;            ///< the package turned out to be in progress
+    bool _IsMet = false;          ///< the package turned out to be in progress
+    bool _IsNameTaken = false;    ///< it is there already, from another document
+    bool _IsFound = false;        ///< there is a document, which this load read
+    bool _IsKnownToFail = false;  ///< it was read before
+    int _UnknownCause = 0;
     bool _IsRunning = false;        ///< its phase is open
     bool _HasUsedPackages = false;  ///< they are noted
     bool _IsScopeOpen = false;      ///< the last scope package that was loaded is not noted yet

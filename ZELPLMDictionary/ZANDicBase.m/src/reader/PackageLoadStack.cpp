@@ -58,6 +58,7 @@ bool PackageLoadStack::choose_Member(Call& call) {
         std::size_t& next = call.next[static_cast<std::size_t>(phase)];
         while (next < _Run.created.size() && _Run.created[next]->HasReached(phase)) ++next;
         if (next == _Run.created.size()) continue;
+        if (phase == LoadPhase::Completed && next == call.load->FirstMember()) share_Unknown(next);
         if (call.current != _Run.created[next]) call.current->Pause();
         call.current = _Run.created[next];
         call.phase = phase;
@@ -110,12 +111,27 @@ void PackageLoadStack::finish_Ring(const PackageLoad& load, std::size_t firstMem
 
 /// Takes the members out, the one created last first.
 void PackageLoadStack::fail_Ring(std::size_t firstMember, std::size_t order) {
+    int cause = 0;
+    for (std::size_t index = firstMember; index < _Run.created.size() && cause == 0; ++index) {
+        cause = _Run.created[index]->FirstFailure();
+    }
     while (_Run.created.size() > firstMember) {
         PackageLoad* const member = _Run.created.back();
         _Run.created.pop_back();
-        member->Fail();
+        member->Fail(cause);
     }
     for (std::size_t index = _LOADS.size(); index > order; --index) {
-        if (!_LOADS[index - 1]->IsOver()) _LOADS[index - 1]->Fail();
+        if (!_LOADS[index - 1]->IsOver()) _LOADS[index - 1]->Fail(cause);
+    }
+}
+
+/// Each member of a ring needs what any of them needs.
+void PackageLoadStack::share_Unknown(std::size_t firstMember) {
+    int cause = 0;
+    for (std::size_t index = firstMember; index < _Run.created.size() && cause == 0; ++index) {
+        cause = _Run.created[index]->UnknownCause();
+    }
+    for (std::size_t index = firstMember; cause != 0 && index < _Run.created.size(); ++index) {
+        _Run.created[index]->SetUnknownCause(cause);
     }
 }

@@ -43,6 +43,7 @@ private:
     void end_Call(const Call& call);
     void finish_Ring(const PackageLoad& load, std::size_t firstMember);
     void fail_Ring(std::size_t firstMember, std::size_t order);
+    void share_Unknown(std::size_t firstMember);
 
     LoadRun& _Run;
     std::vector<std::unique_ptr<PackageLoad>> _LOADS;  ///< in progress, in the order in which they began

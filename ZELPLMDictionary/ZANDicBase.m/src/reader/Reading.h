@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -23,28 +24,33 @@
 /// \returns "Package::Class::attribute" as far as the object has these.
 std::string QualifiedName(OXMIDicElementH& object);
 
-/// The UUIDs that a load which goes on after faults could not give to an element. References to them
-/// are passed over: the fault is told already. One for a whole load, prerequisites included.
+/// Makes \p object the other party of a fault.
+void SetOther(Fault& fault, OXMIDicElementH& object);
+
+struct UuidHash {
+    std::size_t operator()(const ZELDbBinary& uuid) const { return uuid.ComputeHashKey(); }
+};
+
+/// The UUIDs that a load which goes on after faults could not give to an element, each with the number of the
+/// fault. References to them follow from that. One for a whole load, prerequisites included.
 class LeftOut {
 public:
-    void Add(const ZELDbBinary& uuid) { _UUIDS.insert(uuid); }
+    void Add(const ZELDbBinary& uuid, int cause) { _UUIDS.try_emplace(uuid, cause); }
 
     /// Adds the UUIDs of a tag and of all tags inside it.
-    void AddAll(const ZELVBTXMLNode& node);
-
-    /// Says that it is not known what is left out: no reference that finds nothing is a fault any more.
-    void AddUnknown() { _Unknown = true; }
+    void AddAll(const ZELVBTXMLNode& node, int cause);
 
     bool Has(const ZELDbBinary& uuid) const { return !_UUIDS.empty() && _UUIDS.contains(uuid); }
-    bool MayHave(const ZELDbBinary& uuid) const { return _Unknown || Has(uuid); }
+
+    /// \returns the number of the fault for which the UUID is left out; 0 when it is not.
+    int CauseOf(const ZELDbBinary& uuid) const {
+        if (_UUIDS.empty()) return 0;
+        const auto found = _UUIDS.find(uuid);
+        return found != _UUIDS.end() ? found->second : 0;
+    }
 
 private:
-    struct Hash {
-        std::size_t operator()(const ZELDbBinary& uuid) const { return uuid.ComputeHashKey(); }
-    };
-
-    std::unordered_set<ZELDbBinary, Hash> _UUIDS;
-    bool _Unknown = false;
+    std::unordered_map<ZELDbBinary, int, UuidHash> _UUIDS;
 };
 
 /// The reference attributes of one tag, by number in the document: what the second pass resolves.
@@ -137,11 +143,22 @@ struct Reading {
           untargeted(theUntargeted),
           document(theDocument) {}
 
-    /// \returns the name of a tag's element as diagnostics give it.
+    /// \returns the name of a tag's element as diagnostics give it: behind those of its owners. Of a deep
+    /// nest the middle is left out.
     std::string ElementName(const ZELVBTXMLNode& node) const;
 
     /// \returns the manager's primitive of that kind; null when it has none.
     OXMIDicPrimitive* Primitive(int kind);
+
+    /// \returns the number of the fault for which a UUID is not there; 0 when nothing is known of it.
+    int CauseOf(const ZELDbBinary& uuid) const {
+        const int cause = leftOut.CauseOf(uuid);
+        return cause != 0 ? cause : unknownCause;
+    }
+
+    /// Whether the package would find \p object if it were loaded alone: in itself, or in what it uses,
+    /// directly or through others. What is in no package counts as found.
+    bool Reaches(OXMIDicElementH& object);
 
     OXMIDicMgr& manager;
     FaultReport& faults;
@@ -149,7 +166,8 @@ struct Reading {
     LeftOut& untargeted;  ///< attributes whose target was at fault, of all packages
     const ZELVBTXMLDocument& document;
     ZanDicRef<OXMIDicPackage> package;  ///< the one that this load made; null before
-    std::string_view owner;             ///< name of the element whose members are being read
+    std::vector<std::string_view>
+        owners;  ///< names of the elements inside which is read, the outermost first
     TextCache texts;
     ReferenceNotes references;           ///< of the tag that is being filled
     ZELVBTXMLAttribute persistent;       ///< of the class that is being filled
@@ -158,9 +176,16 @@ struct Reading {
     std::vector<MemberNote> members;
     std::vector<RBONote> objects;      ///< of all mappings
     std::vector<PutOffScopes> putOff;  ///< in the order of the document
+    /// Number of the fault for which it is not known what a package that this one needs has: whatever a
+    /// reference does not find follows from that. 0: none.
+    int unknownCause = 0;
+    bool isThorough = false;  ///< an observer wants to know all
 
 private:
+    void note_Reach();
+
     std::array<ZanDicRef<OXMIDicPrimitive>, 10> _PRIMITIVES;  ///< by kind
+    std::unordered_set<ZELDbBinary, UuidHash> _REACH;         ///< packages; found when first asked for
 };
 
 /// \returns the value of the first `Name`; empty when there is none.
@@ -177,10 +202,14 @@ HRESULT SetPrimitiveType(Reading& reading, Element& element, int kind) {
 /// A fault of a tag.
 Fault FaultOf(const Reading& reading, ZanDicDiagnosticCode code, const ZELVBTXMLNode& node);
 
+/// Leaves out the element of a tag, with all that is inside, for the fault told last.
+void LeaveOut(Reading& reading, const ZELVBTXMLNode& node);
+
 /// The answer of a factory that failed, as a fault: what it handed out tells whether the UUID is taken.
+/// \param namesake who has the name already; null when nobody has.
 /// \param message the line for an element that was not made; an element that was made and not
 /// registered has its lines from the registry.
 HRESULT ReportNotCreated(Reading& reading, const ZanDicTraceScope& trace, const ZELVBTXMLNode& node,
-                         bool isHandedOut, bool isNameTaken, std::string message);
+                         bool isHandedOut, OXMIDicElementH* namesake, std::string message);
 
 #endif

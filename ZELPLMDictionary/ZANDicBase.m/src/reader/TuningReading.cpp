@@ -4,6 +4,7 @@
 
 #include "DocumentFile.h"
 #include "HexToBinary.h"
+#include "PackageLoad.h"
 #include "ReaderTexts.h"
 #include "Reading.h"
 #include "TuningTexts.h"
@@ -32,8 +33,13 @@ ZELString NameOfObject(OXMIDicElementH& object) {
 }  // namespace
 
 TuningReading::TuningReading(OXMIDicMgr& manager, const ZELString& packageName, const char* dirNames,
-                             OXMIDicPackage& package)
-    : _Manager(manager), _Name(packageName), _DirNames(dirNames), _Package(package) {
+                             OXMIDicPackage& package, LoadRun* run)
+    : _Manager(manager),
+      _Name(packageName),
+      _DirNames(dirNames),
+      _Package(package),
+      _Run(run),
+      _Faults(run != nullptr ? &run->faults : nullptr) {
     _Place.package = packageName.View();
     _Faults.Enter(_Place);
 }
@@ -62,6 +68,10 @@ Fault TuningReading::fault_Of(ZanDicDiagnosticCode code, const ZELVBTXMLNode& no
     fault.element = node ? std::string(NameOf(node)) : _Place.package;
     fault.errorLines.emplace_back(line);
     return fault;
+}
+
+int TuningReading::cause_OfLeftOut(const ZELDbBinary& uuid) const {
+    return _Run != nullptr ? _Run->leftOut.CauseOf(uuid) : 0;
 }
 
 HRESULT TuningReading::report_Missing(const ZELVBTXMLNode& node, std::string_view attributeName,
@@ -178,6 +188,9 @@ HRESULT TuningReading::find_Owner(const ZELVBTXMLNode& node, Owner& owner) {
                      Joined({tuningtext::kElement, text.Value(), tuningtext::kNotFound, _Name.View()}));
         fault.attribute = text;
         fault.detail = text.Value();
+        if (const int cause = cause_OfLeftOut(uuid); cause != 0) {
+            return _Faults.ReportConsequence(std::move(fault), cause);
+        }
         return _Faults.Report(fault);
     }
     OXMDicTYPE type = OXMDicTYPE_UNDEFINED;
@@ -187,7 +200,8 @@ HRESULT TuningReading::find_Owner(const ZELVBTXMLNode& node, Owner& owner) {
             fault_Of(ReferenceOfWrongKind, node,
                      Joined({tuningtext::kElement, text.Value(), tuningtext::kNotSupported, _Name.View()}));
         fault.attribute = text;
-        fault.otherParty = QualifiedName(*object);
+        SetOther(fault, *object);
+        fault.detail = "class or extension";
         return _Faults.Report(fault);
     }
     if (Failed(object->QueryInterface(IID_OXMIDicClass, owner.face.OutVoid()))) {
@@ -260,9 +274,12 @@ HRESULT TuningReading::read_Attributes(BlockTag& block) {
         Fault fault = fault_Of(isThere ? ReferenceOfWrongKind : ReferenceNotFound, block.node,
                                Joined({tuningtext::kNoAttribute, text, tuningtext::kIn, className}));
         fault.attribute = list;
-        fault.detail = text;
-        if (isThere) fault.otherParty = QualifiedName(*object);
-        if (!goes_On(_Faults.Report(fault), result)) break;
+        fault.detail = isThere ? std::string_view("attribute") : text;
+        if (isThere) SetOther(fault, *object);
+        const int cause = isThere ? 0 : cause_OfLeftOut(uuid);
+        const HRESULT rc =
+            cause != 0 ? _Faults.ReportConsequence(std::move(fault), cause) : _Faults.Report(fault);
+        if (!goes_On(rc, result)) break;
     }
     return result;
 }
@@ -305,7 +322,8 @@ HRESULT TuningReading::get_Block(const BlockTag& tag, const ZELVBTXMLAttribute& 
     Fault fault = fault_Of(ReferenceOfWrongKind, tag.node,
                            Joined({tuningtext::kError, UuidText(uuid), tuningtext::kWrongType}));
     fault.attribute = uuidText;
-    fault.otherParty = QualifiedName(*object);
+    SetOther(fault, *object);
+    fault.detail = "attribute block";
     return _Faults.Report(fault);
 }
 

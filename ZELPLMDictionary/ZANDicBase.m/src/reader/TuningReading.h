@@ -21,12 +21,15 @@
 #include "ZanDicRef.h"
 #include "ZanDicTuning.h"
 
+struct LoadRun;
+
 /// Faults are warnings: the package stays loaded. They fail this tuning all the same, and an observer is
 /// asked whether to go on; nothing is computed after one. Holds a reference to each block that it read.
 class TuningReading final : private ZanDicBlockFaultListener {
 public:
+    /// \param run the load that the document belongs to, which outlives this; null when it is read by itself.
     TuningReading(OXMIDicMgr& manager, const ZELString& packageName, const char* dirNames,
-                  OXMIDicPackage& package);
+                  OXMIDicPackage& package, LoadRun* run = nullptr);
     ~TuningReading();
     TuningReading(const TuningReading&) = delete;
     TuningReading& operator=(const TuningReading&) = delete;
@@ -42,6 +45,12 @@ public:
 
     /// The document; empty when there is none.
     const std::string& File() const { return _Place.file; }
+
+    /// What it holds; null when it is not well formed. Whoever takes it does so when all is over.
+    std::unique_ptr<ZELVBTXMLDocument>& Tree() { return _Document; }
+
+    /// Number of the first fault; 0 when none was told.
+    int FirstFailure() const { return _Place.firstFailure; }
 
 private:
     /// The class or extension whose blocks are being read.
@@ -97,6 +106,9 @@ private:
     HRESULT report_Missing(const ZELVBTXMLNode& node, std::string_view attributeName, std::string_view text);
     HRESULT report_Missing(const BlockTag& tag, std::string_view attributeName, std::string_view text);
     HRESULT report_Block(const BlockTag& tag, std::string_view line, std::string reason);
+    /// What the package left out after a fault is no fault of its tuning. \returns the number of that fault,
+    /// or 0.
+    int cause_OfLeftOut(const ZELDbBinary& uuid) const;
     bool goes_On(HRESULT rc, HRESULT& result) const { return _Faults.GoesOn(rc, result); }
 
     struct Hash {
@@ -107,6 +119,7 @@ private:
     ZELString _Name;
     const char* _DirNames;
     OXMIDicPackage& _Package;
+    const LoadRun* _Run;
     FaultReport _Faults;  ///< of its own: what happens here does not stop the load
     FaultDocument _Place;
     std::unique_ptr<ZELVBTXMLDocument> _Document;
