@@ -86,6 +86,14 @@ TEST_F(ToolSaveTest, CopiesTheTuningDocument) {
     EXPECT_EQ(TextOf(There() + "/BomItems.tuning"), TextOf(ZANDIC_SAMPLES "/BomItems.tuning"));
 }
 
+TEST_F(ToolSaveTest, WhatIsLoadedBesideIsReadBackToo) {
+    const ToolRun run =
+        OnSample({"--quiet", "save", "--to", Own().Path(), "BomPeople", "--in", "BomDocuments"});
+
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, Own().Path() + "/BomPeople.metadata\n");
+}
+
 TEST_F(ToolSaveTest, SavesAPackageOnce) {
     const ToolRun run = SaveSample({"BomPeople", "BomPeople.metadata", "BomPeople"});
 

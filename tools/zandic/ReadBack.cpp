@@ -64,9 +64,12 @@ std::string FirstDifference(std::string_view saved, std::string_view readBack) {
                        LineAt(readBack, index));
 }
 
-std::optional<std::string> WrongReadBack(const std::vector<std::string>& names, const std::string& path,
+std::optional<std::string> WrongReadBack(const std::vector<std::string>& names,
+                                         const std::vector<std::string>& beside, const std::string& path,
                                          std::string dump, bool mayRefuse) {
-    std::vector<std::string> arguments{"--quiet", "--path=" + path, "dump", "--json", "--"};
+    std::vector<std::string> arguments{"--quiet", "--path=" + path, "dump", "--json"};
+    for (const std::string& name : beside) arguments.push_back("--in=" + name);
+    arguments.push_back("--");
     arguments.insert(arguments.end(), names.begin(), names.end());
     SecondRun run = RunAgain(arguments);
     if (!run.isStarted) return "what was saved could not be read back: " + run.err;

@@ -8,11 +8,12 @@
 
 namespace tool {
 
-/// Loads \p names in a process of its own, from the directories of \p path, and compares the model with that
-/// of \p dump, both normalised: what a document leaves out on purpose does not count.
-/// \param mayRefuse whether some of the names are known to be refused.
-/// \returns what is wrong, in one line; none when nothing is.
-std::optional<std::string> WrongReadBack(const std::vector<std::string>& names, const std::string& path,
+/// Loads \p names, and \p beside after them, in a process of its own, from the directories of \p path, and
+/// compares the model with that of \p dump, both normalised: what a document leaves out on purpose does not
+/// count. \param mayRefuse whether some of the names are known to be refused. \returns what is wrong, in one
+/// line; none when nothing is.
+std::optional<std::string> WrongReadBack(const std::vector<std::string>& names,
+                                         const std::vector<std::string>& beside, const std::string& path,
                                          std::string dump, bool mayRefuse);
 
 /// \returns where two dumps that differ do so first: the object, and its two lines.

@@ -132,7 +132,7 @@ void RunSave(Session& session, const Options& options, Output& output) {
     session.Expect("reading back", 1);
     const ProfilingScope step("read back", directory);
     const std::string path = directory + ":" + session.Path();
-    if (const auto wrong = WrongReadBack(NamesOf(requests), path, std::move(model), mayRefuse)) {
+    if (const auto wrong = WrongReadBack(NamesOf(requests), options.in, path, std::move(model), mayRefuse)) {
         return session.Refuse(directory, *wrong);
     }
     WriteFileList(written, options.json, output);
