@@ -105,7 +105,7 @@ TEST_F(ToolSameTest, EveryCommandIsAmongTheRuns) {
     EXPECT_EQ(commands, used);
 }
 
-// Each process draws the seed of its hash tables anew, so two runs never have the same.
+// Each process has hash keys of its own, so two runs never have the same.
 TEST_F(ToolSameTest, TheLocaleChangesNothing) {
     ExpectSame({"LC_ALL=C"}, Locale("de_DE"));
     ExpectSame({"LC_ALL=C.UTF-8"}, Locale("tr_TR"));

@@ -36,7 +36,7 @@ ZELSYSTEM_API void ZELSetHashSeed(std::uint32_t seed) noexcept;
 /// \returns the key of \p text, all of it.
 ZELSYSTEM_API std::uint32_t ZELHashText(std::string_view text) noexcept;
 
-/// Folds the 128-bit product of two words. Both carry bits of the seed, so that nobody outside can make one
+/// Folds the 128-bit product of two words. Both carry random bits, so that nobody outside can make one
 /// of them zero.
 inline std::uint64_t ZELHashFold(std::uint64_t a, std::uint64_t b) noexcept {
     __extension__ typedef unsigned __int128 Product;

@@ -121,10 +121,10 @@ std::string ZshOffer(std::string_view value) {
 }
 
 std::string ZshOption(const OptionRow& row) {
-    std::string spec = fmt::format("'*{}[{}]", row.name, ZshText(row.help));
-    if (row.value.empty()) return spec + "'";
-    if (TakesSeveral(row)) return spec + ":*-*:" + ZshText(row.value) + ":" + ZshOffer(row.value) + "'";
-    return spec + ":" + ZshText(row.value) + ":" + ZshOffer(row.value) + "'";
+    std::string offer = fmt::format("'*{}[{}]", row.name, ZshText(row.help));
+    if (row.value.empty()) return offer + "'";
+    if (TakesSeveral(row)) return offer + ":*-*:" + ZshText(row.value) + ":" + ZshOffer(row.value) + "'";
+    return offer + ":" + ZshText(row.value) + ":" + ZshOffer(row.value) + "'";
 }
 
 constexpr std::string_view kZshHead = R"SCRIPT(#compdef zandic
