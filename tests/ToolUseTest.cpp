@@ -257,6 +257,32 @@ TEST_F(ToolUseTest, AnElementIsNotLoadedByItself) {
                     "BomItems::BomPart: error: only packages can be loaded: give the name before '::'");
 }
 
+TEST_F(ToolUseTest, APackageIsFoundByItsUuidToo) {
+    const std::string people = "EB04EC4A-0571-4DEA-8D1FA05FA4B6367D";
+    for (const std::vector<std::string>& command : {std::vector<std::string>{"load", "--no-times"},
+                                                    {"stats", "--no-times"},
+                                                    {"dump", "--json"},
+                                                    {"express", "--stdout"},
+                                                    {"save", "--to", Own().Path()}}) {
+        std::vector<std::string> byName{"--quiet"};
+        byName.insert(byName.end(), command.begin(), command.end());
+        std::vector<std::string> byUuid = byName;
+        byName.push_back("BomPeople");
+        byUuid.push_back(people);
+
+        const ToolRun run = OnSample(byUuid);
+
+        EXPECT_EQ(run.status, kDone) << run.err;
+        EXPECT_EQ(run.out, OnSample(byName).out);
+        EXPECT_NE(run.out, "");
+    }
+}
+
+TEST_F(ToolUseTest, AUuidThatIsNoPackagesIsRefused) {
+    const std::string part = "5AAF3900-5E46-4551-BB9AE4FD947B8003";
+    ExpectWrongName({"--quiet", "load", part}, part + ": error: no package of the path has this UUID", 1);
+}
+
 TEST_F(ToolUseTest, AnEmptyNameIsRefused) {
     ExpectWrongName({"load", ""}, "error: a NAME must not be empty");
     ExpectWrongName({"show", "BomItems::"}, "BomItems::: error: a name is missing beside '::'");

@@ -6,7 +6,8 @@
 namespace tool {
 namespace {
 
-constexpr Operands kPackages{"NAME", "packages, maybe with a content word, as in Items.rbodef"};
+constexpr Operands kPackages{"NAME",
+                             "packages, maybe with a content word, as in Items.rbodef; or their UUIDs"};
 constexpr Operands kAnything{"NAME", "PACKAGE, PACKAGE::ELEMENT, PACKAGE::ELEMENT::MEMBER, or a UUID"};
 constexpr Operands kClasses{
     "NAME", "PACKAGE or PACKAGE::CLASS, the package maybe with a content word; or the UUID of either"};

@@ -9,6 +9,7 @@
 #include "Model.h"
 #include "ZANDicValueWords.h"
 #include "ZELEnvironment.h"
+#include "ZELVBTXMLNode.h"
 #include "zandic.hpp"
 
 namespace tool {
@@ -96,6 +97,17 @@ std::optional<std::string> WrongTarget(const Target& target, std::string_view pa
         return "this is no UUID, which has 32 digits, grouped 8-4-4-16 or not at all";
     }
     return WrongPackageName(target.package);
+}
+
+std::optional<std::string> DocumentOfPackage(const ZELDbBinary& uuid, std::string_view path) {
+    for (std::string& name : DocumentsOf(path)) {
+        const auto file = ZELFindPath(path, name);
+        const auto document = file ? ZELVBTXMLDocument::CreateFromFile(file->c_str(), nullptr) : nullptr;
+        if (!document) continue;
+        const auto own = document->Root().getAttributeValue(ZANDicFormat::word::kUuid);
+        if (own && zandic::ParseUuid(*own) == uuid) return std::move(name);
+    }
+    return std::nullopt;
 }
 
 std::vector<std::string> DocumentsOf(std::string_view path) {

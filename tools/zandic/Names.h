@@ -31,6 +31,10 @@ std::optional<std::string> WrongPackageName(std::string_view name);
 /// wrong as well, unless there is a document of that name on \p path.
 std::optional<std::string> WrongTarget(const Target& target, std::string_view path);
 
+/// \returns the document on \p path, with its content word, of the package of that UUID; none when there is
+/// none. Reads the documents until it is found, and loads nothing.
+std::optional<std::string> DocumentOfPackage(const ZELDbBinary& uuid, std::string_view path);
+
 /// \returns the file names of the package documents, of every content word, in the directories of \p path:
 /// sorted, each once.
 std::vector<std::string> DocumentsOf(std::string_view path);

@@ -193,7 +193,14 @@ std::vector<AskedPackage> Targets::Packages() {
     if (AreAll()) return PackagesOfAll();
     std::vector<AskedPackage> packages;
     for (const std::string& name : _Options.names) {
-        if (auto wrong = WrongPackageName(name)) {
+        if (const auto uuid = zandic::ParseUuid(name)) {
+            if (const auto document = DocumentOfPackage(*uuid, _Session.Path())) {
+                packages.push_back({*document, FindPackage(_Session, PackageTarget(*document))});
+            } else {
+                _Session.Refuse(name, "no package of the path has this UUID");
+                packages.push_back({name, {}});
+            }
+        } else if (auto wrong = WrongPackageName(name)) {
             _Session.RejectUse(name, *wrong);
         } else {
             packages.push_back({name, FindPackage(_Session, PackageTarget(name))});

@@ -38,8 +38,8 @@ public:
     /// \returns whether the command works on whole packages that nobody named one by one.
     bool AreAll() const { return _Options.names.empty(); }
 
-    /// \returns the packages, in order; operands must be names of packages. One that is rejected for its form
-    /// has no entry.
+    /// \returns the packages, in order; operands must be names of packages, or UUIDs of packages on the path,
+    /// which count as the names of their documents. One that is rejected for its form has no entry.
     std::vector<AskedPackage> Packages();
 
     /// \returns the objects, in order. An operand may be PACKAGE, PACKAGE::ELEMENT, PACKAGE::ELEMENT::MEMBER
