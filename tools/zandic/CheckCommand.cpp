@@ -10,6 +10,7 @@
 #include "Command.h"
 #include "FindingList.h"
 #include "Names.h"
+#include "ProfilingScope.h"
 #include "Streams.h"
 
 namespace tool {
@@ -122,6 +123,8 @@ void RunCheck(Session& session, const Options& options, Output& output) {
     report.isStrict = options.strict;
     {
         const LinesAside aside;
+        session.Expect("checking", 1);
+        const ProfilingScope step("check", "documents");
         CheckResult result = Check(session.Dictionary(), std::move(plan));
         report.documents = std::move(result.documents);
         report.findings = std::move(result.findings);
