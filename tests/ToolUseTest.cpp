@@ -123,6 +123,14 @@ TEST_F(ToolUseTest, AnUnknownOptionIsNamed) {
     ExpectWrongUse({"--quite"}, "there is no option '--quite'; did you mean --quiet? (see 'zandic --help')");
 }
 
+TEST_F(ToolUseTest, AnOptionMayBeAbbreviatedWhileItIsTheOnlyOne) {
+    EXPECT_EQ(OnSample({"--qui", "show", "BomWorkshop"}).out,
+              OnSample({"--quiet", "show", "BomWorkshop"}).out);
+    ExpectWrongUse({"load", "--trace", "1", "x"},
+                   "there is no option '--trace'; did you mean --trace-level or --trace-methods? "
+                   "(see 'zandic load --help')");
+}
+
 TEST_F(ToolUseTest, WithoutANameInSaysWhatToWorkOn) {
     EXPECT_EQ(OnSample({"--quiet", "show", "--in", "BomWorkshop"}).out,
               OnSample({"--quiet", "show", "BomWorkshop"}).out);
