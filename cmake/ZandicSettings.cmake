@@ -46,4 +46,5 @@ if(ZANDIC_COVERAGE)
   add_link_options(--coverage)
 endif()
 
+include(cmake/ZandicHardening.cmake)
 include(cmake/ZandicKeep.cmake)
