@@ -13,3 +13,5 @@ void* ZELXMLGrow(void* memory, std::size_t bytes) {
 }
 
 void ZELXMLFree(void* memory) { std::free(memory); }
+
+void ZELXMLMakeReady(void* memory, std::size_t bytes) noexcept { ZELTakePages(memory, bytes); }

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr std::uint32_t kAtOnce = 6;  ///< places that a search looks at together
 constexpr std::uint64_t kFirstPlaces = 64;
 constexpr std::uint64_t kMostPlaces = 0x80000000;
 
@@ -117,7 +116,7 @@ void ZanDicUuidTable::Reserve(int count) {
 void ZanDicUuidTable::rehash_To(std::uint64_t places) {
     if (places > kMostPlaces) throw std::bad_alloc();
     ZanDicUuidTable larger;
-    larger._ENTRIES = std::make_unique<Entry[]>(static_cast<std::size_t>(places));
+    larger._ENTRIES = ZELMakeZeroed<Entry>(static_cast<std::size_t>(places));
     larger._Places = static_cast<std::uint32_t>(places);
     ForEach([&larger](ZanDicObj* object) { larger.place_Object(*object, KeyOf(*object)); });
     std::swap(_ENTRIES, larger._ENTRIES);

@@ -1,0 +1,17 @@
+#include "ZELZeroed.h"
+
+#include <cstdlib>
+#include <new>
+
+#include "ZELHugePages.h"
+
+void* ZELAllocateZeroed(std::size_t bytes) {
+    void* const memory = std::calloc(bytes, 1);
+    if (memory == nullptr) throw std::bad_alloc();
+    ZELAdviseHugePages(memory, bytes);
+    // Its places are filled in any order: one by one they would each wait for a page.
+    ZELTakePages(memory, bytes);
+    return memory;
+}
+
+void ZELFreeZeroed(void* memory) noexcept { std::free(memory); }
