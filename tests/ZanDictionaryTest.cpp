@@ -16,6 +16,7 @@
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
 #include "ZELTestDirectory.h"
+#include "ZanDicCommand.h"
 #include "ZanDicData.h"
 #include "ZanDicPrimitive.h"
 
@@ -392,6 +393,21 @@ TEST_F(ZanDictionaryTest, EndTakesTheCreatorsReferenceOfWhatACallerRegistered) {
     Manager().End();
     EXPECT_EQ(object->RefCount(), count - 1);
     EXPECT_TRUE(object->is_Gone());
+}
+
+TEST_F(ZanDictionaryTest, EndLeavesWhatAnUnregisteredOwnerHasToThatOwner) {
+    const Held<ZanDicCommand> owner(new ZanDicCommand("Print", TestUuid(1)));
+    const ZELString name = "Copies";
+    const ZELDbBinary uuid = TestUuid(2);
+    Held<OXMIDicSimple> copies;
+    ASSERT_EQ(owner->CreateSimple(&name, &uuid, copies.Out()), S_OK);
+
+    EXPECT_EQ(Manager().End(), S_OK);
+
+    HeldList attributes;
+    EXPECT_EQ(dictionary->count_Objs(), 0);
+    EXPECT_EQ(owner->GetClassElements(&attributes), S_OK);
+    EXPECT_EQ(NamesOf(attributes), "Copies ");
 }
 
 TEST_F(ZanDictionaryTest, ObjectsThatAreStillHeldAreGoneAfterEnd) {

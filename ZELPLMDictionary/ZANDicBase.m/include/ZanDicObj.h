@@ -152,6 +152,9 @@ public:
     void mark_Gone();
     bool is_Registered() const { return _Registered; }
     void set_Registered(bool registered) { _Registered = registered; }
+    /// Whether another object has the owner's reference to this one, and gives it back.
+    bool is_Owned() const { return _Owned; }
+    void set_Owned() { _Owned = true; }
     /// Moves the references that this object owns, those on private lists included, to the end of
     /// \p owned; its own lists are empty after that. Writes nothing.
     virtual void take_Owned(std::vector<ZanDicObj*>& owned);
@@ -205,6 +208,7 @@ private:
     ZELDbBinary _Uuid;
     bool _Registered : 1;
     bool _Gone : 1;
+    bool _Owned : 1;
 
 protected:
     // Here because there is room for them: what derived objects hold is packed behind.

@@ -104,7 +104,7 @@ std::unique_ptr<ZanDicRareFields> ZanDicRareFields::Copy() const {
 }
 
 ZanDicObj::ZanDicObj()
-    : _Name("UNDEFINED"), _Registered(false), _Gone(false), _Unnamed(false), _Noted(false) {
+    : _Name("UNDEFINED"), _Registered(false), _Gone(false), _Owned(false), _Unnamed(false), _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Call)) return;
     kConstructor.Line(TraceLevel::Call) << "_Type=" << _Type << ", _Name=" << _Name;
@@ -112,7 +112,7 @@ ZanDicObj::ZanDicObj()
 }
 
 ZanDicObj::ZanDicObj(const ZELString& name, const ZELDbBinary& uuid)
-    : _Name(name), _Uuid(uuid), _Registered(false), _Gone(false), _Unnamed(false), _Noted(false) {
+    : _Name(name), _Uuid(uuid), _Registered(false), _Gone(false), _Owned(false), _Unnamed(false), _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Detail)) return;
     kConstructor.Line(TraceLevel::Detail)
@@ -129,6 +129,7 @@ ZanDicObj::ZanDicObj(const ZanDicObj& other)
       _Uuid(other._Uuid),
       _Registered(false),
       _Gone(false),
+      _Owned(false),
       _Unnamed(other._Unnamed),
       _Noted(other._Noted) {
     ++liveObjects;

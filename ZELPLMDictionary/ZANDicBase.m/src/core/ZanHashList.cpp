@@ -474,6 +474,7 @@ HRESULT ZanHashList::append_Object(ZanDicObj* object, bool isNew) {
     }
     if (_STORE->end == _STORE->capacity) make_Room(std::max(kFirstRoom, _STORE->end * 2));
     _STORE->Append(object->Name(), object);
+    if (_STORE->kind == ZanHashListKind::Owner) object->set_Owned();
     return trace.Exit(S_OK);
 }
 

@@ -161,15 +161,19 @@ std::vector<ZanDicObj*> ZanDictionary::take_All() {
     openAll();
 
     // What is registered outside of the packages: first what these objects own among themselves, then those
-    // that nobody else owns. Each has its creator's reference.
+    // that nobody else owns, each with its creator's reference. What an object that is not registered owns
+    // stays that one's.
     std::vector<ZanDicObj*> others;
     _OBJECTS.ForEach([&others](ZanDicObj* object) {
         if (object->is_Registered()) others.push_back(object);
     });
     for (ZanDicObj* const object : others) object->take_Owned(taken);
     openAll();
-    std::copy_if(others.begin(), others.end(), std::back_inserter(taken),
-                 [](const ZanDicObj* object) { return object->is_Registered(); });
+    for (ZanDicObj* const object : others) {
+        if (!object->is_Registered()) continue;
+        object->set_Registered(false);
+        if (!object->is_Owned()) taken.push_back(object);
+    }
     openAll();
     _OBJECTS.RemoveAll();
 

@@ -108,6 +108,7 @@ HRESULT ZanDicPackage::CreateAttributeBlock(const ZELDbBinary* uuid, OXMIDicAttr
     ZanDicRef<ZanDicAttributeBlock> made(new ZanDicAttributeBlock(*uuid));
     if (const HRESULT rc = registry->Insert(made.Get()); Failed(rc)) return rc;
     _BLOCKS.Append(made.Get());
+    made->set_Owned();
     return HandOutAs(*made.Detach(), block);
 }
 

@@ -32,6 +32,7 @@ HRESULT ZanDicRBOComponent::CreateRBOPathExpression(const ZELString* name, const
     return MakeRBOObject<ZanDicRBOPathExpression>(*this, name, uuid, path,
                                                   [this](ZanDicRBOPathExpression& made) {
                                                       _PathExpression = &made;
+                                                      made.set_Owned();
                                                       return S_OK;
                                                   });
 }

@@ -1,0 +1,59 @@
+// Several documents in one input, packages that use each other and their tunings: loaded one after the other,
+// and unloaded in an order of the input's while the others still refer to them. Whether faults end a load or
+// not, the results are the same; nothing is left at the end.
+
+#include <algorithm>
+
+#include "DumpJson.h"
+#include "FuzzSupport.h"
+#include "ZanDicObj.h"
+#include "zandic.hpp"
+
+namespace {
+
+constexpr std::size_t kMostDocuments = 8;
+
+std::vector<HRESULT> LoadAll(OXMIDicMgr& manager, const FuzzDirectory& directory,
+                             const std::vector<FuzzDocument>& documents) {
+    std::vector<HRESULT> results;
+    for (const FuzzDocument& document : documents) {
+        if (document.extension != "metadata") continue;
+        const ZELString name(document.package);
+        results.push_back(manager.LoadPackageFromDir(directory.Path().c_str(), &name, OXMDicPERSISTENT_Xml));
+    }
+    return results;
+}
+
+/// Takes one package after the other away and looks at what the rest has become.
+void UnloadOneByOne(OXMIDicMgr& manager, std::uint32_t order) {
+    for (auto names = LoadedPackages(manager); !names.empty(); names = LoadedPackages(manager)) {
+        const ZELString name(names[order % names.size()]);
+        order = order * 1664525U + 1013904223U;
+        Require(Succeeded(manager.RemovePackage(&name)), "a loaded package can be unloaded");
+        tool::DumpText(zandic::Dictionary::Open());
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static FuzzDirectory directory;
+    OXMIDicMgr& manager = FuzzManager();
+    const std::string_view input(reinterpret_cast<const char*>(data), size);
+    auto documents = SplitIntoDocuments(input, kMostDocuments);
+    directory.Fill(documents);
+
+    const int objectsBefore = ZanDicObj::live_Objects();
+    const std::vector<HRESULT> stopping = LoadAll(manager, directory, documents);
+    const std::string loaded = tool::DumpText(zandic::Dictionary::Open());
+    UnloadOneByOne(manager, NumberOf(input));
+    UnloadAll(manager, objectsBefore);
+
+    const FuzzObserver observer(NumberOf(input) % 2 == 0);
+    const std::vector<HRESULT> goingOn = LoadAll(manager, directory, documents);
+    Require(stopping == goingOn, "going on after faults changes nothing of the results");
+    Require(tool::DumpText(zandic::Dictionary::Open()) == loaded,
+            "going on after faults changes nothing of what is loaded");
+    UnloadAll(manager, objectsBefore);
+    return 0;
+}

@@ -1,0 +1,68 @@
+// What can be loaded is saved, loaded and saved again: the models are the same but for what documents leave
+// out on purpose, the second documents the same byte for byte. EXPRESS schemas are written on the way.
+
+#include <cstdlib>
+
+#include "DumpJson.h"
+#include "FuzzSupport.h"
+#include "Normalised.h"
+#include "ZanDicObj.h"
+#include "zandic.hpp"
+
+namespace {
+
+constexpr std::size_t kMostDocuments = 4;
+
+std::string Dump() { return tool::DumpText(zandic::Dictionary::Open()); }
+
+bool Load(OXMIDicMgr& manager, const FuzzDirectory& directory, const std::string& package) {
+    const ZELString name(package);
+    return Succeeded(manager.LoadXml(directory.Path().c_str(), &name, OXMDicCONTENT_metadata));
+}
+
+void SaveAll(OXMIDicMgr& manager, const FuzzDirectory& directory, OXMDicPERSISTENT mode) {
+    for (const std::string& package : LoadedPackages(manager)) {
+        const ZELString name(package);
+        const HRESULT rc = manager.SavePackageToDir(directory.Path().c_str(), &name, mode);
+        Require(Succeeded(rc), "a loaded package can be saved");
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    return ::setenv("SOURCE_DATE_EPOCH", "951827696",
+                    1);  // for the comment that says when a document was saved
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static FuzzDirectory given;
+    static FuzzDirectory first;
+    static FuzzDirectory second;
+    static FuzzDirectory schemas;
+    OXMIDicMgr& manager = FuzzManager();
+    const int objectsBefore = ZanDicObj::live_Objects();
+
+    auto documents = SplitIntoDocuments({reinterpret_cast<const char*>(data), size}, kMostDocuments);
+    std::erase_if(documents, [](const FuzzDocument& document) { return document.extension == "tuning"; });
+    given.Fill(documents);
+    const std::string& package = documents.front().package;
+    if (Load(manager, given, package)) {
+        first.Clear();
+        second.Clear();
+        schemas.Clear();
+        const std::string loaded = Dump();
+        SaveAll(manager, first, OXMDicPERSISTENT_Xml);
+        SaveAll(manager, schemas, OXMDicPERSISTENT_Express);
+        Require(Dump() == loaded, "saving changes nothing");
+        UnloadAll(manager, objectsBefore);
+
+        Require(Load(manager, first, package), "what was saved loads");
+        const std::string again = Dump();
+        SaveAll(manager, second, OXMDicPERSISTENT_Xml);
+        Require(tool::Normalised(again) == tool::Normalised(loaded), "what was saved loads as it was");
+        Require(first.Files() == second.Files(), "the second documents are the first");
+    }
+    UnloadAll(manager, objectsBefore);
+    return 0;
+}
