@@ -36,6 +36,15 @@ TEST_F(ZELHashTest, EveryByteOfATextCounts) {
     }
 }
 
+TEST_F(ZELHashTest, ContainersKeyTextsByTheSeedToo) {
+    const std::size_t key = ZELTextHash()("Part");
+    EXPECT_EQ(key, ZELHashText("Part"));
+
+    ZELSetHashSeed(kSeed + 1);
+
+    EXPECT_NE(ZELTextHash()("Part"), key);
+}
+
 TEST_F(ZELHashTest, EveryByteOfAnIdentifierCountsAndSoDoesItsLength) {
     const unsigned char zeros[16] = {};
     for (int at = 0; at < 16; ++at) {

@@ -170,6 +170,30 @@ TEST_F(ZanDicObjTest, SetOtherAttributeReplacesAValueInItsPlace) {
     EXPECT_EQ(names[2], "Last");
 }
 
+TEST_F(ZanDicObjTest, ManyOtherAttributesKeepTheirOrderAndAreReplacedInTheirPlace) {
+    constexpr int kCount = 200'000;  // takes minutes where each is compared with all before it
+    ZanDicObj object;
+    for (int number = 1; number <= kCount; ++number) {
+        object.SetOtherAttribute(("Key" + std::to_string(number)).c_str(), "v");
+    }
+    object.SetOtherAttribute("Key150000", "new");
+    const ZanDicObj copy(object);
+    ZELListValZELUnicodeString names;
+    ZELListValZELUnicodeString values;
+    ZELUnicodeString value;
+
+    object.GetAllOtherAttributes(names, values);
+    ASSERT_EQ(names.Size(), kCount);
+    ASSERT_EQ(values.Size(), kCount);
+    EXPECT_EQ(names[1], "Key1");
+    EXPECT_EQ(names[kCount], "Key200000");
+    EXPECT_EQ(values[150'000], "new");
+    EXPECT_EQ(values[150'001], "v");
+    EXPECT_EQ(copy.GetOtherAttribute("Key150000", value), S_OK);
+    EXPECT_EQ(value, "new");
+    EXPECT_EQ(copy.GetOtherAttribute("Key0", value), E_FAIL);
+}
+
 TEST_F(ZanDicObjTest, SetOtherAttributeRefusesANullOrEmptyName) {
     ZanDicObj object;
     ZELListValZELUnicodeString names;

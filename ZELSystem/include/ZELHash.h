@@ -1,6 +1,7 @@
 #ifndef ZELHASH_H
 #define ZELHASH_H
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -35,6 +36,13 @@ ZELSYSTEM_API void ZELSetHashSeed(std::uint32_t seed) noexcept;
 
 /// \returns the key of \p text, all of it.
 ZELSYSTEM_API std::uint32_t ZELHashText(std::string_view text) noexcept;
+
+/// For standard containers whose keys come from documents: the hash of the language's own library has no
+/// seed, so that a document could choose texts which all have one key.
+struct ZELTextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const noexcept { return ZELHashText(text); }
+};
 
 /// Folds the 128-bit product of two words. Both carry random bits, so that nobody outside can make one
 /// of them zero.

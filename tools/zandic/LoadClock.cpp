@@ -2,7 +2,7 @@
 
 #include <malloc.h>
 
-#include <algorithm>
+#include <utility>
 
 namespace tool {
 namespace {
@@ -18,11 +18,12 @@ std::int64_t BytesTaken() {
 void LoadClock::StepIn(std::string_view, std::string_view subject) {
     ChargeCurrent();
     const std::string package(subject.substr(0, subject.find('.')));
-    _PHASES.push_back(_OWN.try_emplace(package).first);
+    const Records::iterator record = _OWN.try_emplace(package).first;
+    _PHASES.push_back(record);
 
     // A load that goes on has got what it waited for.
-    if (std::find(_LOADS.begin(), _LOADS.end(), package) == _LOADS.end()) _LOADS.push_back(package);
-    while (_LOADS.back() != package) FinishLast();
+    if (!std::exchange(record->second.isOpen, true)) _LOADS.push_back(record);
+    while (_LOADS.back() != record) FinishLast();
 }
 
 void LoadClock::StepOut(std::string_view, std::string_view) {
@@ -36,21 +37,22 @@ void LoadClock::StepOut(std::string_view, std::string_view) {
 void LoadClock::ChargeCurrent() {
     const auto now = std::chrono::steady_clock::now();
     const std::int64_t bytes = _MeasuresMemory ? BytesTaken() : 0;
-    if (!_PHASES.empty()) _PHASES.back()->second += {now - _Since, bytes - _BytesSince};
+    if (!_PHASES.empty()) _PHASES.back()->second.cost += {now - _Since, bytes - _BytesSince};
     // What measuring takes is nobody's.
     _Since = _MeasuresMemory ? std::chrono::steady_clock::now() : now;
     _BytesSince = bytes;
 }
 
 void LoadClock::FinishLast() {
-    const bool isFirst = std::find(_FINISHED.begin(), _FINISHED.end(), _LOADS.back()) == _FINISHED.end();
-    if (isFirst) _FINISHED.push_back(_LOADS.back());
+    const Records::iterator record = _LOADS.back();
+    record->second.isOpen = false;
+    if (!std::exchange(record->second.isFinished, true)) _FINISHED.push_back(record->first);
     _LOADS.pop_back();
 }
 
 LoadCost LoadClock::Own(std::string_view subject) const {
     const auto found = _OWN.find(subject);
-    return found != _OWN.end() ? found->second : LoadCost{};
+    return found != _OWN.end() ? found->second.cost : LoadCost{};
 }
 
 }  // namespace tool

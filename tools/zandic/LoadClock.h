@@ -47,14 +47,19 @@ public:
     LoadCost Own(std::string_view subject) const;
 
 private:
-    using Records = std::map<std::string, LoadCost, std::less<>>;
+    struct Record {
+        LoadCost cost;
+        bool isOpen = false;      ///< among `_LOADS`
+        bool isFinished = false;  ///< among `_FINISHED`
+    };
+    using Records = std::map<std::string, Record, std::less<>>;
 
     void ChargeCurrent();
     void FinishLast();
 
     Records _OWN;
     std::vector<Records::iterator> _PHASES;  ///< those that are open, the inner one last
-    std::vector<std::string> _LOADS;         ///< those that run or wait, each for the one behind it
+    std::vector<Records::iterator> _LOADS;   ///< those that run or wait, each for the one behind it
     std::vector<std::string> _FINISHED;
     std::chrono::steady_clock::time_point _Since;
     std::int64_t _BytesSince = 0;

@@ -12,6 +12,7 @@
 #include "OXMIDicRelationship.h"
 #include "RuleCodes.h"
 #include "RuleCycles.h"
+#include "ZELHash.h"
 
 namespace tool {
 namespace {
@@ -126,7 +127,8 @@ void ClassRules::number_Hierarchy() {
 /// A mandatory relationship that an heir redefines as one that is not forces nobody: the heir may be made
 /// first.
 void ClassRules::drop_Redefined() {
-    std::unordered_map<std::string_view, std::vector<std::uint32_t>> open;  // mandatory ones of super classes
+    std::unordered_map<std::string_view, std::vector<std::uint32_t>, ZELTextHash>
+        open;  // mandatory ones of super classes
     for (const std::uint32_t number : _WALK) {
         const Class& each = _CLASSES[number];
         for (std::uint32_t index = each.firstMember; index < end_OfMembers(number); ++index) {

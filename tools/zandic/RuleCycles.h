@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "RuleDocument.h"
+#include "ZELHash.h"
 
 namespace tool {
 
@@ -50,8 +51,8 @@ private:
     std::string name_Of(const Party& party) const;
 
     RuleDocument& _Document;
-    std::vector<std::uint32_t> _NUMBERS;                      ///< of the classes here, by element
-    std::unordered_map<std::string, std::uint32_t> _OUTSIDE;  ///< of the others, by UUID
+    std::vector<std::uint32_t> _NUMBERS;  ///< of the classes here, by element
+    std::unordered_map<std::string, std::uint32_t, ZELTextHash> _OUTSIDE;  ///< of the others, by UUID
     std::vector<Party> _CLASSES;
     std::vector<std::vector<Need>> _NEEDS;  ///< by class
     std::vector<Relationship> _RELATIONSHIPS;

@@ -88,10 +88,6 @@ public:
     void Note(Finding* finding, const ZELVBTXMLAttribute& attribute, std::string text) const;
 
 private:
-    struct TextHash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
-    };
     struct UuidHash {
         std::size_t operator()(const ZELDbBinary& uuid) const { return uuid.ComputeHashKey(); }
     };

@@ -8,6 +8,7 @@
 #include "OXMIDicExtension.h"
 #include "OXMIDicRelationship.h"
 #include "Views.h"
+#include "ZELHash.h"
 
 namespace tool {
 namespace {
@@ -86,7 +87,7 @@ struct Origin {
 
 void ShowInherited(const View& view, OXMIDicClass& classElement) {
     std::vector<Origin> origins;
-    std::unordered_map<std::string, std::size_t> places;  // of the origins, by name
+    std::unordered_map<std::string, std::size_t, ZELTextHash> places;  // of the origins, by name
     for (OXMIDicAttribute& attribute :
          zandic::All<OXMIDicAttribute>(classElement, &OXMIDicClass::GetAllElements)) {
         const auto origin = zandic::Link(attribute, &OXMIDicAttribute::GetOrigin);

@@ -18,6 +18,7 @@
 #include "Sheet.h"
 #include "Style.h"
 #include "Targets.h"
+#include "ZELHash.h"
 
 namespace tool {
 namespace {
@@ -79,7 +80,7 @@ private:
     }
 
     std::vector<std::vector<std::string>> _LEVELS;  ///< the own names of each class on the way down
-    std::unordered_map<std::string, int> _COUNTS;   ///< how many classes on the way have it
+    std::unordered_map<std::string, int, ZELTextHash> _COUNTS;  ///< how many classes on the way have it
     int _Width = 0;
 };
 

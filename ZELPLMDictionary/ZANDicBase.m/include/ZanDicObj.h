@@ -18,6 +18,7 @@
 #include "ZanDicExport.h"
 
 class ZanHashList;
+struct ZanDicNameIndex;
 
 /// What an object holds only when it was set: kept apart, so that the many objects without pay one word.
 /// Kinds with rare fields of their own derive from it.
@@ -35,6 +36,15 @@ struct ZANDICBASE_API ZanDicRareFields : ZELPooled {
     ZELUnicodeString alias;                   ///< of elements and packages
     ZELUnicodeString expositionLevel;
     OXMDicVISIBILITY visibility = OXMDicVISIBILITY_Public;  ///< of an element, when it is an odd number
+
+    /// \returns the position of the free attribute of that name; 0 when there is none. Where there are many,
+    /// an index is brought up to date first.
+    int locate_Other(const ZELUnicodeString& name);
+    /// Adds one of a name that is not there.
+    void append_Other(const ZELUnicodeString& name, const ZELUnicodeString& value);
+
+private:
+    std::unique_ptr<ZanDicNameIndex> _OtherIndex;  ///< of the names; null while they are few, and in a copy
 };
 
 /// Base of every object of the dictionary: name, 16-byte UUID, type code, free attributes, categories.

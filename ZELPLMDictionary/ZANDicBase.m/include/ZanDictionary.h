@@ -7,6 +7,7 @@
 
 #include "OXMDicTypes.h"
 #include "OXMIDicIdentifiers.h"
+#include "ZELHash.h"
 #include "ZanDicClassToRelationElem.h"
 #include "ZanDicExport.h"
 #include "ZanDicLink.h"
@@ -111,7 +112,7 @@ private:
 
     OXMDicPERSISTENT _LoadingMode = OXMDicPERSISTENT_Xml;
     ZanHashList _PACKAGES;  ///< one reference to each, in the order of creation
-    std::unordered_map<std::string, ZanDicLink<ZanDicPackage>>
+    std::unordered_map<std::string, ZanDicLink<ZanDicPackage>, ZELTextHash>
         _LOADS;                ///< by a name asked for that is not theirs
     ZanDicUuidTable _OBJECTS;  ///< not owning
     ZanDicPrimitive* _PRIMITIVES[kPrimitiveCount] =

@@ -1,11 +1,14 @@
 #include "ZanDicObj.h"
 
 #include <array>
+#include <cstddef>
 #include <iterator>
 #include <string>
+#include <unordered_map>
 
 #include "HexToBinary.h"
 #include "OXMIDicCategory.h"
+#include "ZELHash.h"
 #include "ZELUuid.h"
 #include "ZanDicImplementation.h"
 #include "ZanDicLink.h"
@@ -19,6 +22,7 @@
 namespace {
 
 constexpr int kCategoriesSize = 29;
+constexpr int kManyOthers = 32;  ///< free attributes from which on they have an index
 
 constexpr ZanDicTraceScope kConstructor("ZanDicObj::ZanDicObj");
 constexpr ZanDicTraceScope kDestructor("ZanDicObj::~ZanDicObj");
@@ -95,9 +99,53 @@ constinit ZELMetaClass objectMeta("ZanDicObj");
 constinit int ZanDicObj::liveObjects = 0;
 constinit ZanDicObj* ZanDicObj::sharedProbe = nullptr;
 
+/// The positions of names that a list has once each, those at its front.
+struct ZanDicNameIndex {
+    struct Hash {
+        std::size_t operator()(const ZELUnicodeString& name) const noexcept {
+            return ZELHashText(name.View());
+        }
+    };
+
+    std::unordered_map<ZELUnicodeString, int, Hash> positions;
+
+    /// Takes in those that \p names has got since.
+    void Follow(const ZELListValZELUnicodeString& names) {
+        for (int position = Size() + 1; position <= names.Size(); ++position) {
+            positions.emplace(names[position], position);
+        }
+    }
+
+    int Size() const { return static_cast<int>(positions.size()); }
+};
+
 ZanDicRareFields::ZanDicRareFields() = default;
 ZanDicRareFields::~ZanDicRareFields() = default;
-ZanDicRareFields::ZanDicRareFields(const ZanDicRareFields&) = default;
+ZanDicRareFields::ZanDicRareFields(const ZanDicRareFields& other)
+    : otherNames(other.otherNames),
+      otherValues(other.otherValues),
+      categories(other.categories),
+      alias(other.alias),
+      expositionLevel(other.expositionLevel),
+      visibility(other.visibility) {}
+
+int ZanDicRareFields::locate_Other(const ZELUnicodeString& name) {
+    if (otherNames.Size() < kManyOthers) return otherNames.Locate(name);
+    if (!_OtherIndex) _OtherIndex = std::make_unique<ZanDicNameIndex>();
+    _OtherIndex->Follow(otherNames);
+    const auto found = _OtherIndex->positions.find(name);
+    return found != _OtherIndex->positions.end() ? found->second : 0;
+}
+
+void ZanDicRareFields::append_Other(const ZELUnicodeString& name, const ZELUnicodeString& value) {
+    otherNames.Append(name);
+    try {
+        otherValues.Append(value);
+    } catch (...) {
+        otherNames.RemovePosition(otherNames.Size());  // each name has a value
+        throw;
+    }
+}
 
 std::unique_ptr<ZanDicRareFields> ZanDicRareFields::Copy() const {
     return std::make_unique<ZanDicRareFields>(*this);
@@ -244,12 +292,11 @@ HRESULT ZanDicObj::SetOtherAttribute(const ZELUnicodeString& name, const ZELUnic
     if (strippedName.IsEmpty()) return E_FAIL;
 
     ZanDicRareFields& fields = make_Rare();
-    if (const int position = fields.otherNames.Locate(strippedName); position != 0) {
+    if (const int position = fields.locate_Other(strippedName); position != 0) {
         fields.otherValues[position] = value.Stripped();
         return S_OK;
     }
-    fields.otherNames.Append(strippedName);
-    fields.otherValues.Append(value.Stripped());
+    fields.append_Other(strippedName, value.Stripped());
     return S_OK;
 }
 
@@ -258,7 +305,7 @@ HRESULT ZanDicObj::GetOtherAttribute(const ZELUnicodeString& name, ZELUnicodeStr
     value = ZELUnicodeString("");
     if (wanted.IsEmpty() || !_Rare) return E_FAIL;
 
-    const int position = _Rare->otherNames.Locate(wanted);
+    const int position = _Rare->locate_Other(wanted);
     if (position == 0) return E_FAIL;
     value = _Rare->otherValues[position];
     return S_OK;

@@ -5,6 +5,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include "ZELHash.h"
+
 constinit std::uint64_t ZanDicHierarchy::state = 1;
 constinit std::uint64_t ZanDicHierarchy::answers = 1;
 
@@ -50,7 +52,7 @@ ZanDicAllAttributes::List ZanDicAllAttributes::ListAlive(const Answer& answer) {
 
 /// Where inherited attributes of a name stand.
 struct ZanDicAllAttributes::Descent::Names {
-    std::unordered_multimap<std::string_view, std::uint32_t> indexes;
+    std::unordered_multimap<std::string_view, std::uint32_t, ZELTextHash> indexes;
     std::size_t entered = 0;  ///< how many of the list are in
 
     void Enter(const List& listed) {

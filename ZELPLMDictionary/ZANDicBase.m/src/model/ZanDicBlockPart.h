@@ -7,6 +7,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "ZELHash.h"
 #include "ZanDicAttribute.h"
 #include "ZanHashList.h"
 
@@ -36,7 +37,7 @@ struct ZanDicBlockPart {
     /// Gives each attribute to \p visit, the own ones first; of one name only the first.
     template <class Visit>
     static void ForEach(const ZanDicBlockPart* first, const Visit& visit) {
-        std::unordered_set<std::string_view> names;
+        std::unordered_set<std::string_view, ZELTextHash> names;
         const bool isShared = first != nullptr && first->inherited != nullptr;
         for (const ZanDicBlockPart* part = first; part != nullptr; part = part->inherited.get()) {
             const int size = part->own.Size();

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "OXMIDicAttributeBlock.h"
+#include "ZELHash.h"
 #include "ZELUuid.h"
 #include "ZanDicAttribute.h"
 #include "ZanDicBlockPart.h"
@@ -69,7 +70,7 @@ HRESULT ZanDicClass::make_DefaultBlock() {
 }
 
 void ZanDicClass::fill_DefaultBlock(ZanDicAttributeBlock& block) {
-    std::unordered_set<std::string_view> held;
+    std::unordered_set<std::string_view, ZELTextHash> held;
     for (const ZanDicAttributeBlock* visible : visible_Blocks().List()) {
         ZanDicBlockPart::ForEach(visible->get_Attributes(), [&held](const ZanDicAttribute& attribute) {
             held.insert(attribute.Name().View());

@@ -3,6 +3,7 @@
 #include <unordered_set>
 
 #include "OXMIDicMethod.h"
+#include "ZELHash.h"
 #include "ZanDicClass.h"
 #include "ZanDicClassFields.h"
 #include "ZanDicHandOut.h"
@@ -56,7 +57,7 @@ HRESULT ZanDicClass::GetMethods(ZELListPtrIUnknown* list) const {
 
 HRESULT ZanDicClass::GetAllMethods(ZELListPtrIUnknown* list) const {
     HRESULT rc = S_OK;
-    std::unordered_set<std::string_view> listed;
+    std::unordered_set<std::string_view, ZELTextHash> listed;
     for (const ZanDicClass* owner = this; owner != nullptr; owner = owner->_SuperClass.Get()) {
         const ZanHashList& own = owner->methods();
         const int size = own.Size();

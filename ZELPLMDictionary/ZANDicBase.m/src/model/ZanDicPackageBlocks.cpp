@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "OXMIDicAttributeBlock.h"
+#include "ZELHash.h"
 #include "ZanDicBlockAssertions.h"
 #include "ZanDicBlockPart.h"
 #include "ZanDicBlockTexts.h"
@@ -54,8 +55,8 @@ HRESULT RunPass(std::size_t pass, const ZELListPtrIUnknown& blocks) {
 std::vector<std::string_view> FindDuplicates(const ZanHashList& own) {
     std::vector<std::string_view> duplicates;
     if (own.Size() < 2) return duplicates;  // within a block a name is there once
-    std::unordered_set<std::string_view> names;
-    std::unordered_set<std::string_view> told;
+    std::unordered_set<std::string_view, ZELTextHash> names;
+    std::unordered_set<std::string_view, ZELTextHash> told;
     for (int position = own.Size(); position >= 1; --position) {
         const auto& block = static_cast<const ZanDicAttributeBlock&>(*own[position]);
         ZanDicBlockPart::ForEach(block.get_Attributes(), [&](const ZanDicAttribute& attribute) {
@@ -87,7 +88,7 @@ HRESULT CheckAttributes(const ZanDicClass& owner) {
 
 HRESULT CheckNames(const ZanDicClass& owner, const ZanDicVisibleBlocks& visible) {
     HRESULT result = S_OK;
-    std::unordered_set<std::string_view> names;
+    std::unordered_set<std::string_view, ZELTextHash> names;
     for (auto next = visible.List().rbegin(); next != visible.List().rend(); ++next) {
         const ZanDicAttributeBlock* const block = *next;
         assertion::kVisibleBlock.Require(block != nullptr);

@@ -12,6 +12,7 @@
 #include "TuningReading.h"
 #include "WordList.h"
 #include "ZANDicValueWords.h"
+#include "ZELHash.h"
 #include "ZELUuid.h"
 #include "ZanDicLoadRecord.h"
 #include "ZanDicProfiling.h"
@@ -91,7 +92,7 @@ void PackageLoad::Deliver(const PackageLoad& inner) {
     SetUnknownCause(inner.UnknownCause());
     if (Failed(rc)) {
         _Result = rc;
-        _FAILED.push_back(ZELString(BeforeFirstDot(_Needed.name.View())));
+        _FAILED.emplace(BeforeFirstDot(_Needed.name.View()));
         // What keeps a document from being found is told where it is asked for.
         if ((inner._IsFound || inner._IsKnownToFail) && inner.FirstFailure() != 0) {
             tell_Failed(_Needed.attribute.Name(), _Needed.name.View(), inner.FirstFailure());
@@ -342,7 +343,7 @@ void PackageLoad::read_Domain() {
 /// \returns the names of a list, each once, without the package itself.
 std::vector<ZELString> PackageLoad::read_Names(std::string_view attributeName, bool isPackageNameOnly) {
     std::vector<ZELString> names;
-    std::unordered_map<std::string_view, bool> isKnown;
+    std::unordered_map<std::string_view, bool, ZELTextHash> isKnown;
     WordList items(_Node.getAttributeValue(attributeName).value_or(std::string_view()));
     for (std::string_view item = items.Next(); !item.empty(); item = items.Next()) {
         const std::string_view package = BeforeFirstDot(item);
@@ -398,7 +399,7 @@ PackageLoad::StepResult PackageLoad::create_Package() {
 
 /// Notes a loaded package on this one. \returns whether to go on.
 bool PackageLoad::add_Package(std::string_view attributeName, const ZELString& name, bool isScope) {
-    if (std::find(_FAILED.begin(), _FAILED.end(), name) != _FAILED.end()) return true;
+    if (_FAILED.contains(std::string(name.View()))) return true;
     if (const PackageLoad* const open = _Run.Find(name.View()); open != nullptr && !open->IsCreated()) {
         return goes_On(E_FAIL);  // what kept it from being made is told already
     }

@@ -9,12 +9,14 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "FaultReport.h"
 #include "OXMDicTypes.h"
 #include "OXMIDicMgr.h"
 #include "Reading.h"
+#include "ZELHash.h"
 #include "ZELString.h"
 #include "ZELVBTXMLNode.h"
 #include "ZanDicRef.h"
@@ -35,9 +37,9 @@ struct LoadRun {
         int cause;
         int unknownCause;
     };
-    std::unordered_map<std::string, Failure> failed = {};
+    std::unordered_map<std::string, Failure, ZELTextHash> failed = {};
     /// The loads that are not over, by the name asked for and by the document's own.
-    std::unordered_map<std::string, PackageLoad*> inProgress = {};
+    std::unordered_map<std::string, PackageLoad*, ZELTextHash> inProgress = {};
     /// Those of them that made their package, in order of creation.
     std::vector<PackageLoad*> created = {};
 
@@ -187,10 +189,10 @@ private:
     std::unique_ptr<ZELVBTXMLDocument> _Document;
     ZELVBTXMLNode _Node;  ///< of the package
     std::unique_ptr<Reading> _Reading;
-    std::unique_ptr<TuningReading> _Tuning;  ///< between ReadTuning and EndTuning
-    std::vector<ZELString> _NAMES;           ///< packages that the current step needs
-    std::vector<std::string> _ENTERED;       ///< names of this load that are in progress
-    std::vector<ZELString> _FAILED;          ///< needed packages that could not be loaded
+    std::unique_ptr<TuningReading> _Tuning;                ///< between ReadTuning and EndTuning
+    std::vector<ZELString> _NAMES;                         ///< packages that the current step needs
+    std::vector<std::string> _ENTERED;                     ///< names of this load that are in progress
+    std::unordered_set<std::string, ZELTextHash> _FAILED;  ///< needed packages that could not be loaded
     std::size_t _NextName = 0;
     std::size_t _Order;
     std::size_t _Low;
