@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <string>
 #include <string_view>
 
 #include "ZANDicTags.h"
@@ -12,29 +13,42 @@ namespace {
 struct Table {
     std::string_view name;
     std::span<const CodeWord> words;
+    std::string_view listed;  ///< what Listed gives
 };
 
-/// Every table of value words.
+std::string Listed(std::span<const CodeWord> words) {
+    std::string listed;
+    for (const CodeWord& row : words) {
+        listed.append(listed.empty() ? "" : " ")
+            .append(row.word)
+            .append("=")
+            .append(std::to_string(row.code));
+    }
+    return listed;
+}
+
+/// Every table of value words, with the codes of the model.
 constexpr Table kTables[] = {
-    {"Content", kContentWords},
-    {"Visibility", kVisibilityWords},
-    {"AccessModeSimple", kAccessModeSimpleWords},
-    {"AccessModeRelation", kAccessModeRelationWords},
-    {"CaseMode", kCaseModeWords},
-    {"UpdateFacet", kUpdateFacetWords},
-    {"Collection", kCollectionWords},
-    {"Aggregation", kAggregationWords},
-    {"Scope", kScopeWords},
-    {"KVADerivable", kKVADerivableWords},
-    {"Primitive", kPrimitiveWords},
-    {"SimpleType", kSimpleTypeWords},
-    {"RelationType", kRelationTypeWords},
-    {"Kind", kKindWords},
-    {"IOMode", kIOModeWords},
-    {"Secured", kSecuredWords},
-    {"EventType", kEventTypeWords},
-    {"EventMode", kEventModeWords},
-    {"Target", kTargetWords},
+    {"Content", kContentWords, "metadata=0 tuning=1 rbodef=2 rbomap=3 metaplm=4"},
+    {"Visibility", kVisibilityWords, "Public=1 Protected=2 Private=3"},
+    {"AccessModeSimple", kAccessModeSimpleWords, "None=1 Read=2 Write=3 ReadWrite=4"},
+    {"AccessModeRelation", kAccessModeRelationWords, "Read=2 Write=3 ReadWrite=4"},
+    {"CaseMode", kCaseModeWords, "Upper=1 Lower=2 Mixed=3"},
+    {"UpdateFacet", kUpdateFacetWords, "IN=1 OUT=2 NEUTRAL=3"},
+    {"Collection", kCollectionWords, "Array=1 Bag=2 List=3 Set=4"},
+    {"Aggregation", kAggregationWords, "None=1 Shared=2 Composition=3"},
+    {"Scope", kScopeWords, "External=2 Vault=3"},
+    {"KVADerivable", kKVADerivableWords, "No=2 Yes=3 Multiple=4"},
+    {"Primitive", kPrimitiveWords,
+     "Boolean=1 Integer=2 Double=3 String=4 Binary=5 Date=6 Logical=7 URL=8 AnyObject=9"},
+    {"SimpleType", kSimpleTypeWords, "Boolean=1 Integer=2 Double=3 String=4 Binary=5 Date=6 Logical=7"},
+    {"RelationType", kRelationTypeWords, "Binary=5 String=4 URL=8"},
+    {"Kind", kKindWords, "In=1 Out=2 IO=3 Return=4"},
+    {"IOMode", kIOModeWords, "InComming=2 OutGoing=3"},
+    {"Secured", kSecuredWords, "None=1 Unconditional=2 Secured=3"},
+    {"EventType", kEventTypeWords, "Public=2 Protected=3 Private=4"},
+    {"EventMode", kEventModeWords, "After=1 Before=2 Veto=3"},
+    {"Target", kTargetWords, "AnyObject=9"},
 };
 
 class ValueWordsTest : public ::testing::TestWithParam<Table> {};
@@ -44,6 +58,10 @@ TEST_P(ValueWordsTest, EachWordGivesItsCodeAndEachCodeItsWord) {
         EXPECT_EQ(CodeOf(GetParam().words, row.word, -1), row.code) << row.word;
         EXPECT_EQ(WordOf(GetParam().words, row.code), row.word) << row.code;
     }
+}
+
+TEST_P(ValueWordsTest, HasTheWordsOfDocumentsAndTheCodesOfTheModel) {
+    EXPECT_EQ(Listed(GetParam().words), GetParam().listed);
 }
 
 TEST_P(ValueWordsTest, AnUnknownWordGivesTheOtherCodeAndAnUnknownCodeNoWord) {
@@ -61,14 +79,21 @@ TEST(ZANDicFormatTest, WordsAreComparedWithTheirCase) {
     EXPECT_EQ(CodeOf(kVisibilityWords, "Public ", 0), 0);
 }
 
-TEST(ZANDicFormatTest, TheCodesAreThoseOfTheModel) {
-    EXPECT_EQ(CodeOf(kKVADerivableWords, "Multiple", 0), 4);
-    EXPECT_EQ(CodeOf(kUpdateFacetWords, "NEUTRAL", 0), 3);
-    EXPECT_EQ(CodeOf(kCollectionWords, "Set", 0), 4);
-    EXPECT_EQ(CodeOf(kScopeWords, "Vault", 0), 3);
-    EXPECT_EQ(CodeOf(kIOModeWords, "InComming", 0), 2);
-    EXPECT_EQ(CodeOf(kIOModeWords, "OutGoing", 0), 3);
-    EXPECT_EQ(CodeOf(kPrimitiveWords, "URL", 0), 8);
+TEST(ZANDicFormatTest, AnyOtherWordStandsForACodeOfItsOwn) {
+    EXPECT_EQ(kOtherVisibility, 1);
+    EXPECT_EQ(kOtherAccessMode, 4);
+    EXPECT_EQ(kOtherAggregation, 1);
+    EXPECT_EQ(kOtherScope, 1);
+    EXPECT_EQ(kOtherKVADerivable, 1);
+    EXPECT_EQ(kOtherRelationType, 5);
+}
+
+TEST(ZANDicFormatTest, EachTagOfAnElementMakesItsKind) {
+    EXPECT_EQ(Listed(kElementTags),
+              "Package=11 Class=5 Instance=5 Extension=13 Simple=4 Relationship=6 Inverse=7 Unique=15 "
+              "Implement=17 Security=18 Interface=8 Method=9 Parameter=10 Enum=3 Enumerator=20 Category=2 "
+              "Command=16 BObject=12 RBOClass=22 RBOMapping=23 RBORoot=24 RBOComponent=25 "
+              "RBOPathExpression=26 AttributeBlock=21 AttributeBlockExtension=21");
 }
 
 TEST(ZANDicFormatTest, NoneIsAnAccessModeOfSimpleAttributesOnly) {
