@@ -79,7 +79,7 @@ std::vector<FuzzDocument> SplitIntoDocuments(std::string_view input, std::size_t
     return documents;
 }
 
-FuzzDirectory::FuzzDirectory() : _Path(std::string(Parent()) + "/zandicXXXXXX") {
+FuzzDirectory::FuzzDirectory() : _Path(std::string(Parent()) + "/fuzzXXXXXX") {
     Require(::mkdtemp(_Path.data()) != nullptr, "a directory for documents can be made");
 }
 

@@ -2,7 +2,7 @@
 // and unloaded in an order of the input's while the others still refer to them. Whether faults end a load or
 // not, the results are the same; nothing is left at the end.
 
-#include <algorithm>
+#include <optional>
 
 #include "DumpJson.h"
 #include "FuzzSupport.h"
@@ -13,11 +13,14 @@ namespace {
 
 constexpr std::size_t kMostDocuments = 8;
 
+/// \param goesOn whether a load goes on after faults. \param isThorough how a load goes on.
 std::vector<HRESULT> LoadAll(OXMIDicMgr& manager, const FuzzDirectory& directory,
-                             const std::vector<FuzzDocument>& documents) {
+                             const std::vector<FuzzDocument>& documents, bool goesOn, bool isThorough) {
     std::vector<HRESULT> results;
     for (const FuzzDocument& document : documents) {
         if (document.extension != "metadata") continue;
+        std::optional<FuzzObserver> observer;
+        if (goesOn) observer.emplace(isThorough);
         const ZELString name(document.package);
         results.push_back(manager.LoadPackageFromDir(directory.Path().c_str(), &name, OXMDicPERSISTENT_Xml));
     }
@@ -44,13 +47,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     directory.Fill(documents);
 
     const int objectsBefore = ZanDicObj::live_Objects();
-    const std::vector<HRESULT> stopping = LoadAll(manager, directory, documents);
+    const std::vector<HRESULT> stopping = LoadAll(manager, directory, documents, false, false);
     const std::string loaded = tool::DumpText(zandic::Dictionary::Open());
     UnloadOneByOne(manager, NumberOf(input));
     UnloadAll(manager, objectsBefore);
 
-    const FuzzObserver observer(NumberOf(input) % 2 == 0);
-    const std::vector<HRESULT> goingOn = LoadAll(manager, directory, documents);
+    const bool isThorough = NumberOf(input) % 2 == 0;
+    const std::vector<HRESULT> goingOn = LoadAll(manager, directory, documents, true, isThorough);
     Require(stopping == goingOn, "going on after faults changes nothing of the results");
     Require(tool::DumpText(zandic::Dictionary::Open()) == loaded,
             "going on after faults changes nothing of what is loaded");

@@ -10,11 +10,13 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
+#include <span>
 
 #include "CallTable.h"
 #include "Caller.h"
 #include "FuzzSupport.h"
 #include "GuardedFileCalls.h"
+#include "OXMIDicElementH.h"
 #include "OXMIDicPackage.h"
 #include "ZanDicObj.h"
 #include "ZanDicTraceSettings.h"
@@ -23,11 +25,24 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// How many calls of the table there are to one of the other steps.
-constexpr std::size_t kCallsToStep = 6;
+/// The rows of one interface.
+using Rows = std::span<const CallRow>;
 
-using Step = void (Caller::*)();
-constexpr Step kSteps[] = {&Caller::LetGoOfOne, &Caller::Ask, &Caller::Construct};
+const std::vector<Rows>& RowsByInterface() {
+    static const std::vector<Rows> interfaces = [] {
+        std::vector<Rows> made;
+        Rows rest = CallRows();
+        while (!rest.empty()) {
+            const auto end = std::find_if_not(rest.begin(), rest.end(), [&](const CallRow& row) {
+                return row.interface == rest.front().interface;
+            });
+            made.push_back(rest.first(static_cast<std::size_t>(end - rest.begin())));
+            rest = rest.subspan(made.back().size());
+        }
+        return made;
+    }();
+    return interfaces;
+}
 
 /// The documents that calls find: those of the tests that load.
 class Documents {
@@ -36,7 +51,12 @@ public:
         for (const auto& entry : fs::directory_iterator(ZANDIC_TEST_DATA "/good")) {
             const std::string name = entry.path().filename().string();
             _Directory.Write(name, FuzzFileText(entry.path().string()));
-            if (!name.ends_with(".tuning")) _PACKAGES.push_back(name.substr(0, name.find('.')));
+            const std::size_t dot = name.find('.');
+            if (name.ends_with(".metadata")) {
+                _PACKAGES.push_back(name.substr(0, dot));
+            } else if (!name.ends_with(".tuning")) {
+                _PACKAGES.push_back(name);
+            }
         }
         std::sort(_PACKAGES.begin(), _PACKAGES.end());
     }
@@ -62,24 +82,58 @@ void Begin(Caller& caller, const Documents& documents) {
     }
 }
 
-void MakeCall(Caller& caller, const CallRow& row, bool tells) {
-    if (row.interface == OXMIDicMgr::ClassId()) {
-        if (tells) std::fprintf(stderr, "%.*s\n", static_cast<int>(row.Name().size()), row.Name().data());
-        row.call(caller, caller.Manager());
-    } else if (IUnknown* const face = caller.Pick(row.interface)) {
-        if (tells) std::fprintf(stderr, "%.*s\n", static_cast<int>(row.Name().size()), row.Name().data());
-        row.call(caller, *face);
-        face->Release();
-    }
+void MakeCall(Caller& caller, const CallRow& row, IUnknown& face) {
+    static const bool tells = std::getenv("ZANDIC_FUZZ_TELL") != nullptr;
+    if (tells) std::fprintf(stderr, "%.*s\n", static_cast<int>(row.Name().size()), row.Name().data());
+    row.call(caller, face);
     caller.TakeLists();
 }
+
+/// Any operation of the manager.
+void CallManager(Caller& caller) {
+    const Rows& rows = RowsByInterface().front();
+    MakeCall(caller, rows[caller.Bytes().Below(rows.size())], caller.Manager());
+}
+
+/// Any operation of an object that is held.
+void CallObject(Caller& caller) {
+    const std::vector<Rows>& interfaces = RowsByInterface();
+    IUnknown* const object = caller.Pick(OXMIDicElementH::ClassId());
+    const std::size_t start = caller.Bytes().Below(interfaces.size());
+    const std::size_t operation = caller.Bytes().Byte();
+    if (object == nullptr) return CallManager(caller);
+    for (std::size_t step = 0; step < interfaces.size(); ++step) {
+        const Rows& rows = interfaces[(start + step) % interfaces.size()];
+        void* face = nullptr;
+        if (Failed(object->QueryInterface(rows.front().interface, &face))) continue;
+        MakeCall(caller, rows[operation % rows.size()], *static_cast<IUnknown*>(face));
+        static_cast<IUnknown*>(face)->Release();
+        break;
+    }
+    object->Release();
+}
+
+/// What an input takes as its next step: objects are called most.
+constexpr void (*kSteps[])(Caller&) = {
+    CallObject,
+    CallObject,
+    CallObject,
+    CallObject,
+    CallObject,
+    CallObject,
+    CallObject,
+    CallManager,
+    CallManager,
+    [](Caller& caller) { caller.LetGoOfOne(); },
+    [](Caller& caller) { caller.Ask(); },
+    [](Caller& caller) { caller.Construct(); },
+};
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const Documents documents;
     static FuzzDirectory writable;
-    static const bool tells = std::getenv("ZANDIC_FUZZ_TELL") != nullptr;
     OXMIDicMgr& manager = FuzzManager();
     manager.End();
     const int objectsBefore = ZanDicObj::live_Objects();
@@ -90,17 +144,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Caller caller({reinterpret_cast<const char*>(data), size}, manager, documents.Path(),
                       documents.Packages(), writable.Path());
         Begin(caller, documents);
-        const std::span<const CallRow> rows = CallRows();
-        while (!caller.Bytes().IsAtEnd()) {
-            const unsigned drawn = caller.Bytes().Word();
-            if (drawn % (kCallsToStep + 1) == kCallsToStep) {
-                const std::size_t step = drawn / (kCallsToStep + 1) % std::size(kSteps);
-                if (tells) std::fprintf(stderr, "step %zu\n", step);
-                (caller.*kSteps[step])();
-            } else {
-                MakeCall(caller, rows[drawn / (kCallsToStep + 1) % rows.size()], tells);
-            }
-        }
+        while (!caller.Bytes().IsAtEnd()) kSteps[caller.Bytes().Below(std::size(kSteps))](caller);
         if (files.HasWritten()) writable.Clear();
     }
     manager.End();

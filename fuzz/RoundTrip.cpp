@@ -1,6 +1,7 @@
 // What can be loaded is saved, loaded and saved again: the models are the same but for what documents leave
 // out on purpose, the second documents the same byte for byte. EXPRESS schemas are written on the way.
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "DumpJson.h"
@@ -18,6 +19,18 @@ std::string Dump() { return tool::DumpText(zandic::Dictionary::Open()); }
 bool Load(OXMIDicMgr& manager, const FuzzDirectory& directory, const std::string& package) {
     const ZELString name(package);
     return Succeeded(manager.LoadXml(directory.Path().c_str(), &name, OXMDicCONTENT_metadata));
+}
+
+/// Whether files can be named after the packages. Others are not saved.
+bool HaveNamesOfFiles(const std::vector<std::string>& packages) {
+    return std::none_of(packages.begin(), packages.end(), [](const std::string& name) {
+        return name.empty() || name.find_first_of("./\\") != name.npos;
+    });
+}
+
+bool LoadAll(OXMIDicMgr& manager, const FuzzDirectory& directory, const std::vector<std::string>& packages) {
+    return std::all_of(packages.begin(), packages.end(),
+                       [&](const std::string& name) { return Load(manager, directory, name); });
 }
 
 void SaveAll(OXMIDicMgr& manager, const FuzzDirectory& directory, OXMDicPERSISTENT mode) {
@@ -46,8 +59,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     auto documents = SplitIntoDocuments({reinterpret_cast<const char*>(data), size}, kMostDocuments);
     std::erase_if(documents, [](const FuzzDocument& document) { return document.extension == "tuning"; });
     given.Fill(documents);
-    const std::string& package = documents.front().package;
-    if (Load(manager, given, package)) {
+    const bool isLoaded = Load(manager, given, documents.front().package);
+    const std::vector<std::string> packages = LoadedPackages(manager);
+    if (isLoaded && HaveNamesOfFiles(packages)) {
         first.Clear();
         second.Clear();
         schemas.Clear();
@@ -57,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Require(Dump() == loaded, "saving changes nothing");
         UnloadAll(manager, objectsBefore);
 
-        Require(Load(manager, first, package), "what was saved loads");
+        Require(LoadAll(manager, first, packages), "what was saved loads");
         const std::string again = Dump();
         SaveAll(manager, second, OXMDicPERSISTENT_Xml);
         Require(tool::Normalised(again) == tool::Normalised(loaded), "what was saved loads as it was");
