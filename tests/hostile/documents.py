@@ -31,13 +31,14 @@ END = "</Package>\n"
 # Names that collide in hash tables of standard libraries which know no seed, whatever they hold besides: two
 # words of eight bytes, which differ by one bit in the middle of the function that several of them use. Given
 # twice, either word leaves the same state behind.
+MOST_COLLIDING = 1 << 17
 WORDS = ("dM%k\U000519f6", "dM\u210cwOE")
 
 
 def colliding_names(count):
     """Yields that many names, all of the same length in bytes, with one such hash."""
     pairs = [word * 2 for word in WORDS]
-    bits = max(1, (count - 1).bit_length())
+    bits = MOST_COLLIDING.bit_length() - 1
     for number in range(count):
         yield "".join(pairs[number >> bit & 1] for bit in range(bits))
 
