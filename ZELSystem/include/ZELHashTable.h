@@ -48,8 +48,8 @@ public:
         swap_Content(other);
     }
     ZELHashTable& operator=(const ZELHashTable& other) {
-        ZELHashTable copy(other);
-        return *this = std::move(copy);
+        *this = ZELHashTable(other);
+        return *this;
     }
     ZELHashTable& operator=(ZELHashTable&& other) noexcept {
         _Hash = other._Hash;
