@@ -118,7 +118,6 @@ private:
         return sizeof(Head) > alignof(T) ? sizeof(Head) : alignof(T);
     }
     static constexpr std::size_t BytesFor(int capacity) noexcept {
-        // NOLINTNEXTLINE(bugprone-sizeof-expression): T may be a pointer, and is meant as it is.
         const std::size_t bytes = ElementsOffset() + static_cast<std::size_t>(capacity) * sizeof(T);
         return (bytes + 15) / 16 * 16;
     }

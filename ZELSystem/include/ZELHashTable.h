@@ -48,8 +48,8 @@ public:
         swap_Content(other);
     }
     ZELHashTable& operator=(const ZELHashTable& other) {
-        *this = ZELHashTable(other);
-        return *this;
+        ZELHashTable copy(other);
+        return *this = std::move(copy);  // NOLINT(misc-unconventional-assign-operator): it is *this
     }
     ZELHashTable& operator=(ZELHashTable&& other) noexcept {
         _Hash = other._Hash;

@@ -53,7 +53,6 @@ public:
     /// Lets it fetch what is \p offset bytes behind the begin of the object, which may be null.
     [[gnu::always_inline]] void PrefetchObject(std::uintptr_t offset) const {
         const auto begin = reinterpret_cast<std::uintptr_t>(places[_Place].object);
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): never read; of null there is no place inside.
         __builtin_prefetch(reinterpret_cast<const void*>(begin + offset));
     }
 

@@ -62,7 +62,6 @@ private:
     static constexpr std::uint32_t kNone = 0xFFFFFFFF;
 
     static ZanDicObj* object_In(Entry entry) noexcept {
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): an entry is an address and what fits beside it.
         return reinterpret_cast<ZanDicObj*>(entry & ((Entry{1} << kAddressBits) - 1));
     }
     /// The low bits of the key: the high ones say where an entry is at home.
