@@ -273,6 +273,20 @@ TEST_F(ZanDicObjTest, EveryObjectAnswersIdentityInterfaces) {
     EXPECT_EQ(name, "Part");
 }
 
+TEST_F(ZanDicObjTest, ItsInterfaceGivesAFreeAttributeByName) {
+    auto* const object = new ZanDicObj("Part", TestUuid(1));
+    Held<OXMIDicElementH> element;
+    object->QueryInterface(IID_OXMIDicElementH, element.OutVoid());
+    object->Release();
+    ZELUnicodeString value;
+
+    EXPECT_EQ(element->SetOtherAttribute("Colour", "red"), S_OK);
+
+    EXPECT_EQ(element->GetOtherAttribute("Colour", value), S_OK);
+    EXPECT_EQ(value, ZELUnicodeString("red"));
+    EXPECT_EQ(element->GetOtherAttribute("Weight", value), E_FAIL);
+}
+
 TEST_F(ZanDicObjTest, TheApplicationsInterfaceSpeaksOfTheSameObject) {
     auto* const object = new ZanDicObj("Part", TestUuid(1));
     Held<OXMIDicApp> app;

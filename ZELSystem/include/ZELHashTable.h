@@ -49,7 +49,7 @@ public:
     }
     ZELHashTable& operator=(const ZELHashTable& other) {
         ZELHashTable copy(other);
-        return *this = std::move(copy);  // NOLINT(misc-unconventional-assign-operator): it is *this
+        return *this = std::move(copy);
     }
     ZELHashTable& operator=(ZELHashTable&& other) noexcept {
         _Hash = other._Hash;
