@@ -41,6 +41,14 @@ TEST_F(OxmDicFromXMLCheckTest, ADirectSubclassOfTheInheritedTargetPasses) {
     EXPECT_EQ(LoadRedefinition(1, 2), S_OK);
 }
 
+TEST_F(OxmDicFromXMLCheckTest, AClassFurtherBelowTheInheritedTargetPasses) {
+    EXPECT_EQ(
+        LoadBody(ClassTag("Target", 1) + ClassTag("SubTarget", 2, Super(1)) + ClassTag("Below", 7, Super(2)) +
+                 ClassTag("Super", 3, "", Member("Relationship", 4, Target(1))) +
+                 ClassTag("Sub", 5, Super(3), Member("Relationship", 6, Target(7)))),
+        S_OK);
+}
+
 TEST_F(OxmDicFromXMLCheckTest, TheInheritedTargetItselfPassesAsARoot) {
     EXPECT_EQ(LoadRedefinition(1, 1), S_OK);
 }
@@ -138,6 +146,25 @@ TEST_F(OxmDicFromXMLCheckTest, WhatAFailedTargetCausesIsNoFaultAgain) {
     ASSERT_EQ(faults.rows.size(), 2U) << faults.Summary();
     EXPECT_EQ(faults.rows[0].code, ZanDicDiagnosticCode::ReferenceNotFound);
     EXPECT_EQ(faults.rows[1].code, ZanDicDiagnosticCode::ReferenceNotFound);
+}
+
+TEST_F(OxmDicFromXMLCheckTest, ARelationshipThatWasLeftOutIsNoFaultAgain) {
+    FaultCollector faults;
+
+    EXPECT_EQ(LoadHierarchy(Member("Relationship", 4, Target(1)), Member("Relationship", 4, Target(1))),
+              E_FAIL);
+
+    ASSERT_EQ(faults.rows.size(), 1U) << faults.Summary();
+    EXPECT_EQ(faults.rows[0].code, ZanDicDiagnosticCode::DuplicateUuid);
+}
+
+TEST_F(OxmDicFromXMLCheckTest, ARelationshipThatWasNotMadeIsNoFaultAgain) {
+    FaultCollector faults;
+
+    EXPECT_EQ(LoadHierarchy(Member("Relationship", 4, Target(1)), "<Relationship Name=\"To\"/>"), E_FAIL);
+
+    ASSERT_EQ(faults.rows.size(), 1U) << faults.Summary();
+    EXPECT_EQ(faults.rows[0].code, ZanDicDiagnosticCode::MissingAttribute);
 }
 
 TEST_F(OxmDicFromXMLCheckTest, TheFaultNamesTheInheritedSide) {

@@ -253,6 +253,16 @@ TEST_F(OxmDicToEXPRESSTest, WithoutDirectoryItGoesWhereThePackagesDocumentIs) {
     EXPECT_TRUE(std::filesystem::exists(directory.Path("two/P.express")));
 }
 
+TEST_F(OxmDicToEXPRESSTest, WithoutDirectoryAndPathThereIsNoPlace) {
+    const Held<OXMIDicPackage> package = MakePackage("P");
+    const ZELString name("P");
+    ClearWritten();
+
+    EXPECT_EQ(OxmDicToEXPRESS(&Manager(), &name, nullptr), E_FAIL);
+
+    EXPECT_EQ(WrittenErrors(), "ERROR : no directory for the schema of Package P\n");
+}
+
 TEST_F(OxmDicToEXPRESSTest, TheManagerSaysNothingOfAMissingPath) {
     const Held<OXMIDicPackage> package = MakePackage("P");
     const ZELString name("P");

@@ -327,6 +327,21 @@ TEST_F(OxmDicToXMLTest, CharactersThatXMLDoesNotAllowAreReplacedWithAWarning) {
               "does not allow were replaced.\n");
 }
 
+TEST_F(OxmDicToXMLTest, TheyAreReplacedInTextsOfAttributesToo) {
+    const Held<OXMIDicPackage> package = MakePackage("P");
+    const Held<OXMIDicClass> element = MakeClass(*package, "C", 2);
+    const Held<OXMIDicSimple> simple = MakeSimple(*element, "S", 3, OXMDicPRIMITIVEType_String);
+    const ZELUnicodeString value("a\x02");
+    simple->SetDefault(&value);
+    ClearWritten();
+
+    EXPECT_THAT(SavedText("P"), HasSubstr("Default=\"a\xef\xbf\xbd\""));
+
+    EXPECT_EQ(Written(),
+              "OxmDicToXML:DisplaySimple -- *** WARNING *** Simple S, attribute Default: characters that XML "
+              "does not allow were replaced.\n");
+}
+
 TEST_F(OxmDicToXMLTest, UsedPackagesThatCannotStandInAListAreLeftOutWithAWarning) {
     const Held<OXMIDicPackage> package = MakePackage("P");
     const Held<OXMIDicPackage> blank = MakePackage("two words", 2);

@@ -343,6 +343,29 @@ TEST_F(ZanDicClassHierarchyTest, ADeepHierarchyAnswersAtEveryLevel) {
     EXPECT_TRUE(SameObject(*inherited, *first));
 }
 
+TEST_F(ZanDicClassHierarchyTest, AnAttributeThatEveryLevelRedefinesIsTheLowestOne) {
+    std::vector<Held<OXMIDicClass>> chain;
+    chain.push_back(Class(*items, "C0"));
+    for (int level = 1; level <= 30; ++level) {
+        chain.push_back(SubClass(*items, ("C" + std::to_string(level)).c_str(), *chain.back()));
+    }
+    std::vector<Held<OXMIDicSimple>> masses;
+    for (const auto& level : chain) masses.push_back(Simple(*level, "mass"));
+    HeldList ofLast;
+    HeldList ofMiddle;
+    Held<OXMIDicElement> redefined;
+
+    EXPECT_EQ(chain[30]->GetAllElements(&ofLast), S_OK);
+    EXPECT_EQ(chain[15]->GetAllElements(&ofMiddle), S_OK);
+    EXPECT_EQ(QueryFor<OXMIDicAttribute>(*masses[30])->GetSpecializedAttribute(redefined.Out()), S_OK);
+
+    ASSERT_EQ(NamesOf(ofLast), "mass ");
+    EXPECT_TRUE(SameObject(*ofLast[1], *masses[30]));
+    ASSERT_EQ(NamesOf(ofMiddle), "mass ");
+    EXPECT_TRUE(SameObject(*ofMiddle[1], *masses[15]));
+    EXPECT_TRUE(SameObject(*redefined, *masses[29]));
+}
+
 TEST_F(ZanDicClassHierarchyTest, AHundredThousandLevelsAreNoLimit) {
     constexpr int kDepth = 100000;
     std::vector<Held<OXMIDicClass>> chain;

@@ -84,6 +84,22 @@ TEST_F(ZanDicClassMethodsTest, RefusesNullArguments) {
     EXPECT_EQ(made, nullptr);
 }
 
+TEST_F(ZanDicClassMethodsTest, AClassGivesItsSuperClassesAsInterfacesToo) {
+    const auto part = Class(*items, "Part");
+    const auto screw = SubClass(*items, "Screw", *part);
+    Held<OXMIDicInterface> superInterface;
+    HeldList superInterfaces;
+
+    EXPECT_EQ(part->SetSuperInterface(nullptr), E_FAIL);
+    EXPECT_EQ(part->GetSuperInterface(superInterface.Out()), S_FALSE);
+    EXPECT_FALSE(superInterface);
+    EXPECT_EQ(screw->GetSuperInterface(superInterface.Out()), S_OK);
+    EXPECT_EQ(screw->GetSuperInterfaces(&superInterfaces), S_FALSE);
+
+    EXPECT_TRUE(SameObject(*superInterface, *part));
+    EXPECT_EQ(NamesOf(superInterfaces), "Part ");
+}
+
 TEST_F(ZanDicClassMethodsTest, CreateMethodWithoutUuidIsObsoleteAndItsLineHasAStop) {
     OXMIDicMethod* made = nullptr;
     ClearWritten();

@@ -1,6 +1,7 @@
 #include "ZanDicLinkList.h"
 
 #include <memory>
+#include <utility>
 
 #include "DictionaryFixture.h"
 
@@ -87,6 +88,17 @@ TEST_F(ZanDicLinkListTest, DoesNotCountWhatIsGone) {
 
     EXPECT_EQ(Walk(), std::vector<ZanDicObj*>{second.Get()});
     EXPECT_FALSE(list.Append(*first));
+}
+
+TEST_F(ZanDicLinkListTest, AMovedListHoldsWhatItWasMadeOf) {
+    const auto first = Object(1);
+    list.Append(*first);
+
+    ZanDicLinkList<ZanDicObj> moved(std::move(list));
+    EXPECT_TRUE(moved.Holds(*first));
+
+    list = std::move(moved);
+    EXPECT_EQ(Walk(), std::vector<ZanDicObj*>{first.Get()});
 }
 
 TEST_F(ZanDicLinkListTest, RemoveAllEmptiesIt) {

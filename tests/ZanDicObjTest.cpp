@@ -297,6 +297,43 @@ TEST_F(ZanDicObjTest, EveryObjectAnswersIdentityInterfaces) {
     EXPECT_EQ(name, "Part");
 }
 
+TEST_F(ZanDicObjTest, ItsInterfaceGivesAFreeAttributeByName) {
+    auto* const object = new ZanDicObj("Part", TestUuid(1));
+    Held<OXMIDicElementH> element;
+    object->QueryInterface(IID_OXMIDicElementH, element.OutVoid());
+    object->Release();
+    ZELUnicodeString value;
+
+    EXPECT_EQ(element->SetOtherAttribute("Colour", "red"), S_OK);
+
+    EXPECT_EQ(element->GetOtherAttribute("Colour", value), S_OK);
+    EXPECT_EQ(value, ZELUnicodeString("red"));
+    EXPECT_EQ(element->GetOtherAttribute("Weight", value), E_FAIL);
+}
+
+TEST_F(ZanDicObjTest, TheApplicationsInterfaceSpeaksOfTheSameObject) {
+    auto* const object = new ZanDicObj("Part", TestUuid(1));
+    Held<OXMIDicApp> app;
+    object->QueryInterface(IID_OXMIDicApp, app.OutVoid());
+    const ZELString name("Piece");
+    const ZELDbBinary uuid = TestUuid(2);
+    ZELDbBinary present;
+    OXMDicTYPE type = OXMDicTYPE_Class;
+
+    EXPECT_EQ(app->GetUuid(&present), S_OK);
+    EXPECT_EQ(present, TestUuid(1));
+    EXPECT_EQ(app->SetUuid(&uuid), E_FAIL);  // as ZanDicObj::SetUuid
+    EXPECT_EQ(app->SetName(&name), S_OK);
+    EXPECT_EQ(app->GetType(&type), S_OK);
+
+    EXPECT_EQ(object->Uuid(), uuid);
+    EXPECT_EQ(object->Name(), name);
+    EXPECT_EQ(type, object->Type());
+    app->GenUuid();
+    EXPECT_NE(object->Uuid(), uuid);
+    object->Release();
+}
+
 // UUIDs and the registry.
 
 TEST_F(ZanDicObjTest, SetUuidAlwaysReportsFailure) {

@@ -318,6 +318,22 @@ TEST_F(ZanHashListTest, CopiesAndAssigns) {
     EXPECT_EQ(list.Size(), 0);
 }
 
+TEST_F(ZanHashListTest, ACopyOfALongListFindsAllAndIsAListOfItsOwn) {
+    const auto objects = MakeObjects(1000);
+    for (const auto& object : objects) ASSERT_EQ(list.Append(object.get()), S_OK);
+    ZanDicObj* found = nullptr;
+
+    const ZanHashList copy(list);
+    list.clear();
+
+    EXPECT_EQ(copy.Size(), 1000);
+    EXPECT_EQ(copy.Search("O1", &found), S_OK);
+    EXPECT_EQ(found, objects.front().get());
+    EXPECT_EQ(copy.Search("O1000", &found), S_OK);
+    EXPECT_EQ(found, objects.back().get());
+    EXPECT_EQ(copy.Search("O1001", &found), E_FAIL);
+}
+
 TEST_F(ZanHashListTest, FindsEachOfManyObjectsAndAllWhileTheyAreRemoved) {
     const auto objects = MakeObjects(1000);
     list.reserve(500);

@@ -7,6 +7,7 @@
 #include "OXMIDicEnum.h"
 #include "OXMIDicRelationship.h"
 #include "OXMIDicSimple.h"
+#include "ZELTestDirectory.h"
 #include "zandic.hpp"
 
 namespace {
@@ -117,6 +118,20 @@ TEST_F(ZandicHppTest, AllListsInOrder) {
               (Names{"Grade", "Density"}));
     EXPECT_EQ(NamesOf(zandic::All<OXMIDicClass>(*ClassNamed("BomItem"), &OXMIDicClass::GetSubClasses)),
               (Names{"BomPart", "BomRawMaterial"}));
+}
+
+TEST_F(ZandicHppTest, WhatAPackageAndAClassHoldHasNamesOfItsOwn) {
+    const auto package = dictionary.Package("BomItems");
+    const auto part = ClassNamed("BomPart");
+
+    EXPECT_EQ(NamesOf(zandic::Elements(*package)).front(), "BomLogistics");
+    EXPECT_EQ(NamesOf(zandic::Classes(*package)).front(), "BomItem");
+    EXPECT_EQ(NamesOf(zandic::SubClasses(*ClassNamed("BomItem"))), (Names{"BomPart", "BomRawMaterial"}));
+    EXPECT_EQ(NamesOf(zandic::OwnAttributes(*ClassNamed("BomRawMaterial"))), (Names{"Grade", "Density"}));
+    EXPECT_EQ(NamesOf(zandic::Attributes(*part)).front(), "ItemNumber");
+    const auto blocks = zandic::Blocks(*part);
+    EXPECT_EQ(NamesOf(blocks), (Names{"Commercial", "Identity", "Life cycle"}));
+    EXPECT_EQ(NamesOf(zandic::Attributes(*blocks.begin())), (Names{"UnitCost", "Supplier"}));
 }
 
 TEST_F(ZandicHppTest, AllTakesAGetterWithAReferenceToo) {
@@ -274,6 +289,24 @@ TEST_F(ZandicHppTest, TheDictionaryLoadsAndFinds) {
     const auto found = dictionary.Search(*zandic::ParseUuid("5AAF3900-5E46-4551-BB9AE4FD947B8003"));
     EXPECT_EQ(zandic::Name(*found).View(), "BomPart");
     EXPECT_FALSE(dictionary.Search(TestUuid(1)));
+}
+
+TEST_F(ZandicHppTest, UnloadTakesAPackageOut) {
+    EXPECT_TRUE(dictionary.Unload("BomItems"));
+
+    EXPECT_FALSE(dictionary.Package("BomItems"));
+    EXPECT_EQ(dictionary.Unload("BomItems"), zandic::Result(E_FAIL));
+}
+
+TEST_F(ZandicHppTest, AFaultOfADocumentIsToldWithItsPlace) {
+    const TestDirectory directory;
+    directory.MakeFile("Faulty.metadata",
+                       "<Package Name=\"Faulty\" Uuid=\"1\">\n  <Class Name=\"C\"/>\n</Package>\n");
+
+    const zandic::Result loaded = dictionary.Load("Faulty", directory.Path().c_str());
+
+    EXPECT_FALSE(loaded);
+    EXPECT_TRUE(loaded.Text().starts_with(directory.Path("Faulty.metadata:2:3: "))) << loaded.Text();
 }
 
 TEST_F(ZandicHppTest, LoadWithoutDirectoriesTakesThePathOfTheEnvironment) {

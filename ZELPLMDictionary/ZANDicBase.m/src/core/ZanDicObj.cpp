@@ -301,7 +301,8 @@ HRESULT ZanDicObj::SetOtherAttribute(const ZELUnicodeString& name, const ZELUnic
 }
 
 HRESULT ZanDicObj::GetOtherAttribute(const ZELUnicodeString& name, ZELUnicodeString& value) const {
-    const ZELUnicodeString wanted = name;  // the caller may pass one string as both
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the caller may pass one string as both.
+    const ZELUnicodeString wanted = name;
     value = ZELUnicodeString("");
     if (wanted.IsEmpty() || !_Rare) return E_FAIL;
 

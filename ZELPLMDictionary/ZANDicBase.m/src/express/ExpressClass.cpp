@@ -11,7 +11,7 @@
 namespace {
 
 using namespace express;
-using std::literals::operator""sv;
+using namespace std::literals;
 using ZANDicFormat::FindCode;
 using ZANDicFormat::WordOf;
 

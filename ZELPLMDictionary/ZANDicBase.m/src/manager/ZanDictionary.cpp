@@ -154,7 +154,7 @@ std::vector<ZanDicObj*> ZanDictionary::take_All() {
         }
     };
 
-    taken.reserve(static_cast<std::size_t>(_OBJECTS.Size() + kPrimitiveCount));
+    taken.reserve(static_cast<std::size_t>(_OBJECTS.Size()) + kPrimitiveCount);
     for (int position = 1; position <= _PACKAGES.Size(); ++position) taken.push_back(_PACKAGES[position]);
     _PACKAGES.clear();
     _LOADS.clear();

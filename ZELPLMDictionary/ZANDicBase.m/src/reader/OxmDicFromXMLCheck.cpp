@@ -74,7 +74,7 @@ public:
         }
         const ZanDicRef<OXMIDicClass> target = TargetOf(*own);
         if (!target) {
-            if (is_Untargeted(*own)) return S_OK;
+            if (is_Untargeted(*own) || is_LeftOut(node)) return S_OK;
             return Report(node, *inherited, "it has no target class",
                           {Joined({text::kNoTargetOf, name.View(), text::kRelationshipOf, text::kCurrentClass,
                                    _ClassName.View()})});
