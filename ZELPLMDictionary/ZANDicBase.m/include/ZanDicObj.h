@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <vector>
 
 #include "OXMDicTypes.h"
 #include "OXMIDicIdentifiers.h"
@@ -17,6 +16,7 @@
 #include "ZELUnicodeString.h"
 #include "ZanDicExport.h"
 
+class ZanDicTaken;
 class ZanHashList;
 
 /// What an object holds only when it was set: kept apart, so that the many objects without pay one word.
@@ -152,9 +152,9 @@ public:
     void mark_Gone();
     bool is_Registered() const { return _Registered; }
     void set_Registered(bool registered) { _Registered = registered; }
-    /// Moves the references that this object owns, those on private lists included, to the end of
-    /// \p owned; its own lists are empty after that. Writes nothing.
-    virtual void take_Owned(std::vector<ZanDicObj*>& owned);
+    /// Lets \p owned take the references that this object owns, those on private lists included; its own
+    /// lists are empty after that. Writes nothing.
+    virtual void take_Owned(ZanDicTaken& owned);
 
     /// Fetches what a lookup reads of an object into the cache, or, of one that is there, what a query and a
     /// new link touch.
