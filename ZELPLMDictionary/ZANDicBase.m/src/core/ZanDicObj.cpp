@@ -20,11 +20,19 @@ namespace {
 
 constexpr int kCategoriesSize = 29;
 
-/// The name of an object without one. Shared, as default objects are made while others are taken down.
-const ZELString& UndefinedName() {
-    static const ZELString name("UNDEFINED");
-    return name;
+/// Names that traces need while objects are taken down: there from the start, so that no memory is needed
+/// then, and until the process ends.
+struct SharedNames {
+    ZELString undefined{"UNDEFINED"};  ///< of an object without a name
+    ZELString noPackage{"?"};
+};
+
+const SharedNames& Shared() {
+    static const SharedNames* const names = new SharedNames;
+    return *names;
 }
+
+[[maybe_unused]] const SharedNames& kMadeAtLoad = Shared();
 
 constexpr ZanDicTraceScope kConstructor("ZanDicObj::ZanDicObj");
 constexpr ZanDicTraceScope kDestructor("ZanDicObj::~ZanDicObj");
@@ -110,7 +118,7 @@ std::unique_ptr<ZanDicRareFields> ZanDicRareFields::Copy() const {
 }
 
 ZanDicObj::ZanDicObj()
-    : _Name(UndefinedName()), _Registered(false), _Gone(false), _Unnamed(false), _Noted(false) {
+    : _Name(Shared().undefined), _Registered(false), _Gone(false), _Unnamed(false), _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Call)) return;
     kConstructor.Line(TraceLevel::Call) << "_Type=" << _Type << ", _Name=" << _Name;
@@ -373,10 +381,7 @@ void ZanDicObj::Dump(const char* caller) const {
     ZanDicWriteAlways(label + "_Type=" + std::to_string(static_cast<int>(_Type)) + "-" + typeName + ".");
 }
 
-ZELString ZanDicObj::get_PackageName() const {
-    static const ZELString none("?");
-    return none;
-}
+ZELString ZanDicObj::get_PackageName() const { return Shared().noPackage; }
 
 void ZanDicObj::mark_Gone() {
     if (_Gone) return;

@@ -35,7 +35,8 @@ constexpr const char* kPrimitiveNames[] = {"Boolean", "Integer", "Double", "Stri
 static_assert(std::size(kPrimitiveNames) == OXMDicPRIMITIVEType_AnyObject);
 
 ZELString PackageNameOf(const ZanDicObj& object) {
-    return object.Type() == OXMDicTYPE_Package ? ZELString("?") : object.get_PackageName();
+    return object.Type() == OXMDicTYPE_Package ? object.ZanDicObj::get_PackageName()
+                                               : object.get_PackageName();
 }
 
 /// The trace of what enters and leaves the registry.
