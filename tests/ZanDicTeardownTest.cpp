@@ -26,6 +26,13 @@ protected:
         return *element;
     }
 
+    /// Drops what is in the list.
+    void DropAll() {
+        ZanDicTaken taken;
+        taken.Take(owned);
+        DropTaken(taken);
+    }
+
     ZanHashList owned{29, ZanHashListKind::Owner};
     const ZanDicTraceScope trace{"Owner::FlushAll", "RC="};
 };
@@ -101,8 +108,7 @@ TEST_F(ZanDicTeardownTest, StopsAtAnObjectThatCannotBeFlushed) {
               "Owner::FlushAll- processing _LIST[2]: Stubborn, Type: 2 (Category).\n"
               "Owner::FlushAll- rc[_LIST[2]->FlushAll]=KO.\n"
               "Owner::FlushAll- *** ERROR *** could not process Element: Stubborn, Type: 2 (Category).\n");
-    owned.clear();
-    DropTaken({&stubborn, &last});
+    DropAll();
 }
 
 TEST_F(ZanDicTeardownTest, KeepsNoObjectWhoseNameAnotherHasTaken) {
@@ -113,9 +119,9 @@ TEST_F(ZanDicTeardownTest, KeepsNoObjectWhoseNameAnotherHasTaken) {
     EXPECT_EQ(DropOwned(owned, "_LIST", trace), E_FAIL);
 
     EXPECT_EQ(owned.Size(), 1);
+    EXPECT_EQ(owned[1], &stubborn);
     EXPECT_EQ(ZanDicObj::live_Objects(), before + 1);
-    owned.clear();
-    DropTaken({&stubborn});
+    DropAll();
 }
 
 /// Owns one list, which may hold owners in turn.
@@ -128,7 +134,7 @@ public:
         scope.Say(TraceLevel::Detail, "rest");
         return S_OK;
     }
-    void take_Owned(std::vector<ZanDicObj*>& taken) override { TakeList(members, taken); }
+    void take_Owned(ZanDicTaken& taken) override { taken.Take(members); }
 
     ZanHashList members{29, ZanHashListKind::Owner};
 };
@@ -161,7 +167,7 @@ TEST_F(ZanDicTeardownTest, AFailureInsideANestStopsEveryOwnerAbove) {
               "Nest::FlushAll- rc[_NEST[1]->FlushAll]=KO.\n"
               "Nest::FlushAll- *** ERROR *** could not process Element: Inner, Type: -1 (?).\n"
               "Nest::FlushAll- === exit === RC=KO.\n");
-    std::vector<ZanDicObj*> taken;
+    ZanDicTaken taken;
     outer.take_Owned(taken);
     DropTaken(taken);
     EXPECT_EQ(ZanDicObj::live_Objects(), before + 1) << "the outermost stands on the stack";
@@ -198,10 +204,9 @@ TEST_F(ZanDicTeardownTest, DropsWhatWasTakenWithoutAWord) {
     ZanDicElement& element = Own<ZanDicElement>("Held");
     ZanDicElement& other = Own<ZanDicElement>("Other", false);
     element.AddRef();
-    owned.clear();
     ClearWritten();
 
-    DropTaken({&element, &other});
+    DropAll();
 
     EXPECT_TRUE(element.is_Gone());
     EXPECT_FALSE(element.is_Registered());

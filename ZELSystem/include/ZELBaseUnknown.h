@@ -46,6 +46,9 @@ public:
     ///          when \p out is null; E_FAIL when memory is short.
     virtual HRESULT QueryInterface(const ZELInterfaceId& id, void** out) noexcept;
 
+    /// The same within an operation: throws std::bad_alloc when memory is short.
+    HRESULT hand_Out(const ZELInterfaceId& id, void** out);
+
     /// \returns the metadata of the object's class. Each component class overrides it.
     virtual ZELMetaClass& MetaObject() const;
 

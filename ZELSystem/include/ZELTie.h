@@ -4,10 +4,16 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "IUnknown.h"
 #include "ZELBaseUnknown.h"
+#include "ZELCall.h"
 #include "ZELExport.h"
+#include "ZELListPtr.h"
 #include "ZELMetaClass.h"
 #include "ZELPool.h"
+
+/// Gives back what was appended to \p list, which may be null, since it had \p size entries.
+ZELSYSTEM_API void ZELGiveBackFrom(ZELListPtrIUnknown* list, int size) noexcept;
 
 /// What every adapter has beside its interface: the object, the count of callers, the chain.
 ///
@@ -58,8 +64,9 @@ private:
 ///
 /// Layers on top, one per interface of the chain, forward the interface's own operations to impl():
 /// `template <class Impl, class Base> class XLayer : public Base { HRESULT Op() override { return
-/// this->impl().Op(); } };` They hold nothing, so that all adapters have one size. The last Release unlinks
-/// the adapter, frees it and then gives back its reference on the object.
+/// this->forward([&](Impl& impl) { return impl.Op(); }); } };` They hold nothing, so that all adapters have
+/// one size. The last Release unlinks the adapter, frees it and then gives back its reference on the object.
+/// No exception leaves an operation (ZELCall.h).
 template <class Interface, class Impl>
 class ZELSYSTEM_API ZELTie : public Interface, public ZELTieLink {
 public:
@@ -71,12 +78,17 @@ public:
     }
 
     HRESULT QueryInterface(const ZELInterfaceId& id, void** out) override {
+        ZELCheckThread("QueryInterface");
         return Object().QueryInterface(id, out);
     }
 
-    std::uint32_t AddRef() override { return add_Caller(); }
+    std::uint32_t AddRef() override {
+        ZELCheckThread("AddRef");
+        return add_Caller();
+    }
 
     std::uint32_t Release() override {
+        ZELCheckThread("Release");
         const std::uint32_t count = drop_Caller();
         if (count == 0) {
             ZELBaseUnknown* const object = unlink_Object();
@@ -92,6 +104,20 @@ public:
 
 protected:
     ~ZELTie() = default;
+
+    /// Runs one operation of the object. \param body takes the object. \param name the operation's.
+    template <class Body>
+    auto forward(const Body& body, const char* name = __builtin_FUNCTION()) const noexcept {
+        return ZELCall([&] { return body(impl()); }, name);
+    }
+
+    /// The same for one that appends to \p list, which may be null: it has nothing new when memory runs out.
+    template <class Body>
+    auto forward_List(ZELListPtrIUnknown* list, const Body& body,
+                      const char* name = __builtin_FUNCTION()) const noexcept {
+        const int size = list != nullptr ? list->Size() : 0;
+        return ZELCall([&] { return body(impl()); }, [&] { ZELGiveBackFrom(list, size); }, name);
+    }
 };
 
 /// \returns the row by which a class answers the interface of \p T, a ZELTie with all its layers.

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "ZELFatalError.h"
+#include "ZELMemory.h"
 #include "ZELMetaClass.h"
 #include "ZELTie.h"
 
@@ -28,6 +29,14 @@ void ZELBaseUnknown::destroy_Itself() noexcept {
 }
 
 HRESULT ZELBaseUnknown::QueryInterface(const ZELInterfaceId& id, void** out) noexcept {
+    try {
+        return hand_Out(id, out);
+    } catch (const std::bad_alloc&) {
+        return ZELNoteShortage();
+    }
+}
+
+HRESULT ZELBaseUnknown::hand_Out(const ZELInterfaceId& id, void** out) {
     if (out == nullptr) return E_INVALIDARG;
     std::uint32_t tag = 0;
     const ZELTieRow* const row = MetaObject().FindTie(id, &tag);
@@ -40,11 +49,7 @@ HRESULT ZELBaseUnknown::QueryInterface(const ZELInterfaceId& id, void** out) noe
         return S_OK;
     }
 
-    ZELTieLink* made = nullptr;
-    try {
-        made = row->make(*this);
-    } catch (const std::bad_alloc&) {
-    }
+    ZELTieLink* const made = row->make(*this);
     if (made == nullptr) return E_FAIL;
     made->_Tag = tag;
     made->_Next = _Ties;

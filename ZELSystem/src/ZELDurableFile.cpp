@@ -141,8 +141,7 @@ HRESULT ZELDurableFile::Open(std::string_view path) {
     if (!replaces && errno != ENOENT) return Fail(LastError());
     if (const int error = replaces ? CheckReplaceable(_Path, status) : 0; error != 0) return Fail(error);
 
-    _Buffer.reset(new (std::nothrow) char[kBufferSize]);
-    if (_Buffer == nullptr) return Fail(ENOMEM);
+    _Buffer.reset(new char[kBufferSize]);
     if (const int error = OpenBeside(); error != 0) return Fail(error);
     if (replaces && fchmod(_Descriptor, status.st_mode & 07777U) != 0) return Fail(LastError());
     _End = _Buffer.get();

@@ -13,6 +13,7 @@
 
 #include "ZELEnvironment.h"
 #include "ZELHugePages.h"
+#include "ZELOwnMemoryCalls.h"
 
 namespace {
 
@@ -55,7 +56,7 @@ struct Room {
 
     bool Resize(std::size_t wanted) noexcept {
         if (wanted > std::numeric_limits<std::size_t>::max() / 4) return false;
-        void* const moved = std::realloc(bytes, wanted + ZELFileContent::kPadding);
+        void* const moved = ZELPresentMemoryCalls().Reallocate(bytes, wanted + ZELFileContent::kPadding);
         if (moved == nullptr) return false;
         ZELAdviseHugePages(moved, wanted);
         bytes = static_cast<char*>(moved);
@@ -108,6 +109,7 @@ HRESULT ZELReadFile(const char* path, ZELFileContent& content, std::string* reas
         path != nullptr ? OpenAndRead(ZELNativePath(path).c_str(), room, length) : static_cast<int>(ENOENT);
     if (error != 0) {
         std::free(room.bytes);
+        if (error == ENOMEM) ZELNoteShortage();
         if (reason != nullptr) *reason = ReasonText(error);
         return E_FAIL;
     }

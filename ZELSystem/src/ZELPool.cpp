@@ -1,10 +1,11 @@
 #include "ZELPool.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <cstddef>
 #include <new>
 
 #include "ZELHugePages.h"
+#include "ZELOwnMemoryCalls.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #define ZELPOOL_BYPASSED 1
@@ -63,8 +64,9 @@ void AddChunk(SizeClass& sizeClass, std::size_t blockSize) {
     const std::size_t first = FirstBlock(blockSize);
     const std::size_t bytes = first + (wanted - first) / blockSize * blockSize;
     constexpr std::size_t kLine = ZELPoolLists::kLine;
-    void* const memory =
-        first == kLine ? std::aligned_alloc(kLine, (bytes + kLine - 1) / kLine * kLine) : std::malloc(bytes);
+    void* const memory = first == kLine
+                             ? ZELPresentMemoryCalls().Allocate((bytes + kLine - 1) / kLine * kLine, kLine)
+                             : ZELPresentMemoryCalls().Allocate(bytes, alignof(std::max_align_t));
     if (memory == nullptr) throw std::bad_alloc();
     // A class that has come to the largest chunks will fill this one too.
     if (wanted == kLargestChunk) ZELTakePages(memory, bytes);

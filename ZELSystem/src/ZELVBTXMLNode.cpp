@@ -9,6 +9,7 @@
 
 #include "ZELEnvironment.h"
 #include "ZELFile.h"
+#include "ZELMemory.h"
 #include "ZELXMLBlock.h"
 #include "ZELXMLEncoding.h"
 #include "ZELXMLPositions.h"
@@ -126,6 +127,7 @@ std::unique_ptr<ZELVBTXMLDocument> ZELVBTXMLDocument::CreateFromFile(const char*
     if (!storage->Read(error, keep)) return nullptr;
     return std::unique_ptr<ZELVBTXMLDocument>(new ZELVBTXMLDocument(std::move(storage), path));
 } catch (const std::bad_alloc&) {
+    ZELNoteShortage();
     return Refuse(error, kOutOfMemory);
 }
 
@@ -137,6 +139,7 @@ std::unique_ptr<ZELVBTXMLDocument> ZELVBTXMLDocument::CreateFromMemory(std::stri
     if (!storage->Read(error, keep)) return nullptr;
     return std::unique_ptr<ZELVBTXMLDocument>(new ZELVBTXMLDocument(std::move(storage), {}));
 } catch (const std::bad_alloc&) {
+    ZELNoteShortage();
     return Refuse(error, kOutOfMemory);
 }
 

@@ -4,9 +4,10 @@
 #include <new>
 
 #include "ZELHugePages.h"
+#include "ZELOwnMemoryCalls.h"
 
 void* ZELXMLGrow(void* memory, std::size_t bytes) {
-    void* const grown = std::realloc(memory, bytes);
+    void* const grown = ZELPresentMemoryCalls().Reallocate(memory, bytes);
     if (grown == nullptr) throw std::bad_alloc();
     ZELAdviseHugePages(grown, bytes);
     return grown;

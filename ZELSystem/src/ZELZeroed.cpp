@@ -4,9 +4,10 @@
 #include <new>
 
 #include "ZELHugePages.h"
+#include "ZELOwnMemoryCalls.h"
 
 void* ZELAllocateZeroed(std::size_t bytes) {
-    void* const memory = std::calloc(bytes, 1);
+    void* const memory = ZELPresentMemoryCalls().AllocateZeroed(bytes);
     if (memory == nullptr) throw std::bad_alloc();
     ZELAdviseHugePages(memory, bytes);
     // Its places are filled in any order: one by one they would each wait for a page.

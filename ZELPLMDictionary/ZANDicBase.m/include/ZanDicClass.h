@@ -222,7 +222,7 @@ public:
     const ZanDicVisibleBlocks& visible_Blocks();
     /// \returns the visible block of a root; null when there is none.
     ZanDicAttributeBlock* find_BlockOfRoot(const ZanDicAttributeBlock& root);
-    void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void take_Owned(ZanDicTaken& owned) override;
     void expect_Members(int count) override { _ATTRIBUTES.reserve(_ATTRIBUTES.Size() + count); }
     int lost_Links(LinkName link) const override;
 
@@ -234,8 +234,8 @@ private:
     template <class Interface>
     HRESULT create_Attribute(const ZELString* name, const ZELDbBinary* uuid, OXMDicTYPE type,
                              Interface** attribute);
-    HRESULT make_Attribute(const ZELString& name, const ZELDbBinary& uuid, OXMDicTYPE type, void** attribute,
-                           const ZanDicTraceScope& trace);
+    HRESULT make_Attribute(const ZELString& name, const ZELDbBinary& uuid, OXMDicTYPE type,
+                           IUnknown** attribute, const ZanDicTraceScope& trace);
     HRESULT flush_Members(const ZanDicTraceScope& trace);
     HRESULT set_SuperClass(const IUnknown* superClass, const ZanDicTraceScope& trace,
                            std::string_view foreign);

@@ -52,15 +52,15 @@ public:
     // What follows is for the library itself.
 
     ZanDicOwnedList owned_List() override;
-    void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void take_Owned(ZanDicTaken& owned) override;
     void expect_Members(int count) override { _ENUMERATORS.reserve(_ENUMERATORS.Size() + count); }
 
 protected:
     void drop_Links() override;
 
 private:
-    ZanHashList _ENUMERATORS;      ///< this enumeration owns one reference to each
-    ZELListPtrZanDicObj _REMOVED;  ///< and to each that was removed from the list
+    ZanHashList _ENUMERATORS;                            ///< this enumeration owns one reference to each
+    ZanHashList _REMOVED{29, ZanHashListKind::Unnamed};  ///< and to each that was removed from the list
 };
 
 #endif

@@ -26,6 +26,9 @@ public:
     /// How many objects that were in the list are gone since.
     int LostCount() const;
 
+    /// Makes room for one more: the next append of an object that is linked already takes no memory.
+    void expect_One();
+
 protected:
     bool append_Obj(ZanDicObj& object);
     bool remove_Obj(const ZanDicObj& object);

@@ -46,14 +46,14 @@ public:
     // What follows is for the library itself.
 
     ZanDicOwnedList owned_List() override;
-    void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void take_Owned(ZanDicTaken& owned) override;
 
 protected:
     void drop_Links() override;
 
 private:
-    ZanHashList _PARAMETERS;       ///< this method owns one reference to each
-    ZELListPtrZanDicObj _REMOVED;  ///< and to each that was removed from the list
+    ZanHashList _PARAMETERS;                             ///< this method owns one reference to each
+    ZanHashList _REMOVED{29, ZanHashListKind::Unnamed};  ///< and to each that was removed from the list
 };
 
 #endif

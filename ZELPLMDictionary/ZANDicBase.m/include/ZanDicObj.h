@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <vector>
 
 #include "OXMDicTypes.h"
 #include "OXMIDicIdentifiers.h"
@@ -17,6 +16,7 @@
 #include "ZELUnicodeString.h"
 #include "ZanDicExport.h"
 
+class ZanDicTaken;
 class ZanHashList;
 struct ZanDicNameIndex;
 
@@ -165,9 +165,9 @@ public:
     /// Whether another object has the owner's reference to this one, and gives it back.
     bool is_Owned() const { return _Owned; }
     void set_Owned() { _Owned = true; }
-    /// Moves the references that this object owns, those on private lists included, to the end of
-    /// \p owned; its own lists are empty after that. Writes nothing.
-    virtual void take_Owned(std::vector<ZanDicObj*>& owned);
+    /// Lets \p owned take the references that this object owns, those on private lists included; its own
+    /// lists are empty after that. Writes nothing.
+    virtual void take_Owned(ZanDicTaken& owned);
 
     /// Fetches what a lookup reads of an object into the cache, or, of one that is there, what a query and a
     /// new link touch.

@@ -127,7 +127,7 @@ public:
 
     // What follows is for the library itself.
 
-    void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void take_Owned(ZanDicTaken& owned) override;
     void expect_Members(int count) override { _ELEMENTS.reserve(_ELEMENTS.Size() + count); }
     /// The last step of the computation of blocks: looks for attributes and names that a class has twice.
     HRESULT check_Blocks() const;
@@ -153,10 +153,11 @@ private:
     ZELString _Domain;
     mutable bool _OnTheWay = false;  ///< during GetAllElements: among those whose elements are being listed
     ZanHashList _ELEMENTS;           ///< this package owns one reference to each
-    ZELListPtrZanDicObj _BLOCKS;     ///< attribute blocks: this package owns one reference to each
-    ZanHashList _COMMANDS;           ///< not owning
-    ZanHashList _USEDPACKAGES;       ///< not owning
-    ZanHashList _SCOPEPACKAGES;      ///< not owning
+    ZanHashList _BLOCKS{
+        29, ZanHashListKind::Unnamed};  ///< attribute blocks: this package owns one reference to each
+    ZanHashList _COMMANDS;              ///< not owning
+    ZanHashList _USEDPACKAGES;          ///< not owning
+    ZanHashList _SCOPEPACKAGES;         ///< not owning
 };
 
 #endif

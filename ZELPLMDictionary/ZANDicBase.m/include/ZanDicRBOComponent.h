@@ -34,14 +34,14 @@ public:
     ZanDicOwnedList owned_List() override;
     /// The path expression goes after the components.
     HRESULT flush_Rest(const ZanDicTraceScope& trace) override;
-    void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void take_Owned(ZanDicTaken& owned) override;
 
 protected:
     void drop_Links() override;
 
 private:
     ZELUnicodeString _ValidityRule{""};
-    ZanDicRBOPathExpression* _PathExpression = nullptr;  ///< this component owns one reference
+    ZanHashList _PATHEXPRESSION{1, ZanHashListKind::Unnamed};  ///< at most one; this component owns it
 };
 
 #endif

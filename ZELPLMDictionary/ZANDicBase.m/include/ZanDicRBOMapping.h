@@ -49,7 +49,7 @@ public:
     /// Whether the stored reference is the UUID of that class or, without one, the link leads to it.
     bool applies_To(const ZanDicRBOClass& rboClass) const;
     ZanDicOwnedList owned_List() override;
-    void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void take_Owned(ZanDicTaken& owned) override;
 
 protected:
     void drop_Links() override;

@@ -42,7 +42,7 @@ public:
 
     // What follows is for the library itself.
 
-    void take_Owned(std::vector<ZanDicObj*>& owned) override;
+    void take_Owned(ZanDicTaken& owned) override;
 
 protected:
     ZanDicRBONode(const ZELString& name, const ZELDbBinary& uuid);

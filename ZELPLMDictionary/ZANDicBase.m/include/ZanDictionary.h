@@ -17,6 +17,7 @@
 #include "ZanHashList.h"
 
 class ZanDicPackage;
+class ZanDicTaken;
 class ZanDicPrimitive;
 
 /// The manager: registry of all objects by UUID, list of packages, built-in primitives, loading and saving.
@@ -105,8 +106,8 @@ private:
     ZanDicObj* find_Obj(const ZELDbBinary& uuid) const;
     ZanDicClassToRelationElem* find_Relations(const ZELDbBinary& classUuid) const;
     ZanDicPackage* find_Package(const ZELString& name) const;
-    /// Empties every list and hands out each owner's reference once.
-    std::vector<ZanDicObj*> take_All();
+    /// Empties every list: \p members takes what objects own, \p others what was registered and nobody owns.
+    void take_All(ZanDicTaken& members, ZanDicUuidTable& others);
     HRESULT make_Package(const ZELString& name, const ZELDbBinary& uuid, const ZELString& domain,
                          OXMIDicPackage** package);
 

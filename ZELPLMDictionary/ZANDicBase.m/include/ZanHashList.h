@@ -14,8 +14,9 @@ using ZELListPtrZanDicObj = ZELListPtr<ZanDicObj>;
 
 /// How a `ZanHashList` treats an object that is gone.
 enum class ZanHashListKind : unsigned char {
-    Links,  ///< the list does not own: an object that is gone counts as absent, and its name is free
-    Owner,  ///< the field that holds the list keeps the objects alive: each counts until RemoveAll
+    Links,    ///< the list does not own: an object that is gone counts as absent, and its name is free
+    Owner,    ///< the field that holds the list keeps the objects alive: each counts until RemoveAll
+    Unnamed,  ///< as Owner, for objects that nobody looks for by name: filled by `keep`
 };
 
 /// Ordered set of named objects: walked in insertion order, looked up by name.
@@ -66,12 +67,16 @@ public:
     HRESULT append_New(ZanDicObj& object);
     /// Removes exactly \p object, whatever its name now is. \returns whether it was in the list.
     bool take_Object(const ZanDicObj* object);
+    /// Adds an object to a list of the kind Unnamed. Names do not matter there.
+    void keep(ZanDicObj& object);
     /// Empties the list.
-    void clear();
+    void clear() noexcept;
     /// Makes room for \p count objects.
     void reserve(int count);
 
 private:
+    friend class ZanDicTaken;
+
     struct Store;
 
     static Store* empty_Store(ZanHashListKind kind) noexcept;

@@ -9,22 +9,42 @@
 template <class Impl, class Base>
 class OXMIDicAttributeBlockLayer : public Base {
 public:
-    HRESULT SetClass(const OXMIDicClass* owner) override { return this->impl().SetClass(owner); }
-    HRESULT GetClass(OXMIDicClass** owner) override { return this->impl().GetClass(owner); }
-    HRESULT SetFather(const OXMIDicAttributeBlock* father) override { return this->impl().SetFather(father); }
-    HRESULT GetFather(OXMIDicAttributeBlock** father) override { return this->impl().GetFather(father); }
-    HRESULT SetRoot(const OXMIDicAttributeBlock* root) override { return this->impl().SetRoot(root); }
-    HRESULT GetRoot(OXMIDicAttributeBlock** root) override { return this->impl().GetRoot(root); }
+    HRESULT SetClass(const OXMIDicClass* owner) override {
+        return this->forward([&](Impl& impl) { return impl.SetClass(owner); });
+    }
+    HRESULT GetClass(OXMIDicClass** owner) override {
+        return this->forward([&](Impl& impl) { return impl.GetClass(owner); });
+    }
+    HRESULT SetFather(const OXMIDicAttributeBlock* father) override {
+        return this->forward([&](Impl& impl) { return impl.SetFather(father); });
+    }
+    HRESULT GetFather(OXMIDicAttributeBlock** father) override {
+        return this->forward([&](Impl& impl) { return impl.GetFather(father); });
+    }
+    HRESULT SetRoot(const OXMIDicAttributeBlock* root) override {
+        return this->forward([&](Impl& impl) { return impl.SetRoot(root); });
+    }
+    HRESULT GetRoot(OXMIDicAttributeBlock** root) override {
+        return this->forward([&](Impl& impl) { return impl.GetRoot(root); });
+    }
     HRESULT AddAttribute(const OXMIDicAttribute* attribute) override {
-        return this->impl().AddAttribute(attribute);
+        return this->forward([&](Impl& impl) { return impl.AddAttribute(attribute); });
     }
     HRESULT GetAttributes(ZELListPtrIUnknown* attributes) override {
-        return this->impl().GetAttributes(attributes);
+        return this->forward_List(attributes, [&](Impl& impl) { return impl.GetAttributes(attributes); });
     }
-    HRESULT BuildName() override { return this->impl().BuildName(); }
-    HRESULT BuildRoot() override { return this->impl().BuildRoot(); }
-    HRESULT BuildFather() override { return this->impl().BuildFather(); }
-    HRESULT BuildAllAttributes() override { return this->impl().BuildAllAttributes(); }
+    HRESULT BuildName() override {
+        return this->forward([&](Impl& impl) { return impl.BuildName(); });
+    }
+    HRESULT BuildRoot() override {
+        return this->forward([&](Impl& impl) { return impl.BuildRoot(); });
+    }
+    HRESULT BuildFather() override {
+        return this->forward([&](Impl& impl) { return impl.BuildFather(); });
+    }
+    HRESULT BuildAllAttributes() override {
+        return this->forward([&](Impl& impl) { return impl.BuildAllAttributes(); });
+    }
 };
 
 template <class Impl>

@@ -11,13 +11,27 @@
 template <class Impl, class Base>
 class OXMIDicAppLayer : public Base {
 public:
-    HRESULT GetName(ZELString* name) override { return this->impl().GetName(name); }
-    HRESULT SetName(const ZELString* name) override { return this->impl().SetName(name); }
-    HRESULT GetUuid(ZELDbBinary* uuid) override { return this->impl().GetUuid(uuid); }
-    HRESULT SetUuid(const ZELDbBinary* uuid) override { return this->impl().SetUuid(uuid); }
-    HRESULT GenUuid() override { return this->impl().GenUuid(); }
-    HRESULT GetType(OXMDicTYPE* type) override { return this->impl().GetType(type); }
-    void Dump(const char* caller) override { return this->impl().Dump(caller); }
+    HRESULT GetName(ZELString* name) override {
+        return this->forward([&](Impl& impl) { return impl.GetName(name); });
+    }
+    HRESULT SetName(const ZELString* name) override {
+        return this->forward([&](Impl& impl) { return impl.SetName(name); });
+    }
+    HRESULT GetUuid(ZELDbBinary* uuid) override {
+        return this->forward([&](Impl& impl) { return impl.GetUuid(uuid); });
+    }
+    HRESULT SetUuid(const ZELDbBinary* uuid) override {
+        return this->forward([&](Impl& impl) { return impl.SetUuid(uuid); });
+    }
+    HRESULT GenUuid() override {
+        return this->forward([&](Impl& impl) { return impl.GenUuid(); });
+    }
+    HRESULT GetType(OXMDicTYPE* type) override {
+        return this->forward([&](Impl& impl) { return impl.GetType(type); });
+    }
+    void Dump(const char* caller) override {
+        return this->forward([&](Impl& impl) { return impl.Dump(caller); });
+    }
 };
 
 /// Forwards OXMIDicElementH.
@@ -26,62 +40,88 @@ class OXMIDicElementHLayer : public Base {
 public:
     using Base::GetType;  // attributes have another of that name
 
-    HRESULT GetName(ZELString* name) override { return this->impl().GetName(name); }
-    HRESULT SetName(const ZELString* name) override { return this->impl().SetName(name); }
-    HRESULT GetUuid(ZELDbBinary* uuid) override { return this->impl().GetUuid(uuid); }
-    HRESULT SetUuid(const ZELDbBinary* uuid) override { return this->impl().SetUuid(uuid); }
-    HRESULT GenUuid() override { return this->impl().GenUuid(); }
-    HRESULT GetType(OXMDicTYPE* type) override { return this->impl().GetType(type); }
+    HRESULT GetName(ZELString* name) override {
+        return this->forward([&](Impl& impl) { return impl.GetName(name); });
+    }
+    HRESULT SetName(const ZELString* name) override {
+        return this->forward([&](Impl& impl) { return impl.SetName(name); });
+    }
+    HRESULT GetUuid(ZELDbBinary* uuid) override {
+        return this->forward([&](Impl& impl) { return impl.GetUuid(uuid); });
+    }
+    HRESULT SetUuid(const ZELDbBinary* uuid) override {
+        return this->forward([&](Impl& impl) { return impl.SetUuid(uuid); });
+    }
+    HRESULT GenUuid() override {
+        return this->forward([&](Impl& impl) { return impl.GenUuid(); });
+    }
+    HRESULT GetType(OXMDicTYPE* type) override {
+        return this->forward([&](Impl& impl) { return impl.GetType(type); });
+    }
     HRESULT SetOtherAttribute(const ZELUnicodeString& name, const ZELUnicodeString& value) override {
-        return this->impl().SetOtherAttribute(name, value);
+        return this->forward([&](Impl& impl) { return impl.SetOtherAttribute(name, value); });
     }
     HRESULT GetOtherAttribute(const ZELUnicodeString& name, ZELUnicodeString& value) override {
-        return this->impl().GetOtherAttribute(name, value);
+        return this->forward([&](Impl& impl) { return impl.GetOtherAttribute(name, value); });
     }
     HRESULT GetAllOtherAttributes(ZELListValZELUnicodeString& names,
                                   ZELListValZELUnicodeString& values) override {
-        return this->impl().GetAllOtherAttributes(names, values);
+        return this->forward([&](Impl& impl) { return impl.GetAllOtherAttributes(names, values); });
     }
     HRESULT AddCategory(const OXMIDicCategory* category) override {
-        return this->impl().AddCategory(category);
+        return this->forward([&](Impl& impl) { return impl.AddCategory(category); });
     }
     HRESULT RemoveCategory(const OXMIDicCategory* category) override {
-        return this->impl().RemoveCategory(category);
+        return this->forward([&](Impl& impl) { return impl.RemoveCategory(category); });
     }
     HRESULT IsCategory(const ZELString* name, unsigned char* isCategory) override {
-        return this->impl().IsCategory(name, isCategory);
+        return this->forward([&](Impl& impl) { return impl.IsCategory(name, isCategory); });
     }
     HRESULT GetCategories(ZELListPtrIUnknown* categories) override {
-        return this->impl().GetCategories(categories);
+        return this->forward_List(categories, [&](Impl& impl) { return impl.GetCategories(categories); });
     }
-    HRESULT GetLostLinks(int* count) override { return this->impl().GetLostLinks(count); }
+    HRESULT GetLostLinks(int* count) override {
+        return this->forward([&](Impl& impl) { return impl.GetLostLinks(count); });
+    }
 };
 
 /// Forwards OXMIDicElement.
 template <class Impl, class Base>
 class OXMIDicElementLayer : public Base {
 public:
-    HRESULT SetAlias(const ZELUnicodeString* alias) override { return this->impl().SetAlias(alias); }
+    HRESULT SetAlias(const ZELUnicodeString* alias) override {
+        return this->forward([&](Impl& impl) { return impl.SetAlias(alias); });
+    }
     HRESULT SetExpositionLevel(const ZELUnicodeString* level) override {
-        return this->impl().SetExpositionLevel(level);
+        return this->forward([&](Impl& impl) { return impl.SetExpositionLevel(level); });
     }
     HRESULT SetVisibility(OXMDicVISIBILITY visibility) override {
-        return this->impl().SetVisibility(visibility);
+        return this->forward([&](Impl& impl) { return impl.SetVisibility(visibility); });
     }
-    HRESULT GetAlias(ZELUnicodeString* alias) override { return this->impl().GetAlias(alias); }
+    HRESULT GetAlias(ZELUnicodeString* alias) override {
+        return this->forward([&](Impl& impl) { return impl.GetAlias(alias); });
+    }
     HRESULT GetExpositionLevel(ZELUnicodeString* level) override {
-        return this->impl().GetExpositionLevel(level);
+        return this->forward([&](Impl& impl) { return impl.GetExpositionLevel(level); });
     }
     HRESULT GetVisibility(OXMDicVISIBILITY* visibility) override {
-        return this->impl().GetVisibility(visibility);
+        return this->forward([&](Impl& impl) { return impl.GetVisibility(visibility); });
     }
-    HRESULT GetPackage(OXMIDicPackage** package) override { return this->impl().GetPackage(package); }
-    HRESULT GetPackageName(ZELString* name) override { return this->impl().GetPackageName(name); }
-    HRESULT BelongsTo(OXMIDicElement** owner) override { return this->impl().BelongsTo(owner); }
+    HRESULT GetPackage(OXMIDicPackage** package) override {
+        return this->forward([&](Impl& impl) { return impl.GetPackage(package); });
+    }
+    HRESULT GetPackageName(ZELString* name) override {
+        return this->forward([&](Impl& impl) { return impl.GetPackageName(name); });
+    }
+    HRESULT BelongsTo(OXMIDicElement** owner) override {
+        return this->forward([&](Impl& impl) { return impl.BelongsTo(owner); });
+    }
     HRESULT GetSuperPackage(OXMIDicPackage** package) override {
-        return this->impl().GetSuperPackage(package);
+        return this->forward([&](Impl& impl) { return impl.GetSuperPackage(package); });
     }
-    HRESULT FlushAll() override { return this->impl().FlushAll(); }
+    HRESULT FlushAll() override {
+        return this->forward([&](Impl& impl) { return impl.FlushAll(); });
+    }
 };
 
 template <class Impl>

@@ -15,60 +15,80 @@ class OXMIDicEnumLayer : public Base {
 public:
     HRESULT CreateEnumerator(const ZELString* name, const ZELDbBinary* uuid,
                              OXMIDicEnumerator** enumerator) override {
-        return this->impl().CreateEnumerator(name, uuid, enumerator);
+        return this->forward([&](Impl& impl) { return impl.CreateEnumerator(name, uuid, enumerator); });
     }
     HRESULT CreateEnumerator(const ZELString* name, OXMIDicEnumerator** enumerator) override {
-        return this->impl().CreateEnumerator(name, enumerator);
+        return this->forward([&](Impl& impl) { return impl.CreateEnumerator(name, enumerator); });
     }
     HRESULT CreateEnumValue(const ZELString* name, int value) override {
-        return this->impl().CreateEnumValue(name, value);
+        return this->forward([&](Impl& impl) { return impl.CreateEnumValue(name, value); });
     }
     HRESULT GetEnumerator(const ZELString* name, OXMIDicEnumerator** enumerator) override {
-        return this->impl().GetEnumerator(name, enumerator);
+        return this->forward([&](Impl& impl) { return impl.GetEnumerator(name, enumerator); });
     }
     HRESULT GetEnumValue(const ZELString* name, int* value) override {
-        return this->impl().GetEnumValue(name, value);
+        return this->forward([&](Impl& impl) { return impl.GetEnumValue(name, value); });
     }
-    HRESULT GetEnumValues(ZELListValZELString* names) override { return this->impl().GetEnumValues(names); }
+    HRESULT GetEnumValues(ZELListValZELString* names) override {
+        return this->forward([&](Impl& impl) { return impl.GetEnumValues(names); });
+    }
     HRESULT GetEnumerators(ZELListPtrIUnknown* enumerators) override {
-        return this->impl().GetEnumerators(enumerators);
+        return this->forward_List(enumerators, [&](Impl& impl) { return impl.GetEnumerators(enumerators); });
     }
-    HRESULT RemoveEnumerator(const ZELString* name) override { return this->impl().RemoveEnumerator(name); }
-    HRESULT RemoveEnumValue(const ZELString* name) override { return this->impl().RemoveEnumValue(name); }
+    HRESULT RemoveEnumerator(const ZELString* name) override {
+        return this->forward([&](Impl& impl) { return impl.RemoveEnumerator(name); });
+    }
+    HRESULT RemoveEnumValue(const ZELString* name) override {
+        return this->forward([&](Impl& impl) { return impl.RemoveEnumValue(name); });
+    }
 };
 
 /// Forwards OXMIDicEnumerator.
 template <class Impl, class Base>
 class OXMIDicEnumeratorLayer : public Base {
 public:
-    HRESULT GetValue(int* value) override { return this->impl().GetValue(value); }
-    HRESULT SetValue(int value) override { return this->impl().SetValue(value); }
+    HRESULT GetValue(int* value) override {
+        return this->forward([&](Impl& impl) { return impl.GetValue(value); });
+    }
+    HRESULT SetValue(int value) override {
+        return this->forward([&](Impl& impl) { return impl.SetValue(value); });
+    }
 };
 
 /// Forwards OXMIDicPrimitive.
 template <class Impl, class Base>
 class OXMIDicPrimitiveLayer : public Base {
 public:
-    OXMDicPRIMITIVEType Primitive() override { return this->impl().Primitive(); }
+    OXMDicPRIMITIVEType Primitive() override {
+        return this->forward([&](Impl& impl) { return impl.Primitive(); });
+    }
 };
 
 /// Forwards OXMIDicCategory.
 template <class Impl, class Base>
 class OXMIDicCategoryLayer : public Base {
 public:
-    HRESULT GetGroup(ZELString* group) override { return this->impl().GetGroup(group); }
-    HRESULT SetGroup(const ZELString* group) override { return this->impl().SetGroup(group); }
+    HRESULT GetGroup(ZELString* group) override {
+        return this->forward([&](Impl& impl) { return impl.GetGroup(group); });
+    }
+    HRESULT SetGroup(const ZELString* group) override {
+        return this->forward([&](Impl& impl) { return impl.SetGroup(group); });
+    }
 };
 
 /// Forwards OXMIDicUnique.
 template <class Impl, class Base>
 class OXMIDicUniqueLayer : public Base {
 public:
-    HRESULT AddElement(const OXMIDicElement* element) override { return this->impl().AddElement(element); }
-    HRESULT RemoveElement(const OXMIDicElement* element) override {
-        return this->impl().RemoveElement(element);
+    HRESULT AddElement(const OXMIDicElement* element) override {
+        return this->forward([&](Impl& impl) { return impl.AddElement(element); });
     }
-    HRESULT GetElements(ZELListPtrIUnknown* elements) override { return this->impl().GetElements(elements); }
+    HRESULT RemoveElement(const OXMIDicElement* element) override {
+        return this->forward([&](Impl& impl) { return impl.RemoveElement(element); });
+    }
+    HRESULT GetElements(ZELListPtrIUnknown* elements) override {
+        return this->forward_List(elements, [&](Impl& impl) { return impl.GetElements(elements); });
+    }
 };
 
 template <class Impl>

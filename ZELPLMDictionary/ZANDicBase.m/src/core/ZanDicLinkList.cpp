@@ -1,6 +1,7 @@
 #include "ZanDicLinkList.h"
 
 #include <cstdint>
+#include <new>
 #include <unordered_map>
 #include <vector>
 
@@ -15,7 +16,7 @@ constexpr std::size_t kSmall = 8;
 
 /// Links in order. A removed one leaves an unset link behind until the next packing; the index, made once the
 /// list is no longer small, finds a link by its object's identity, which stays that object's for as long as
-/// the link is held here.
+/// the link is held here. Without memory for the index there is none, and links are searched one by one.
 struct ZanDicLinkListBase::Store {
     std::vector<ZanDicLink<ZanDicObj>> links;
     std::unordered_map<std::uint32_t, std::uint32_t> index;  ///< identity -> place in links; empty when small
@@ -35,31 +36,48 @@ struct ZanDicLinkListBase::Store {
         return at;
     }
 
-    void Index() {
+    void Index() noexcept {
         index.clear();
         if (links.size() <= kSmall) return;
-        index.reserve(links.size());
-        for (std::size_t at = 0; at < links.size(); ++at) {
-            index.emplace(links[at].Identity(), static_cast<std::uint32_t>(at));
+        try {
+            index.reserve(links.size());
+            for (std::size_t at = 0; at < links.size(); ++at) Enter(at);
+        } catch (const std::bad_alloc&) {
+            index.clear();
+        }
+    }
+
+    void MakeRoom() {
+        if (links.size() != links.capacity()) return;
+        // What is gone makes room before the list grows; a list that is mostly alive grows all the same.
+        if (seenLostCount != ZanDicLinkBase::LostCount()) Pack();
+        if (links.size() > links.capacity() / 2 || links.capacity() == 0) {
+            links.reserve(links.capacity() != 0 ? 2 * links.capacity() : 1);
         }
     }
 
     void Append(ZanDicObj& object) {
-        // What is gone makes room before the list grows; a list that is mostly alive grows all the same.
-        if (links.size() == links.capacity() && seenLostCount != ZanDicLinkBase::LostCount()) {
-            Pack();
-            if (links.size() > links.capacity() / 2) links.reserve(2 * links.capacity());
-        }
+        MakeRoom();
         links.emplace_back(&object);
         if (links.size() == kSmall + 1) {
             Pack();
             Index();
         } else if (!index.empty()) {
-            index.emplace(links.back().Identity(), static_cast<std::uint32_t>(links.size() - 1));
+            IndexLast();
         }
     }
 
-    void RemoveAt(std::size_t at) {
+    void Enter(std::size_t at) { index.emplace(links[at].Identity(), static_cast<std::uint32_t>(at)); }
+
+    void IndexLast() noexcept {
+        try {
+            Enter(links.size() - 1);
+        } catch (const std::bad_alloc&) {
+            index.clear();
+        }
+    }
+
+    void RemoveAt(std::size_t at) noexcept {
         index.erase(links[at].Identity());
         links[at].Reset();
         ++removed;
@@ -67,7 +85,7 @@ struct ZanDicLinkListBase::Store {
     }
 
     /// Drops the links that are unset or lost.
-    void Pack() {
+    void Pack() noexcept {
         const std::size_t before = links.size();
         std::erase_if(links, [this](const ZanDicLink<ZanDicObj>& link) {
             if (link.IsLost()) ++lost;
@@ -109,6 +127,11 @@ int ZanDicLinkListBase::LostCount() const {
     if (!_STORE) return 0;
     _STORE->Settle();
     return _STORE->lost;
+}
+
+void ZanDicLinkListBase::expect_One() {
+    if (!_STORE) _STORE = std::make_unique<Store>();
+    _STORE->MakeRoom();
 }
 
 bool ZanDicLinkListBase::append_Obj(ZanDicObj& object) {

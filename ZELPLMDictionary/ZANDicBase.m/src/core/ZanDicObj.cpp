@@ -24,6 +24,20 @@ namespace {
 constexpr int kCategoriesSize = 29;
 constexpr int kManyOthers = 32;  ///< free attributes from which on they have an index
 
+/// Names that traces need while objects are taken down: there from the start, so that no memory is needed
+/// then, and until the process ends.
+struct SharedNames {
+    ZELString undefined{"UNDEFINED"};  ///< of an object without a name
+    ZELString noPackage{"?"};
+};
+
+const SharedNames& Shared() {
+    static const SharedNames* const names = new SharedNames;
+    return *names;
+}
+
+[[maybe_unused]] const SharedNames& kMadeAtLoad = Shared();
+
 constexpr ZanDicTraceScope kConstructor("ZanDicObj::ZanDicObj");
 constexpr ZanDicTraceScope kDestructor("ZanDicObj::~ZanDicObj");
 
@@ -152,7 +166,7 @@ std::unique_ptr<ZanDicRareFields> ZanDicRareFields::Copy() const {
 }
 
 ZanDicObj::ZanDicObj()
-    : _Name("UNDEFINED"), _Registered(false), _Gone(false), _Owned(false), _Unnamed(false), _Noted(false) {
+    : _Name(Shared().undefined), _Registered(false), _Gone(false), _Owned(false), _Unnamed(false), _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Call)) return;
     kConstructor.Line(TraceLevel::Call) << "_Type=" << _Type << ", _Name=" << _Name;
@@ -185,10 +199,11 @@ ZanDicObj::ZanDicObj(const ZanDicObj& other)
 
 ZanDicObj& ZanDicObj::operator=(const ZanDicObj& other) {
     if (this == &other) return *this;
+    std::unique_ptr<ZanDicRareFields> rare = other._Rare ? other._Rare->Copy() : nullptr;
     const auto assign = [&] {
         _Type = other._Type;
         _Name = other._Name;
-        _Rare = other._Rare ? other._Rare->Copy() : nullptr;
+        _Rare = std::move(rare);
         _Uuid = other._Uuid;
         _Unnamed = other._Unnamed;
         _Noted = other._Noted;
@@ -314,8 +329,9 @@ HRESULT ZanDicObj::GetOtherAttribute(const ZELUnicodeString& name, ZELUnicodeStr
 
 HRESULT ZanDicObj::GetAllOtherAttributes(ZELListValZELUnicodeString& names,
                                          ZELListValZELUnicodeString& values) const {
-    names = _Rare ? _Rare->otherNames : ZELListValZELUnicodeString();
+    ZELListValZELUnicodeString allNames = _Rare ? _Rare->otherNames : ZELListValZELUnicodeString();
     values = _Rare ? _Rare->otherValues : ZELListValZELUnicodeString();
+    names = std::move(allNames);
     return S_OK;
 }
 
@@ -331,20 +347,23 @@ HRESULT ZanDicObj::AddCategory(const OXMIDicCategory* category) {
     if (object == nullptr || object->is_Gone()) return trace.Exit(E_FAIL);
 
     ZanDicRareFields& fields = make_Rare();
-    if (!fields.categories) {
+    std::shared_ptr<ZanHashList> categories = fields.categories;
+    if (!categories) {
         trace.Say(TraceLevel::Detail, "Creating _CATEGORIES = new ZanHashList");
-        fields.categories = std::make_shared<ZanHashList>(kCategoriesSize);
+        categories = std::make_shared<ZanHashList>(kCategoriesSize);
     }
     const ZELString name = NameBehind(*category);
     if (auto line = trace.Line(TraceLevel::Detail)) line << "CategoryName=" << name;
     ZanDicObj* found = nullptr;
-    if (Succeeded(fields.categories->Search(name, &found))) {
+    if (Succeeded(categories->Search(name, &found))) {
         if (auto line = trace.Line(TraceLevel::Detail)) {
             line << "Category " << name << " is already defined for element named " << _Name;
         }
         return trace.Exit(S_FALSE);
     }
-    return trace.Exit(fields.categories->Append(object));
+    const HRESULT rc = categories->Append(object);
+    fields.categories = std::move(categories);
+    return trace.Exit(rc);
 }
 
 HRESULT ZanDicObj::RemoveCategory(const OXMIDicCategory* category) {
@@ -366,9 +385,12 @@ HRESULT ZanDicObj::GetCategories(ZELListPtrIUnknown* categories) const {
     HRESULT rc = S_OK;
     const ZanHashList& attached = *_Rare->categories;
     for (int position = 1; position <= attached.Size(); ++position) {
-        void* category = nullptr;
-        rc = attached[position]->bind_Interface(OXMDicTYPE_UNDEFINED, &category);
-        if (category != nullptr) categories->Append(static_cast<IUnknown*>(category));
+        void* face = nullptr;
+        rc = attached[position]->bind_Interface(OXMDicTYPE_UNDEFINED, &face);
+        ZanDicRef<IUnknown> category(static_cast<IUnknown*>(face));
+        if (!category) continue;
+        categories->Append(category.Get());
+        category.Detach();
     }
     return rc;
 }
@@ -387,7 +409,7 @@ int ZanDicObj::lost_Links(LinkName link) const {
 HRESULT ZanDicObj::bind_Interface(OXMDicTYPE type, void** out) const {
     const int code = type < OXMDicTYPE_Primitive ? _Type : type;
     if (const ZELInterfaceId* const id = FindInterface(code)) [[likely]]
-        return const_cast<ZanDicObj*>(this)->ZELBaseUnknown::QueryInterface(*id, out);
+        return const_cast<ZanDicObj*>(this)->hand_Out(*id, out);
     return RefuseType(code);
 }
 
@@ -402,7 +424,7 @@ void ZanDicObj::Dump(const char* caller) const {
     ZanDicWriteAlways(label + "_Type=" + std::to_string(static_cast<int>(_Type)) + "-" + typeName + ".");
 }
 
-ZELString ZanDicObj::get_PackageName() const { return "?"; }
+ZELString ZanDicObj::get_PackageName() const { return Shared().noPackage; }
 
 void ZanDicObj::mark_Gone() {
     if (_Gone) return;
@@ -417,7 +439,7 @@ void ZanDicObj::prefetch_Links() const {
     ZanDicLinkBase::Prefetch(_LinkPlace);
 }
 
-void ZanDicObj::take_Owned(std::vector<ZanDicObj*>& /*owned*/) {}
+void ZanDicObj::take_Owned(ZanDicTaken& /*owned*/) {}
 
 void ZanDicObj::expect_Members(int /*count*/) {}
 

@@ -64,11 +64,12 @@ private:
 
 }  // namespace ZanDicTrace
 
-/// One line being made; it is written when it goes out of scope. Inactive lines do nothing.
+/// One line being made; it is written when it goes out of scope. Inactive lines do nothing. A line for which
+/// there is no memory is left out: what it tells of must not fail for it.
 class ZanDicTraceLine {
 public:
     ZanDicTraceLine() = default;
-    [[gnu::cold]] ZanDicTraceLine(std::string_view operation, ZELLineSeverity severity);
+    [[gnu::cold]] ZanDicTraceLine(std::string_view operation, ZELLineSeverity severity) noexcept;
     ~ZanDicTraceLine() {
         if (_Draft != nullptr) Write();
     }
@@ -77,35 +78,35 @@ public:
 
     explicit operator bool() const { return _Draft != nullptr; }
 
-    ZanDicTraceLine& operator<<(std::string_view text);
+    ZanDicTraceLine& operator<<(std::string_view text) noexcept;
     /// A text; a null pointer adds nothing.
-    ZanDicTraceLine& operator<<(const char* text) {
+    ZanDicTraceLine& operator<<(const char* text) noexcept {
         return *this << (text != nullptr ? std::string_view(text) : std::string_view());
     }
     /// A value: one that begins with a dash is no separator. A null pointer adds nothing.
-    ZanDicTraceLine& operator<<(const ZELString& text) { return Value(text.View()); }
-    ZanDicTraceLine& operator<<(const ZELUnicodeString& text) { return Value(text.View()); }
-    ZanDicTraceLine& operator<<(const ZELString* text) {
+    ZanDicTraceLine& operator<<(const ZELString& text) noexcept { return Value(text.View()); }
+    ZanDicTraceLine& operator<<(const ZELUnicodeString& text) noexcept { return Value(text.View()); }
+    ZanDicTraceLine& operator<<(const ZELString* text) noexcept {
         return Value(text != nullptr ? text->View() : std::string_view());
     }
     /// A UUID, as 32 upper-case digits; an empty one as "UNDEFINED".
-    ZanDicTraceLine& operator<<(const ZELDbBinary& uuid);
+    ZanDicTraceLine& operator<<(const ZELDbBinary& uuid) noexcept;
     /// An address; null as "0".
-    ZanDicTraceLine& operator<<(const void* address);
+    ZanDicTraceLine& operator<<(const void* address) noexcept;
     template <std::integral Number>
-    ZanDicTraceLine& operator<<(Number number) {
+    ZanDicTraceLine& operator<<(Number number) noexcept {
         return Append(static_cast<long long>(number));
     }
     template <class Code>
-    requires std::is_enum_v<Code> ZanDicTraceLine& operator<<(Code code) {
+    requires std::is_enum_v<Code> ZanDicTraceLine& operator<<(Code code) noexcept {
         return Append(static_cast<long long>(code));
     }
 
 private:
     struct Draft;
 
-    ZanDicTraceLine& Value(std::string_view text);
-    ZanDicTraceLine& Append(long long number);
+    ZanDicTraceLine& Value(std::string_view text) noexcept;
+    ZanDicTraceLine& Append(long long number) noexcept;
     [[gnu::cold]] void Write() noexcept;
 
     Draft* _Draft = nullptr;  ///< owned; null when the line is not written

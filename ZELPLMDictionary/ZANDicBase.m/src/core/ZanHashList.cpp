@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <cstdio>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -17,6 +18,7 @@
 #include "ZELPool.h"
 #include "ZanDicLink.h"
 #include "ZanDicObj.h"
+#include "ZanDicTaken.h"
 #include "ZanDicTrace.h"
 
 namespace {
@@ -189,9 +191,12 @@ struct ZanHashList::Store {
     static constexpr int kMostTags = 64;
 
     constexpr Store(ZanHashListKind listKind, int room) noexcept
-        : kind(listKind), tagGroups(GroupsFor(room)), capacity(room) {}
+        : kind(listKind), tagGroups(GroupsFor(listKind, room)), capacity(room) {}
 
-    Extra* extra = nullptr;  ///< owned; there in each list that does not own
+    union {
+        Extra* extra = nullptr;  ///< owned; there in each list that does not own
+        Store* nextTaken;        ///< once it was taken from its list: the one taken next
+    };
     ZanHashListKind kind;
     std::uint8_t tagGroups;  ///< of 16 tags; 0 where the index is
     int capacity;            ///< how many entries there is room for
@@ -202,18 +207,24 @@ struct ZanHashList::Store {
     /// \returns an empty store with room for \p capacity entries, the caller's to give to Destroy.
     static Store* Create(ZanHashListKind kind, int capacity) {
         std::unique_ptr<Extra> extra;
-        if (kind == ZanHashListKind::Links || capacity > kMostTags) extra = std::make_unique<Extra>();
-        if (capacity > kMostTags) SlotIndex(capacity).Swap(extra->index);
-        Store* const made = ::new (ZELPoolAllocate(BytesFor(capacity))) Store(kind, capacity);
+        const bool hasIndex = NeedsIndex(kind, capacity);
+        if (kind == ZanHashListKind::Links || hasIndex) extra = std::make_unique<Extra>();
+        if (hasIndex) SlotIndex(capacity).Swap(extra->index);
+        Store* const made = ::new (ZELPoolAllocate(BytesFor(kind, capacity))) Store(kind, capacity);
         made->extra = extra.release();
         std::memset(made->Tags(), 0, static_cast<std::size_t>(made->TagCount()));
         return made;
     }
 
     static void Destroy(Store* store) noexcept {
-        std::destroy_n(store->Entries(), store->end);
         delete store->extra;
-        ZELPoolFree(store, BytesFor(store->capacity));
+        DestroyTaken(store);
+    }
+
+    /// Destroys a store that has no extra any more.
+    static void DestroyTaken(Store* store) noexcept {
+        std::destroy_n(store->Entries(), store->end);
+        ZELPoolFree(store, BytesFor(store->kind, store->capacity));
     }
 
     /// \returns a store with more room that has taken over all that \p store has, which is no more. When
@@ -221,13 +232,15 @@ struct ZanHashList::Store {
     static Store* MoveTo(int capacity, Store* store) {
         SlotIndex index;
         std::unique_ptr<Extra> extra;
-        if (capacity > kMostTags) {
+        const bool hasIndex = NeedsIndex(store->kind, capacity);
+        if (hasIndex) {
             if (store->extra == nullptr) extra = std::make_unique<Extra>();
             SlotIndex(capacity).Swap(index);
         }
-        Store* const moved = ::new (ZELPoolAllocate(BytesFor(capacity))) Store(store->kind, capacity);
+        Store* const moved =
+            ::new (ZELPoolAllocate(BytesFor(store->kind, capacity))) Store(store->kind, capacity);
         moved->extra = extra != nullptr ? extra.release() : std::exchange(store->extra, nullptr);
-        if (capacity > kMostTags) moved->extra->index.Swap(index);
+        if (hasIndex) moved->extra->index.Swap(index);
         std::uninitialized_move_n(store->Entries(), store->end, moved->Entries());
         moved->end = store->end;
         moved->first = store->first;
@@ -239,7 +252,7 @@ struct ZanHashList::Store {
 
     Store* Copy() const {
         std::unique_ptr<Extra> copied(extra != nullptr ? new Extra(*extra) : nullptr);
-        Store* const made = ::new (ZELPoolAllocate(BytesFor(capacity))) Store(kind, capacity);
+        Store* const made = ::new (ZELPoolAllocate(BytesFor(kind, capacity))) Store(kind, capacity);
         std::uninitialized_copy_n(Entries(), end, made->Entries());
         std::memcpy(made->Tags(), Tags(), static_cast<std::size_t>(TagCount()));
         made->extra = copied.release();
@@ -297,7 +310,7 @@ struct ZanHashList::Store {
     void RemoveAt(int at) {
         if (HasTags()) {
             Tags()[at] = 0;
-        } else {
+        } else if (HasIndex()) {
             extra->index.Leave(at, [this](int entry) { return HashOf(entry); });
         }
         At(at) = {ZELString(), nullptr};
@@ -323,16 +336,20 @@ private:
     static constexpr int kFewGaps = 8;
     static constexpr std::size_t kLinesAhead = 5;  ///< what the entries of 20 attributes take
 
-    static constexpr std::uint8_t GroupsFor(int capacity) {
-        if (capacity > kMostTags) return 0;
+    static constexpr std::uint8_t GroupsFor(ZanHashListKind kind, int capacity) {
+        if (capacity > kMostTags || kind == ZanHashListKind::Unnamed) return 0;
         return static_cast<std::uint8_t>((capacity + TagSet::kGroup - 1) / TagSet::kGroup);
     }
-    static constexpr std::size_t BytesFor(int capacity) {
-        return sizeof(Store) + static_cast<std::size_t>(GroupsFor(capacity)) * TagSet::kGroup +
+    static constexpr std::size_t BytesFor(ZanHashListKind kind, int capacity) {
+        return sizeof(Store) + static_cast<std::size_t>(GroupsFor(kind, capacity)) * TagSet::kGroup +
                static_cast<std::size_t>(capacity) * sizeof(Entry);
     }
+    static constexpr bool NeedsIndex(ZanHashListKind kind, int capacity) {
+        return capacity > kMostTags && kind != ZanHashListKind::Unnamed;
+    }
 
-    bool HasTags() const { return capacity <= kMostTags; }
+    bool HasTags() const { return tagGroups != 0; }
+    bool HasIndex() const { return NeedsIndex(kind, capacity); }
     int TagCount() const { return tagGroups * TagSet::kGroup; }
     std::uint8_t* Tags() { return reinterpret_cast<std::uint8_t*>(this + 1); }
     const std::uint8_t* Tags() const { return reinterpret_cast<const std::uint8_t*>(this + 1); }
@@ -345,8 +362,10 @@ private:
         --gaps;
     }
 
+    /// When memory is short, the list is as it was.
     void Pack() {
         const bool hasLinks = kind == ZanHashListKind::Links;
+        if (hasLinks) MakeRoomForLost();
         int kept = 0;
         for (int at = first; at < end; ++at) {
             if (At(at).object == nullptr) continue;
@@ -368,11 +387,19 @@ private:
         EnterAll();
     }
 
-    void Enter(int at) {
+    void MakeRoomForLost() {
+        int lost = 0;
+        for (int at = first; at < end; ++at) lost += static_cast<int>(At(at).object != nullptr && IsGone(at));
+        if (lost == 0) return;
+        const int wanted = extra->lost.Size() + lost;
+        if (wanted > extra->lost.Capacity())
+            extra->lost.Reserve(std::max(wanted, 2 * extra->lost.Capacity()));
+    }
+
+    [[gnu::always_inline]] void Enter(int at) {
         if (HasTags()) {
             Tags()[at] = TagSet::TagOf(HashOf(at));
-        } else {
-            // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): a list without tags has an index.
+        } else if (HasIndex()) {
             extra->index.Enter(HashOf(at), at);
         }
     }
@@ -380,8 +407,10 @@ private:
     void EnterAll() {
         if (HasTags()) {
             std::memset(Tags(), 0, static_cast<std::size_t>(TagCount()));
-        } else {
+        } else if (HasIndex()) {
             extra->index.Empty();
+        } else {
+            return;
         }
         for (int at = first; at < end; ++at) {
             if (At(at).object != nullptr) Enter(at);
@@ -414,6 +443,8 @@ ZanHashList::Store* ZanHashList::empty_Store(ZanHashListKind kind) noexcept {
     /// Never destroyed: lists may outlive whatever is destroyed at exit.
     static constinit Store links(ZanHashListKind::Links, 0);
     static constinit Store owner(ZanHashListKind::Owner, 0);
+    static constinit Store unnamed(ZanHashListKind::Unnamed, 0);
+    if (kind == ZanHashListKind::Unnamed) return &unnamed;
     return kind == ZanHashListKind::Owner ? &owner : &links;
 }
 
@@ -503,17 +534,20 @@ HRESULT ZanHashList::Remove(const ZELString& name) {
 
 HRESULT ZanHashList::RemoveAll() {
     static constexpr ZanDicTraceScope trace("ZanHashList::RemoveAll");
-    const auto sizes = [this] {
-        const std::string size = std::to_string(Size());
-        return "_HASH.Size()=" + size + ", _LISTP.Size()=" + size;
+    // Lists are emptied while their owners are taken down, which takes no memory.
+    constexpr const char* kSizes = "ZanHashList::RemoveAll _HASH.Size()=%d, _LISTP.Size()=%d";
+    char text[96];
+    const auto line = [&] {
+        return std::string_view(text, std::snprintf(text, sizeof text, kSizes, Size(), Size()));
     };
+    const auto sizes = [&] { return line().substr(std::string_view("ZanHashList::RemoveAll ").size()); };
     trace.Start("=== start === ");
-    if (auto line = trace.Line(TraceLevel::Call)) line << sizes();
+    trace.Say(TraceLevel::Call, sizes());
     // Deliberate: written at every level, without separator and stop
     // (ZanHashListTest.RemoveAllAlwaysWritesItsLine).
-    ZanDicWriteAlways("ZanHashList::RemoveAll " + sizes());
+    ZanDicWriteAlways(line());
     clear();
-    if (auto line = trace.Line(TraceLevel::Call)) line << sizes();
+    trace.Say(TraceLevel::Call, sizes());
     return trace.Exit(S_OK);
 }
 
@@ -534,9 +568,52 @@ bool ZanHashList::take_Object(const ZanDicObj* object) {
     return true;
 }
 
-void ZanHashList::clear() {
+void ZanHashList::clear() noexcept {
     Store* const empty = empty_Store(_STORE->kind);
     if (_STORE != empty) Store::Destroy(std::exchange(_STORE, empty));
+}
+
+void ZanHashList::keep(ZanDicObj& object) {
+    if (_STORE->end == _STORE->capacity) make_Room(std::max(1, _STORE->end * 2));
+    _STORE->Append(ZELString(), &object);
+    object.set_Owned();
+}
+
+void ZanDicTaken::Take(ZanHashList& owned) noexcept {
+    if (owned._STORE->end == 0) return;
+    ZanHashList::Store* const store =
+        std::exchange(owned._STORE, ZanHashList::empty_Store(owned._STORE->kind));
+    delete store->extra;
+    store->nextTaken = nullptr;
+    (_Last != nullptr ? _Last->nextTaken : _First) = store;
+    _Last = store;
+    if (_Current == nullptr) Enter(store);
+}
+
+ZanDicObj* ZanDicTaken::Next() noexcept {
+    while (_Current != nullptr) {
+        while (_Index < _Current->end) {
+            if (ZanDicObj* const object = _Current->At(_Index++).object) return object;
+        }
+        if (_Current == _Last) return nullptr;
+        Enter(_Current->nextTaken);
+    }
+    return nullptr;
+}
+
+void ZanDicTaken::Rewind() noexcept { Enter(_First); }
+
+void ZanDicTaken::Enter(ZanHashList::Store* store) noexcept {
+    _Current = store;
+    _Index = store != nullptr ? store->first : 0;
+}
+
+ZanDicTaken::~ZanDicTaken() {
+    while (_First != nullptr) {
+        ZanHashList::Store* const store = _First;
+        _First = store->nextTaken;
+        ZanHashList::Store::DestroyTaken(store);
+    }
 }
 
 void ZanHashList::reserve(int count) {

@@ -11,6 +11,7 @@
 #include "OxmBuildFileName.h"
 #include "ZANDicValueWords.h"
 #include "ZELDurableFile.h"
+#include "ZELMemory.h"
 #include "ZanDicSavePlace.h"
 #include "ZanDicStored.h"
 #include "ZanDicTrace.h"
@@ -115,7 +116,9 @@ HRESULT Export(OXMIDicPackage& package, const char* directory) {
     ZELDurableFile file;
     HRESULT rc = file.Open(shownName);
     if (Succeeded(rc)) {
+        const ZELShortageWatch shortage;
         rc = WriteSchema(file, package, name);
+        shortage.Check();  // or what could not be asked for would be left out
         if (Failed(rc)) return rc;
         rc = file.Commit();
     }
@@ -131,5 +134,5 @@ HRESULT OxmDicToEXPRESS(OXMIDicMgr* manager, const ZELString* packageName, const
     if (Failed(manager->GetPackage(packageName, package.Out())) || !package) return E_FAIL;
     return Export(*package, directory);
 } catch (const std::bad_alloc&) {
-    return E_FAIL;
+    return ZELNoteShortage();
 }

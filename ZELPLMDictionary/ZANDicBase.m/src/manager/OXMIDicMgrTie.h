@@ -9,75 +9,113 @@
 template <class Impl, class Base>
 class OXMIDicMgrLayer : public Base {
 public:
-    HRESULT Init(int reserved) override { return this->impl().Init(reserved); }
-    HRESULT Save() override { return this->impl().Save(); }
+    HRESULT Init(int reserved) override {
+        return this->forward([&](Impl& impl) { return impl.Init(reserved); });
+    }
+    HRESULT Save() override {
+        return this->forward([&](Impl& impl) { return impl.Save(); });
+    }
     HRESULT SavePackageToDir(const char* directory, const ZELString* packageName,
                              OXMDicPERSISTENT mode) override {
-        return this->impl().SavePackageToDir(directory, packageName, mode);
+        return this->forward([&](Impl& impl) { return impl.SavePackageToDir(directory, packageName, mode); });
     }
     HRESULT SavePackage(const ZELString* packageName, OXMDicPERSISTENT mode) override {
-        return this->impl().SavePackage(packageName, mode);
+        return this->forward([&](Impl& impl) { return impl.SavePackage(packageName, mode); });
     }
-    HRESULT End() override { return this->impl().End(); }
-    HRESULT Create() override { return this->impl().Create(); }
+    HRESULT End() override {
+        return this->forward([&](Impl& impl) { return impl.End(); });
+    }
+    HRESULT Create() override {
+        return this->forward([&](Impl& impl) { return impl.Create(); });
+    }
     HRESULT LoadPackageFromDir(const char* directory, const ZELString* packageName, OXMDicPERSISTENT mode,
                                OXMDicCONTENT content) override {
-        return this->impl().LoadPackageFromDir(directory, packageName, mode, content);
+        return this->forward(
+            [&](Impl& impl) { return impl.LoadPackageFromDir(directory, packageName, mode, content); });
     }
     HRESULT LoadPackageFromDir(const char* directory, const ZELString* packageName,
                                OXMDicPERSISTENT mode) override {
-        return this->impl().LoadPackageFromDir(directory, packageName, mode);
+        return this->forward(
+            [&](Impl& impl) { return impl.LoadPackageFromDir(directory, packageName, mode); });
     }
     HRESULT LoadPackage(const ZELString* packageName, OXMDicPERSISTENT mode, OXMDicCONTENT content) override {
-        return this->impl().LoadPackage(packageName, mode, content);
+        return this->forward([&](Impl& impl) { return impl.LoadPackage(packageName, mode, content); });
     }
     HRESULT LoadPackage(const ZELString* packageName, OXMDicPERSISTENT mode) override {
-        return this->impl().LoadPackage(packageName, mode);
+        return this->forward([&](Impl& impl) { return impl.LoadPackage(packageName, mode); });
     }
     HRESULT GetPackages(const ZELString* domain, ZELListPtrIUnknown* packages) override {
-        return this->impl().GetPackages(domain, packages);
+        return this->forward_List(packages, [&](Impl& impl) { return impl.GetPackages(domain, packages); });
     }
-    HRESULT GetPackages(ZELListPtrIUnknown* packages) override { return this->impl().GetPackages(packages); }
+    HRESULT GetPackages(ZELListPtrIUnknown* packages) override {
+        return this->forward_List(packages, [&](Impl& impl) { return impl.GetPackages(packages); });
+    }
     HRESULT GetPackage(const ZELString* name, OXMIDicPackage** package) override {
-        return this->impl().GetPackage(name, package);
+        return this->forward([&](Impl& impl) { return impl.GetPackage(name, package); });
     }
     HRESULT CreatePackage(const ZELString* name, const ZELDbBinary* uuid, const ZELString* domain,
                           OXMIDicPackage** package) override {
-        return this->impl().CreatePackage(name, uuid, domain, package);
+        return this->forward([&](Impl& impl) { return impl.CreatePackage(name, uuid, domain, package); });
     }
     HRESULT CreatePackage(const ZELString* name, OXMIDicPackage** package) override {
-        return this->impl().CreatePackage(name, package);
+        return this->forward([&](Impl& impl) { return impl.CreatePackage(name, package); });
     }
-    HRESULT RemovePackage(const ZELString* name) override { return this->impl().RemovePackage(name); }
-    HRESULT Reserved1() override { return this->impl().Reserved1(); }
-    HRESULT Reserved2() override { return this->impl().Reserved2(); }
-    HRESULT Reserved3() override { return this->impl().Reserved3(); }
-    HRESULT Reserved4() override { return this->impl().Reserved4(); }
-    HRESULT Reserved5() override { return this->impl().Reserved5(); }
-    HRESULT Reserved6() override { return this->impl().Reserved6(); }
-    HRESULT Reserved7() override { return this->impl().Reserved7(); }
-    HRESULT Reserved8() override { return this->impl().Reserved8(); }
+    HRESULT RemovePackage(const ZELString* name) override {
+        return this->forward([&](Impl& impl) { return impl.RemovePackage(name); });
+    }
+    HRESULT Reserved1() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved1(); });
+    }
+    HRESULT Reserved2() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved2(); });
+    }
+    HRESULT Reserved3() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved3(); });
+    }
+    HRESULT Reserved4() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved4(); });
+    }
+    HRESULT Reserved5() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved5(); });
+    }
+    HRESULT Reserved6() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved6(); });
+    }
+    HRESULT Reserved7() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved7(); });
+    }
+    HRESULT Reserved8() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved8(); });
+    }
     HRESULT GetPrimitive(OXMDicPRIMITIVEType kind, OXMIDicPrimitive** primitive) override {
-        return this->impl().GetPrimitive(kind, primitive);
+        return this->forward([&](Impl& impl) { return impl.GetPrimitive(kind, primitive); });
     }
-    HRESULT Reserved9() override { return this->impl().Reserved9(); }
-    HRESULT Reserved10() override { return this->impl().Reserved10(); }
-    HRESULT SetLoadingMode(OXMDicPERSISTENT mode) override { return this->impl().SetLoadingMode(mode); }
-    HRESULT GetLoadingMode(OXMDicPERSISTENT* mode) override { return this->impl().GetLoadingMode(mode); }
+    HRESULT Reserved9() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved9(); });
+    }
+    HRESULT Reserved10() override {
+        return this->forward([&](Impl& impl) { return impl.Reserved10(); });
+    }
+    HRESULT SetLoadingMode(OXMDicPERSISTENT mode) override {
+        return this->forward([&](Impl& impl) { return impl.SetLoadingMode(mode); });
+    }
+    HRESULT GetLoadingMode(OXMDicPERSISTENT* mode) override {
+        return this->forward([&](Impl& impl) { return impl.GetLoadingMode(mode); });
+    }
     HRESULT SaveExpress(const char* directory, const ZELString* packageName) override {
-        return this->impl().SaveExpress(directory, packageName);
+        return this->forward([&](Impl& impl) { return impl.SaveExpress(directory, packageName); });
     }
     HRESULT SaveXml(const char* directory, const ZELString* packageName) override {
-        return this->impl().SaveXml(directory, packageName);
+        return this->forward([&](Impl& impl) { return impl.SaveXml(directory, packageName); });
     }
     HRESULT LoadXml(const char* directory, const ZELString* packageName, OXMDicCONTENT content) override {
-        return this->impl().LoadXml(directory, packageName, content);
+        return this->forward([&](Impl& impl) { return impl.LoadXml(directory, packageName, content); });
     }
     HRESULT Search(const ZELDbBinary* uuid, OXMIDicElementH** object) override {
-        return this->impl().Search(uuid, object);
+        return this->forward([&](Impl& impl) { return impl.Search(uuid, object); });
     }
     HRESULT SearchByName(const ZELString* name, ZELListPtrIUnknown* objects) override {
-        return this->impl().SearchByName(name, objects);
+        return this->forward_List(objects, [&](Impl& impl) { return impl.SearchByName(name, objects); });
     }
 };
 

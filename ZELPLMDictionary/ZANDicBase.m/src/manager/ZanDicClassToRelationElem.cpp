@@ -2,7 +2,9 @@
 
 #include <cstring>
 
+#include "IUnknown.h"
 #include "ZanDicAttribute.h"
+#include "ZanDicRef.h"
 
 void ZanDicClassToRelationElem::AddRelationship(ZanDicAttribute* attribute) {
     if (attribute != nullptr) _RELATIONSHIPS.Append(*attribute);
@@ -20,10 +22,12 @@ void ZanDicClassToRelationElem::add_All(const ZanDicClassToRelationElem& other) 
 
 HRESULT ZanDicClassToRelationElem::GetRelationships(ZELListPtrIUnknown& relationships) const {
     for (int position = 1; position <= _RELATIONSHIPS.Size(); ++position) {
-        void* relationship = nullptr;
-        const HRESULT rc = _RELATIONSHIPS[position]->bind_Interface(OXMDicTYPE_UNDEFINED, &relationship);
+        void* face = nullptr;
+        const HRESULT rc = _RELATIONSHIPS[position]->bind_Interface(OXMDicTYPE_UNDEFINED, &face);
         if (Failed(rc)) return rc;
-        relationships.Append(static_cast<IUnknown*>(relationship));
+        ZanDicRef<IUnknown> relationship(static_cast<IUnknown*>(face));
+        relationships.Append(relationship.Get());
+        relationship.Detach();
     }
     return S_OK;
 }

@@ -97,7 +97,7 @@ bool ZanDicUuidTable::Remove(const ZanDicObj& object) noexcept {
         gap = place;
     }
     _ENTRIES[gap] = 0;
-    if (--_Size == 0) RemoveAll();
+    --_Size;
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -9,6 +10,7 @@
 #include "OXMIDicElementH.h"
 #include "OXMIDicMgrTie.h"
 #include "OXMIDicPrimitive.h"
+#include "ZELCall.h"
 #include "ZELEnvironment.h"
 #include "ZELUuid.h"
 #include "ZanDicAttribute.h"
@@ -16,6 +18,7 @@
 #include "ZanDicManagerFactory.h"
 #include "ZanDicPackage.h"
 #include "ZanDicPrimitive.h"
+#include "ZanDicTaken.h"
 #include "ZanDicTrace.h"
 #include "ZanDicTypeNames.h"
 
@@ -32,7 +35,8 @@ constexpr const char* kPrimitiveNames[] = {"Boolean", "Integer", "Double", "Stri
 static_assert(std::size(kPrimitiveNames) == OXMDicPRIMITIVEType_AnyObject);
 
 ZELString PackageNameOf(const ZanDicObj& object) {
-    return object.Type() == OXMDicTYPE_Package ? ZELString("?") : object.get_PackageName();
+    return object.Type() == OXMDicTYPE_Package ? object.ZanDicObj::get_PackageName()
+                                               : object.get_PackageName();
 }
 
 /// The trace of what enters and leaves the registry.
@@ -89,7 +93,10 @@ public:
             auto* const manager = new ZanDictionary;
             return ZanDicManagerParts{manager, manager, manager};
         });
-        OXMIDicSetMgrProvider([](OXMIDicMgr** manager) { return _StaticZanDicData.get_OXMIDicMgr(manager); });
+        OXMIDicSetMgrProvider([](OXMIDicMgr** manager) {
+            ZELOwnThread();
+            return ZELCall([&] { return _StaticZanDicData.get_OXMIDicMgr(manager); }, "GetOXMIDicMgr");
+        });
     }
     ~Registration() { OXMIDicSetMgrProvider(nullptr); }
     Registration(const Registration&) = delete;
@@ -126,11 +133,10 @@ HRESULT ZanDictionary::Init(int /*reserved*/) {
 HRESULT ZanDictionary::Create() {
     static constexpr ZanDicTraceScope trace("ZanDictionary::Create", kExitWord);
     trace.Start();
-    if (_PRIMITIVES[0] == nullptr) {
-        for (int index = 0; index < kPrimitiveCount; ++index) {
-            _PRIMITIVES[index] = new ZanDicPrimitive(kPrimitiveNames[index], getuuid(),
-                                                     static_cast<OXMDicPRIMITIVEType>(index + 1));
-        }
+    for (int index = 0; index < kPrimitiveCount; ++index) {
+        if (_PRIMITIVES[index] != nullptr) continue;
+        _PRIMITIVES[index] = new ZanDicPrimitive(kPrimitiveNames[index], getuuid(),
+                                                 static_cast<OXMDicPRIMITIVEType>(index + 1));
     }
     return trace.Exit(S_OK);
 }
@@ -138,55 +144,57 @@ HRESULT ZanDictionary::Create() {
 HRESULT ZanDictionary::End() {
     static constexpr ZanDicTraceScope trace("ZanDictionary::End", kExitWord);
     trace.Start();
-    const std::vector<ZanDicObj*> objects = take_All();
-    for (ZanDicObj* const object : objects) object->mark_Gone();
-    for (ZanDicObj* const object : objects) object->Release();
+    ZanDicTaken members;
+    ZanDicUuidTable others;
+    take_All(members, others);
+    const auto forEach = [&](const auto& action) {
+        members.Rewind();
+        while (ZanDicObj* const object = members.Next()) action(*object);
+        others.ForEach([&](ZanDicObj* object) {
+            if (!object->is_Owned()) action(*object);
+        });
+        for (ZanDicPrimitive* const primitive : _PRIMITIVES) {
+            if (primitive != nullptr) action(*primitive);
+        }
+    };
+    forEach([](ZanDicObj& object) { object.mark_Gone(); });
+    forEach([](ZanDicObj& object) { object.Release(); });
+    std::fill(std::begin(_PRIMITIVES), std::end(_PRIMITIVES), nullptr);
     return trace.Exit(S_OK);
 }
 
-std::vector<ZanDicObj*> ZanDictionary::take_All() {
-    std::vector<ZanDicObj*> taken;
-    std::size_t opened = 0;  // those before it own nothing any more
-    const auto openAll = [&] {
-        for (; opened < taken.size(); ++opened) {
-            taken[opened]->set_Registered(false);
-            taken[opened]->take_Owned(taken);
+void ZanDictionary::take_All(ZanDicTaken& members, ZanDicUuidTable& others) {
+    int registered = 0;
+    const auto open = [&](const auto& leave) {
+        while (ZanDicObj* const object = members.Next()) {
+            if (object->is_Registered()) leave(*object);
+            object->set_Registered(false);
+            object->take_Owned(members);
         }
     };
-
-    taken.reserve(static_cast<std::size_t>(_OBJECTS.Size()) + kPrimitiveCount);
-    for (int position = 1; position <= _PACKAGES.Size(); ++position) taken.push_back(_PACKAGES[position]);
-    _PACKAGES.clear();
+    members.Take(_PACKAGES);
     _LOADS.clear();
-    openAll();
+    open([&](const ZanDicObj&) { ++registered; });
 
     // What is registered outside of the packages: first what these objects own among themselves, then those
     // that nobody else owns, each with its creator's reference. What an object that is not registered owns
     // stays that one's.
-    std::vector<ZanDicObj*> others;
-    _OBJECTS.ForEach([&others](ZanDicObj* object) {
-        if (object->is_Registered()) others.push_back(object);
-    });
-    for (ZanDicObj* const object : others) object->take_Owned(taken);
-    openAll();
-    for (ZanDicObj* const object : others) {
-        if (!object->is_Registered()) continue;
-        object->set_Registered(false);
-        if (!object->is_Owned()) taken.push_back(object);
+    if (registered != _OBJECTS.Size()) {
+        std::swap(others, _OBJECTS);
+        members.Rewind();
+        while (const ZanDicObj* const object = members.Next()) others.Remove(*object);
+        others.ForEach([&](ZanDicObj* object) { object->take_Owned(members); });
+        open([&](const ZanDicObj& object) { others.Remove(object); });
+        others.ForEach([](ZanDicObj* object) { object->set_Registered(false); });
     }
-    openAll();
     _OBJECTS.RemoveAll();
 
-    for (ZanDicPrimitive*& primitive : _PRIMITIVES) {
-        if (primitive != nullptr) taken.push_back(std::exchange(primitive, nullptr));
-    }
     ZELHashIterator iterator = _CLASSTORELATION.CreateIterator();
     for (auto* entry = _CLASSTORELATION[iterator]; entry != nullptr;
          entry = _CLASSTORELATION.Next(iterator)) {
         delete entry;
     }
     _CLASSTORELATION.RemoveAll();
-    return taken;
 }
 
 HRESULT ZanDictionary::GetPrimitive(OXMDicPRIMITIVEType kind, OXMIDicPrimitive** primitive) {
@@ -284,12 +292,15 @@ ZanDicClassToRelationElem* ZanDictionary::find_Relations(const ZELDbBinary& clas
 HRESULT ZanDictionary::AddClassToRelation(const ZELDbBinary* classUuid, ZanDicAttribute* attribute) {
     if (classUuid == nullptr || attribute == nullptr) return E_FAIL;
     ZanDicClassToRelationElem* entry = find_Relations(*classUuid);
-    if (entry == nullptr) {
-        entry = new ZanDicClassToRelationElem;
-        entry->SetClassUUID(*classUuid);
-        _CLASSTORELATION.InsertNew(ZanDicClassToRelationElem::GetHashKey(entry), entry);
+    if (entry != nullptr) {
+        entry->AddRelationship(attribute);
+        return S_OK;
     }
-    entry->AddRelationship(attribute);
+    auto made = std::make_unique<ZanDicClassToRelationElem>();
+    made->SetClassUUID(*classUuid);
+    made->AddRelationship(attribute);
+    _CLASSTORELATION.InsertNew(classUuid->ComputeHashKey(), made.get());
+    made.release();
     return S_OK;
 }
 

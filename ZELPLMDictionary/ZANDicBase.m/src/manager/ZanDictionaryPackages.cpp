@@ -3,7 +3,9 @@
 #include "OXMIDicElement.h"
 #include "OXMIDicPackage.h"
 #include "ZELUuid.h"
+#include "ZanDicHandOut.h"
 #include "ZanDicPackage.h"
+#include "ZanDicRef.h"
 #include "ZanDicTrace.h"
 #include "ZanDictionary.h"
 
@@ -34,10 +36,7 @@ HRESULT ZanDictionary::GetPackages(const ZELString* domain, ZELListPtrIUnknown* 
         if (auto line = trace.Line(TraceLevel::Detail)) {
             line << "PackName=" << package.Name() << ", PackDomain=" << packageDomain;
         }
-        void* face = nullptr;
-        if (packageDomain == *domain && Succeeded(package.bind_Interface(OXMDicTYPE_UNDEFINED, &face))) {
-            packages->Append(static_cast<IUnknown*>(face));
-        }
+        if (packageDomain == *domain) AppendInterface(package, packages);
     }
     return S_OK;
 }
@@ -85,17 +84,20 @@ HRESULT ZanDictionary::CreatePackage(const ZELString* name, const ZELDbBinary* u
 
 HRESULT ZanDictionary::make_Package(const ZELString& name, const ZELDbBinary& uuid, const ZELString& domain,
                                     OXMIDicPackage** package) {
-    auto* const made = new ZanDicPackage(&name, &uuid, &domain);
-    HRESULT rc = made->is_Registered() ? _PACKAGES.Append(made) : E_FAIL;
-    if (Failed(rc)) {
-        if (made->is_Registered()) Delete(made);
-        made->mark_Gone();
-        made->Release();
+    // Its end takes it out of the registry: nobody knows it before it is in the list.
+    ZanDicRef<ZanDicPackage> made(new ZanDicPackage(&name, &uuid, &domain));
+    if (!made->is_Registered()) return E_FAIL;
+    ZanDicRef<OXMIDicPackage> face;
+    if (const HRESULT rc = HandOutAs(*made, face.Out()); Failed(rc)) return rc;
+    if (const HRESULT rc = _PACKAGES.Append(made.Get()); Failed(rc)) {
+        Delete(made.Get());
         return rc;
     }
+    made.Detach();
     ZanDicTraceScope("ZanDictionary::CreatePackage", kExitWord)
         .Say(TraceLevel::Information, "binding interface to OXMDicPACKAGE ...");
-    return made->bind_Interface(OXMDicTYPE_Package, reinterpret_cast<void**>(package));
+    *package = face.Detach();
+    return S_OK;
 }
 
 HRESULT ZanDictionary::CreatePackage(const ZELString* name, OXMIDicPackage** package) {
@@ -132,6 +134,7 @@ HRESULT ZanDictionary::RemovePackage(const ZELString* name) {
         const std::uint32_t count = package->Release();
         if (auto line = trace.Line(TraceLevel::Detail)) line << "RefCount=" << count;
         std::erase_if(_LOADS, [](const auto& load) { return !load.second; });
+        if (_OBJECTS.Size() == 0) _OBJECTS.RemoveAll();
     }
     return trace.Exit(rc);
 }
@@ -140,16 +143,16 @@ HRESULT ZanDictionary::SearchByName(const ZELString* name, ZELListPtrIUnknown* o
     if (name == nullptr || objects == nullptr) return E_FAIL;
     HRESULT rc = E_FAIL;
     if (const ZanDicPackage* const package = find_Package(*name)) {
-        void* face = nullptr;
-        if (Succeeded(package->bind_Interface(OXMDicTYPE_UNDEFINED, &face))) {
-            objects->Append(static_cast<IUnknown*>(face));
-        }
+        AppendInterface(*package, objects);
         rc = S_OK;
     }
     for (int position = 1; position <= _PACKAGES.Size(); ++position) {
-        OXMIDicElement* element = nullptr;
+        ZanDicRef<OXMIDicElement> element;
         const auto& package = static_cast<const ZanDicPackage&>(*_PACKAGES[position]);
-        if (Succeeded(package.GetElement(name, &element))) objects->Append(element);
+        if (Succeeded(package.GetElement(name, element.Out()))) {
+            objects->Append(element.Get());
+            element.Detach();
+        }
         rc = S_OK;
     }
     return rc;

@@ -250,12 +250,14 @@ HRESULT ZanDicAttribute::GetPrimitive(OXMIDicPrimitive** primitive) const {
 
 HRESULT ZanDicAttribute::SetTarget(const OXMIDicClass* target) {
     auto* const targetClass = LiveImplementationOf<ZanDicClass>(target);
-    if (const HRESULT rc = set_Type(targetClass); Failed(rc)) return rc;
+    if (targetClass == nullptr || is_Gone()) return E_FAIL;
     ZanDicRegistry* const registry = ZanDicGetRegistry();
-    if (_Injective != 0 && registry != nullptr && registry->owns_Uuid(*targetClass)) {
-        registry->AddClassToRelation(&targetClass->Uuid(), this);
-        _Noted = true;
-    }
+    const bool isNoted = _Injective != 0 && registry != nullptr && registry->owns_Uuid(*targetClass);
+    // What needs memory comes first: from here on nothing fails.
+    const ZanDicLink<ZanDicElement> place(targetClass);
+    if (isNoted) registry->AddClassToRelation(&targetClass->Uuid(), this);
+    set_Type(targetClass);
+    if (isNoted) _Noted = true;
     return S_OK;
 }
 

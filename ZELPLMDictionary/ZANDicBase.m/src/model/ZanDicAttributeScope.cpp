@@ -1,4 +1,6 @@
 // The classes to which an attribute applies.
+#include <utility>
+
 #include "OXMIDicElement.h"
 #include "ZanDicAttribute.h"
 #include "ZanDicAttributeFields.h"
@@ -23,8 +25,11 @@ HRESULT ZanDicAttribute::AddScope(const OXMIDicElement* scope) {
         return E_FAIL;
     }
     ZanDicRef<ZanDicScope>& field = make_Fields().scope;
-    if (!field) field.Reset(new ZanDicScope);
-    return field->AddClass(static_cast<ZanDicClass&>(*element));
+    ZanDicRef<ZanDicScope> restriction =
+        field ? ZanDicRef<ZanDicScope>::Share(field.Get()) : ZanDicRef<ZanDicScope>(new ZanDicScope);
+    const HRESULT rc = restriction->AddClass(static_cast<ZanDicClass&>(*element));
+    field = std::move(restriction);
+    return rc;
 }
 
 HRESULT ZanDicAttribute::RemoveScope(const OXMIDicElement* scope) {

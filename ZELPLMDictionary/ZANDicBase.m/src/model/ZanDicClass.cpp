@@ -1,6 +1,7 @@
 #include "ZanDicClass.h"
 
 #include <string>
+#include <utility>
 
 #include "HexToBinary.h"
 #include "OXMIDicClass.h"
@@ -9,6 +10,7 @@
 #include "OXMIDicRelationship.h"
 #include "OXMIDicSimple.h"
 #include "OXMIDicUnique.h"
+#include "ZanDicAdopt.h"
 #include "ZanDicAllAttributes.h"
 #include "ZanDicAttribute.h"
 #include "ZanDicClassFields.h"
@@ -35,7 +37,7 @@ ZanDicClass::ZanDicClass(const ZELString& name, const ZELDbBinary& uuid)
 
 ZanDicClass::~ZanDicClass() {
     if (!is_Gone()) forget_Relations();
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicClass::take_Owned(owned);
     DropTaken(owned);
 }
@@ -60,14 +62,13 @@ const ZanHashList& ZanDicClass::methods() const {
     return fields() != nullptr ? fields()->methods : none;
 }
 
-void ZanDicClass::take_Owned(std::vector<ZanDicObj*>& owned) {
-    TakeList(_ATTRIBUTES, owned);
+void ZanDicClass::take_Owned(ZanDicTaken& owned) {
+    owned.Take(_ATTRIBUTES);
     if (rare() == nullptr) return;
     ZanDicClassFields& members = make_Fields();
-    TakeList(members.uniques, owned);
-    TakeList(members.methods, owned);
-    owned.insert(owned.end(), members.removed.begin(), members.removed.end());
-    members.removed.RemoveAll();
+    owned.Take(members.uniques);
+    owned.Take(members.methods);
+    owned.Take(members.removed);
 }
 
 int ZanDicClass::lost_Links(LinkName link) const {
@@ -79,7 +80,7 @@ int ZanDicClass::lost_Links(LinkName link) const {
 void ZanDicClass::drop_Links() {
     ZanDicElement::drop_Links();
     ZanDicHierarchy::Changed();
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicClass::take_Owned(owned);
     DropTaken(owned);
     _SuperClass.Reset();
@@ -114,14 +115,14 @@ HRESULT ZanDicClass::create_Attribute(const ZELString* name, const ZELDbBinary* 
     if (name == nullptr || uuid == nullptr || attribute == nullptr || is_Gone()) return E_FAIL;
     const ZanDicTraceScope trace("ZanDicClass::Create");
     trace.Start("=== start === ");
-    void* face = nullptr;
+    IUnknown* face = nullptr;
     const HRESULT rc = make_Attribute(*name, *uuid, type, &face, trace);
     if (face != nullptr) *attribute = static_cast<Interface*>(face);
     return trace.Exit(rc);
 }
 
 HRESULT ZanDicClass::make_Attribute(const ZELString& name, const ZELDbBinary& uuid, OXMDicTYPE type,
-                                    void** attribute, const ZanDicTraceScope& trace) {
+                                    IUnknown** attribute, const ZanDicTraceScope& trace) {
     ZanDicRegistry* const registry = ZanDicGetRegistry();
     ZanDicObj* present = nullptr;
     if (registry == nullptr) return E_FAIL;
@@ -136,11 +137,8 @@ HRESULT ZanDicClass::make_Attribute(const ZELString& name, const ZELDbBinary& uu
     made->set_Class(this);
     made->set_TYPE(type);
     made->set_Package(get_Package());
-    if (const HRESULT rc = _ATTRIBUTES.append_New(*made); Failed(rc)) return rc;
-    ZanDicAttribute& owned = *made.Detach();
     forget_AllAttributes();
-    owned.bind_Interface(OXMDicTYPE_UNDEFINED, attribute);
-    return registry->Insert(&owned);
+    return AdoptMember(_ATTRIBUTES, made, attribute, *registry);
 }
 
 template <class Member, class Interface>
@@ -155,10 +153,7 @@ HRESULT ZanDicClass::make_Member(ZanHashList ZanDicClassFields::*list, const ZEL
     if (Succeeded(members.Search(*name, &present))) return E_FAIL;
     ZanDicRef<Member> made(new Member(*name, *uuid));
     made->set_Package(get_Package());
-    if (const HRESULT rc = members.Append(made.Get()); Failed(rc)) return rc;
-    Member& owned = *made.Detach();
-    HandOutOwn(owned, member);
-    return registry->Insert(&owned);
+    return AdoptMember(members, made, member, *registry);
 }
 
 HRESULT ZanDicClass::CreateUnique(const ZELString* name, const ZELDbBinary* uuid, OXMIDicUnique** unique) {
@@ -172,7 +167,7 @@ HRESULT ZanDicClass::CreateMethod(const ZELString* name, const ZELDbBinary* uuid
 HRESULT ZanDicClass::RemoveElement(const ZELString* name) {
     ZanDicObj* found = nullptr;
     if (name == nullptr) return E_FAIL;
-    if (Succeeded(_ATTRIBUTES.Search(*name, &found))) make_Fields().removed.Append(found);
+    if (Succeeded(_ATTRIBUTES.Search(*name, &found))) make_Fields().removed.keep(*found);
     ZanDicHierarchy::Changed();
     return _ATTRIBUTES.Remove(*name);
 }
@@ -181,7 +176,7 @@ HRESULT ZanDicClass::RemoveUnique(const ZELString* name) {
     ZanDicObj* found = nullptr;
     if (name == nullptr) return E_FAIL;
     ZanDicClassFields& members = make_Fields();
-    if (Succeeded(members.uniques.Search(*name, &found))) members.removed.Append(found);
+    if (Succeeded(members.uniques.Search(*name, &found))) members.removed.keep(*found);
     return members.uniques.Remove(*name);
 }
 

@@ -10,6 +10,7 @@
 #include "ZanDicClass.h"
 #include "ZanDicHandOut.h"
 #include "ZanDicImplementation.h"
+#include "ZanDicRef.h"
 #include "ZanDicRegistry.h"
 #include "ZanDicTrace.h"
 #include "ZanDicValues.h"
@@ -72,10 +73,14 @@ HRESULT ZanDicClass::set_SuperClass(const IUnknown* superClass, const ZanDicTrac
     if (Type() == OXMDicTYPE_Class && newSuper->Type() == OXMDicTYPE_Extension) return E_FAIL;
     if (!is_AbleToBeUnder(*newSuper)) return E_FAIL;
 
+    // What needs memory comes first: from here on nothing fails.
+    const ZanDicLink<ZanDicClass> self(this);
+    const ZanDicLink<ZanDicClass> above(newSuper);
+    newSuper->_invSuperClass.expect_One();
     if (_SuperClass) _SuperClass->_invSuperClass.Remove(*this);
     newSuper->_invSuperClass.Remove(*this);  // listed still when that class was flushed
     newSuper->_invSuperClass.Append(*this);
-    _SuperClass = newSuper;
+    _SuperClass = above;
     _ALLATTRIBUTES.reset();
     ZanDicHierarchy::Changed();
     ZanDicHierarchy::AnswerMade();
@@ -118,8 +123,10 @@ HRESULT ZanDicClass::GetSuperInterface(OXMIDicInterface** superInterface) const 
 HRESULT ZanDicClass::GetSuperInterfaces(ZELListPtrIUnknown* superInterfaces) const {
     if (superInterfaces == nullptr) return E_FAIL;
     for (const ZanDicClass* above = _SuperClass.Get(); above != nullptr; above = above->_SuperClass.Get()) {
-        OXMIDicInterface* face = nullptr;
-        if (Succeeded(HandOutAs(*above, &face))) superInterfaces->Append(face);
+        ZanDicRef<OXMIDicInterface> face;
+        if (Failed(HandOutAs(*above, face.Out()))) continue;
+        superInterfaces->Append(face.Get());
+        face.Detach();
     }
     // Deliberate: as GetSuperClasses.
     return S_FALSE;

@@ -1,7 +1,10 @@
 #include "ZanDicEnum.h"
 
+#include <utility>
+
 #include "OXMIDicEnumerator.h"
 #include "ZELUuid.h"
+#include "ZanDicAdopt.h"
 #include "ZanDicEnumerator.h"
 #include "ZanDicHandOut.h"
 #include "ZanDicNotices.h"
@@ -21,7 +24,7 @@ ZanDicEnum::ZanDicEnum(const ZELString& name, const ZELDbBinary& uuid)
 }
 
 ZanDicEnum::~ZanDicEnum() {
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicEnum::take_Owned(owned);
     DropTaken(owned);
 }
@@ -36,10 +39,7 @@ HRESULT ZanDicEnum::CreateEnumerator(const ZELString* name, const ZELDbBinary* u
     if (Succeeded(_ENUMERATORS.Search(*name, &present))) return E_FAIL;
     ZanDicRef<ZanDicEnumerator> made(new ZanDicEnumerator(*name, *uuid));
     made->set_Package(get_Package());
-    if (const HRESULT rc = _ENUMERATORS.append_New(*made); Failed(rc)) return rc;
-    ZanDicEnumerator& owned = *made.Detach();
-    HandOutOwn(owned, enumerator);
-    return registry->Insert(&owned);
+    return AdoptMember(_ENUMERATORS, made, enumerator, *registry);
 }
 
 HRESULT ZanDicEnum::CreateEnumerator(const ZELString*, OXMIDicEnumerator**) {
@@ -67,7 +67,9 @@ HRESULT ZanDicEnum::GetEnumValue(const ZELString* name, int* value) const {
 
 HRESULT ZanDicEnum::GetEnumValues(ZELListValZELString* names) const {
     const int size = names != nullptr ? _ENUMERATORS.Size() : 0;
-    for (int position = 1; position <= size; ++position) names->Append(_ENUMERATORS[position]->Name());
+    ZELListValZELString all;
+    for (int position = 1; position <= size; ++position) all.Append(_ENUMERATORS[position]->Name());
+    if (size != 0) names->Append(all);
     return S_OK;
 }
 
@@ -79,7 +81,7 @@ HRESULT ZanDicEnum::RemoveEnumerator(const ZELString* name) {
     ZanDicObj* found = nullptr;
     if (name == nullptr) return E_FAIL;
     const bool listed = Succeeded(_ENUMERATORS.Search(*name, &found));
-    if (listed) _REMOVED.Append(found);
+    if (listed) _REMOVED.keep(*found);
     return _ENUMERATORS.Remove(*name);
 }
 
@@ -89,15 +91,14 @@ HRESULT ZanDicEnum::FlushAll() { return FlushOwner(*this); }
 
 ZanDicOwnedList ZanDicEnum::owned_List() { return {&_ENUMERATORS, "_ENUMERATORS", "ZanDicEnum::FlushAll"}; }
 
-void ZanDicEnum::take_Owned(std::vector<ZanDicObj*>& owned) {
-    TakeList(_ENUMERATORS, owned);
-    owned.insert(owned.end(), _REMOVED.begin(), _REMOVED.end());
-    _REMOVED.RemoveAll();
+void ZanDicEnum::take_Owned(ZanDicTaken& owned) {
+    owned.Take(_ENUMERATORS);
+    owned.Take(_REMOVED);
 }
 
 void ZanDicEnum::drop_Links() {
     ZanDicElement::drop_Links();
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicEnum::take_Owned(owned);
     DropTaken(owned);
 }

@@ -18,8 +18,9 @@ ZanDicExtension::~ZanDicExtension() = default;
 HRESULT ZanDicExtension::AddScope(const OXMIDicClass* scope) {
     auto* const extended = LiveImplementationOf<ZanDicClass>(scope);
     if (extended == nullptr || is_Gone()) return E_FAIL;
+    const HRESULT rc = _SCOPES.Append(*extended) ? S_OK : S_FALSE;
     _ScopesMade = true;
-    return _SCOPES.Append(*extended) ? S_OK : S_FALSE;
+    return rc;
 }
 
 HRESULT ZanDicExtension::RemoveScope(const OXMIDicClass* scope) {

@@ -4,10 +4,15 @@ HRESULT AppendInterface(const ZanDicObj& object, ZELListPtrIUnknown* list) {
     IUnknown* face = nullptr;
     const HRESULT rc = HandOutOwn(object, &face);
     if (face == nullptr) return rc;
-    if (list != nullptr) {
-        list->Append(face);
-    } else {
+    if (list == nullptr) {
         face->Release();
+        return rc;
+    }
+    try {
+        list->Append(face);
+    } catch (...) {
+        face->Release();
+        throw;
     }
     return rc;
 }

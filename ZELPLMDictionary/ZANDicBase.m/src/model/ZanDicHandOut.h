@@ -1,4 +1,4 @@
-/// Interfaces for callers, one reference each.
+/// Interfaces for callers, one reference each. Memory that runs out is std::bad_alloc, never a refusal.
 #ifndef ZAN_DIC_HAND_OUT_H
 #define ZAN_DIC_HAND_OUT_H
 
@@ -24,7 +24,7 @@ HRESULT HandOutOwn(const ZanDicObj& object, Interface** out) {
 template <class Interface>
 HRESULT HandOutAs(const ZanDicObj& object, Interface** out) {
     void* face = nullptr;
-    if (Failed(const_cast<ZanDicObj&>(object).QueryInterface(Interface::ClassId(), &face))) return E_FAIL;
+    if (Failed(const_cast<ZanDicObj&>(object).hand_Out(Interface::ClassId(), &face))) return E_FAIL;
     *out = static_cast<Interface*>(face);
     return S_OK;
 }

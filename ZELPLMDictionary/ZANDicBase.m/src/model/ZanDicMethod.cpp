@@ -1,6 +1,9 @@
 #include "ZanDicMethod.h"
 
+#include <utility>
+
 #include "OXMIDicParameter.h"
+#include "ZanDicAdopt.h"
 #include "ZanDicHandOut.h"
 #include "ZanDicNotices.h"
 #include "ZanDicParameter.h"
@@ -19,7 +22,7 @@ ZanDicMethod::ZanDicMethod(const ZELString& name, const ZELDbBinary& uuid)
 }
 
 ZanDicMethod::~ZanDicMethod() {
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicMethod::take_Owned(owned);
     DropTaken(owned);
 }
@@ -34,10 +37,7 @@ HRESULT ZanDicMethod::CreateParameter(const ZELString* name, const ZELDbBinary* 
     if (Succeeded(_PARAMETERS.Search(*name, &present))) return E_FAIL;
     // Deliberate: the parameter gets no package (ZanDicMethodTest.AParameterHasNoPackage).
     ZanDicRef<ZanDicParameter> made(new ZanDicParameter(*name, *uuid));
-    if (const HRESULT rc = _PARAMETERS.Append(made.Get()); Failed(rc)) return rc;
-    ZanDicParameter& owned = *made.Detach();
-    HandOutOwn(owned, parameter);
-    return registry->Insert(&owned);
+    return AdoptMember(_PARAMETERS, made, parameter, *registry);
 }
 
 HRESULT ZanDicMethod::CreateParameter(const ZELString*, OXMIDicParameter**) {
@@ -56,7 +56,7 @@ HRESULT ZanDicMethod::GetParameters(ZELListPtrIUnknown* parameters) const {
 HRESULT ZanDicMethod::RemoveParameter(const ZELString* name) {
     ZanDicObj* found = nullptr;
     if (name == nullptr) return E_FAIL;
-    if (Succeeded(_PARAMETERS.Search(*name, &found))) _REMOVED.Append(found);
+    if (Succeeded(_PARAMETERS.Search(*name, &found))) _REMOVED.keep(*found);
     return _PARAMETERS.Remove(*name);
 }
 
@@ -64,15 +64,14 @@ HRESULT ZanDicMethod::FlushAll() { return FlushOwner(*this); }
 
 ZanDicOwnedList ZanDicMethod::owned_List() { return {&_PARAMETERS, "_PARAMETERS", "ZanDicMethod::FlushAll"}; }
 
-void ZanDicMethod::take_Owned(std::vector<ZanDicObj*>& owned) {
-    TakeList(_PARAMETERS, owned);
-    owned.insert(owned.end(), _REMOVED.begin(), _REMOVED.end());
-    _REMOVED.RemoveAll();
+void ZanDicMethod::take_Owned(ZanDicTaken& owned) {
+    owned.Take(_PARAMETERS);
+    owned.Take(_REMOVED);
 }
 
 void ZanDicMethod::drop_Links() {
     ZanDicElement::drop_Links();
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicMethod::take_Owned(owned);
     DropTaken(owned);
 }

@@ -1,6 +1,7 @@
 #include "ZanDicPackage.h"
 
 #include <string>
+#include <utility>
 
 #include "OXMIDicCategory.h"
 #include "OXMIDicClass.h"
@@ -12,6 +13,7 @@
 #include "OXMIDicRBOClass.h"
 #include "OXMIDicRBOMapping.h"
 #include "ZELUuid.h"
+#include "ZanDicAdopt.h"
 #include "ZanDicCategory.h"
 #include "ZanDicClass.h"
 #include "ZanDicCommand.h"
@@ -56,7 +58,7 @@ ZanDicPackage::~ZanDicPackage() {
         line << "@=" << this << ", _Type=" << Type() << " (" << ZanDicTypeName(Type())
              << "), _Name=" << Name();
     }
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicPackage::take_Owned(owned);
     DropTaken(owned);
 }
@@ -263,10 +265,7 @@ HRESULT ZanDicPackage::make_Element(const ZELString* name, const ZELDbBinary* uu
     ZanDicRef<Element> made(new Element(*name, *uuid));
     made->set_Package(this);
     if (type != OXMDicTYPE_UNDEFINED) made->set_TYPE(type);
-    if (const HRESULT rc = _ELEMENTS.append_New(*made); Failed(rc)) return rc;
-    Element& owned = *made.Detach();
-    HandOutOwn(owned, element);
-    return registry->Insert(&owned);
+    return AdoptMember(_ELEMENTS, made, element, *registry);
 }
 
 HRESULT ZanDicPackage::CreateClass(const ZELString* name, const ZELDbBinary* uuid, OXMIDicClass** element) {
@@ -306,10 +305,9 @@ HRESULT ZanDicPackage::CreateRBOMapping(const ZELString*, OXMIDicRBOMapping**) {
 
 HRESULT ZanDicPackage::CreateClass_internal(const ZELString*, OXMIDicClass**) { return E_FAIL; }
 
-void ZanDicPackage::take_Owned(std::vector<ZanDicObj*>& owned) {
-    TakeList(_ELEMENTS, owned);
-    owned.insert(owned.end(), _BLOCKS.begin(), _BLOCKS.end());
-    _BLOCKS.RemoveAll();
+void ZanDicPackage::take_Owned(ZanDicTaken& owned) {
+    owned.Take(_ELEMENTS);
+    owned.Take(_BLOCKS);
 }
 
 int ZanDicPackage::lost_Links(LinkName link) const {
@@ -321,7 +319,7 @@ int ZanDicPackage::lost_Links(LinkName link) const {
 
 void ZanDicPackage::drop_Links() {
     ZanDicObj::drop_Links();
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicPackage::take_Owned(owned);
     DropTaken(owned);
     _COMMANDS.clear();

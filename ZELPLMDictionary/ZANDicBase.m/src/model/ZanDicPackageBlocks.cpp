@@ -108,14 +108,18 @@ HRESULT ZanDicPackage::CreateAttributeBlock(const ZELDbBinary* uuid, OXMIDicAttr
     if (Succeeded(registry->search_Obj(uuid, &known))) return E_FAIL;
     ZanDicRef<ZanDicAttributeBlock> made(new ZanDicAttributeBlock(*uuid));
     if (const HRESULT rc = registry->Insert(made.Get()); Failed(rc)) return rc;
-    _BLOCKS.Append(made.Get());
-    made->set_Owned();
-    return HandOutAs(*made.Detach(), block);
+    ZanDicRef<OXMIDicAttributeBlock> face;
+    if (const HRESULT rc = HandOutAs(*made, face.Out()); Failed(rc)) return rc;
+    _BLOCKS.keep(*made);
+    made.Detach();
+    *block = face.Detach();
+    return S_OK;
 }
 
 void ZanDicPackage::drop_Blocks() {
-    const ZELListPtrZanDicObj blocks = std::exchange(_BLOCKS, {});
-    for (ZanDicObj* const block : blocks) {
+    ZanDicTaken blocks;
+    blocks.Take(_BLOCKS);
+    while (ZanDicObj* const block = blocks.Next()) {
         std::uint32_t refCount = 0;
         DropObject(*block, &refCount);
     }

@@ -37,7 +37,12 @@ bool ZanDicScope::Holds(const ZELDbBinary& classUuid) {
     if (_LostAtExpansion != _CLASSES.LostCount()) _EXPANDED.clear();
     if (_EXPANDED.empty()) {
         const int size = _CLASSES.Size();
-        for (int position = 1; position <= size; ++position) Expand(*_CLASSES[position]);
+        try {
+            for (int position = 1; position <= size; ++position) Expand(*_CLASSES[position]);
+        } catch (...) {
+            _EXPANDED.clear();  // or it would pass for the whole
+            throw;
+        }
     }
     return _EXPANDED.count(classUuid) != 0;
 }

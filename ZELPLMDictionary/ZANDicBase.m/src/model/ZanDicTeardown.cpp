@@ -1,5 +1,8 @@
 #include "ZanDicTeardown.h"
 
+#include <vector>
+
+#include "ZELCall.h"
 #include "ZanDicElement.h"
 #include "ZanDicRegistry.h"
 #include "ZanDicTrace.h"
@@ -7,14 +10,30 @@
 
 namespace {
 
+/// Drops an object of which its owner has let go, and lets go of what it owns.
+void DropOne(ZanDicObj& object, ZanDicTaken& owned) {
+    ZanDicRegistry* const registry = ZanDicFindRegistry();
+    object.take_Owned(owned);
+    if (registry != nullptr && object.is_Registered()) registry->forget_Obj(object);
+    object.set_Registered(false);
+    object.mark_Gone();
+    object.Release();
+}
+
+void DropUnlisted(ZanDicObj& object) {
+    ZanDicTaken owned;
+    DropOne(object, owned);
+    DropTaken(owned);
+}
+
 /// Keeps what a stopped teardown did not reach: what was released must not be read through the list again.
 /// One that has been given the name of another since cannot be listed again: it goes as well.
 void KeepFrom(ZanHashList& owned, int position) {
-    std::vector<ZanDicObj*> kept;
-    for (; position <= owned.Size(); ++position) kept.push_back(owned[position]);
-    owned.clear();
-    for (ZanDicObj* object : kept) {
-        if (object != nullptr && Failed(owned.Append(object))) DropTaken({object});
+    ZanDicTaken all;
+    all.Take(owned);
+    for (int released = 1; released < position; ++released) all.Next();
+    while (ZanDicObj* const object = all.Next()) {
+        if (Failed(ZELCall([&] { return owned.Append(object); }))) DropUnlisted(*object);
     }
 }
 
@@ -102,6 +121,24 @@ Level BeginFlush(ZanDicElement& owner) {
     return {&owner, ListDrop(*owned.list, owned.name, trace)};
 }
 
+/// Begins the flush of an owner. \returns false when there is no memory to keep the way back.
+bool Enter(std::vector<Level>& way, ZanDicElement& owner) {
+    const auto makeRoom = [&] {
+        if (way.size() == way.capacity()) way.reserve(2 * way.size() + 1);
+        return S_OK;
+    };
+    if (Failed(ZELCall(makeRoom))) return false;
+    way.push_back(BeginFlush(owner));
+    return true;
+}
+
+HRESULT FlushSilently(ZanDicElement& owner) {
+    ZanDicTaken owned;
+    owner.take_Owned(owned);
+    DropTaken(owned);
+    return S_OK;
+}
+
 }  // namespace
 
 HRESULT DropObject(ZanDicObj& object, std::uint32_t* refCount) {
@@ -121,13 +158,14 @@ HRESULT DropOwned(ZanHashList& owned, std::string_view listName, const ZanDicTra
 }
 
 HRESULT FlushOwner(ZanDicElement& owner) {
-    std::vector<Level> way{BeginFlush(owner)};
+    std::vector<Level> way;
     HRESULT rc = S_OK;
+    if (!Enter(way, owner)) return FlushSilently(owner);
     while (true) {
         Level& level = way.back();
         ZanDicElement* const element = Failed(rc) ? nullptr : level.drop.Next();
         if (element != nullptr && element->owned_List().list != nullptr) {
-            way.push_back(BeginFlush(*element));
+            if (!Enter(way, *element)) rc = level.drop.Drop(FlushSilently(*element));
         } else if (element != nullptr) {
             rc = level.drop.Drop(element->FlushAll());
         } else {
@@ -160,21 +198,6 @@ HRESULT DropMember(ZanDicElement& member, std::string_view memberName, const Zan
     return flushed;
 }
 
-void TakeList(ZanHashList& owned, std::vector<ZanDicObj*>& taken) {
-    const int size = owned.Size();
-    for (int position = 1; position <= size; ++position) taken.push_back(owned[position]);
-    owned.clear();
-}
-
-void DropTaken(const std::vector<ZanDicObj*>& owned) {
-    ZanDicRegistry* const registry = ZanDicFindRegistry();
-    std::vector<ZanDicObj*> taken(owned);
-    for (std::size_t next = 0; next < taken.size(); ++next) {
-        ZanDicObj& object = *taken[next];
-        object.take_Owned(taken);
-        if (registry != nullptr && object.is_Registered()) registry->forget_Obj(object);
-        object.set_Registered(false);
-        object.mark_Gone();
-        object.Release();
-    }
+void DropTaken(ZanDicTaken& owned) {
+    while (ZanDicObj* const object = owned.Next()) DropOne(*object, owned);
 }

@@ -1,12 +1,13 @@
-/// How an owner gives back what it owns.
+/// How an owner gives back what it owns. None of it needs memory: what cannot be flushed line by line because
+/// there is none is dropped without its lines.
 #ifndef ZAN_DIC_TEARDOWN_H
 #define ZAN_DIC_TEARDOWN_H
 
 #include <cstdint>
 #include <string_view>
-#include <vector>
 
 #include "ZELResult.h"
+#include "ZanDicTaken.h"
 #include "ZanHashList.h"
 
 class ZanDicElement;
@@ -37,11 +38,8 @@ HRESULT DropMember(ZanDicElement& member, std::string_view memberName, const Zan
 /// \returns the result of the registry.
 HRESULT DropObject(ZanDicObj& object, std::uint32_t* refCount);
 
-/// Moves the references of an owning list to the end of \p taken; the list is empty after that.
-void TakeList(ZanHashList& owned, std::vector<ZanDicObj*>& taken);
-
-/// Drops, without a word, objects whose owner has let go of them by `take_Owned`, and what they own in turn;
-/// no depth of nesting recurses.
-void DropTaken(const std::vector<ZanDicObj*>& owned);
+/// Drops, without a word, the objects of which their owner has let go by `take_Owned`, from the one on that
+/// comes next, and what they own in turn; no depth of nesting recurses.
+void DropTaken(ZanDicTaken& owned);
 
 #endif

@@ -155,6 +155,7 @@ std::string PlainReason(const Fault& fault) {
 }
 
 HRESULT FaultReport::Report(const Fault& fault) {
+    _Shortage.Check();
     const bool isError = fault.severity == ZanDicSeverity::Error;
     const bool isFailure = isError || fault.asksToGoOn;
     bool goesOn = false;

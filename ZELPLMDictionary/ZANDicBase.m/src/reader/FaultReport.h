@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ZELMemory.h"
 #include "ZELResult.h"
 #include "ZELVBTXMLNode.h"
 #include "ZanDicDiagnostic.h"
@@ -64,8 +65,9 @@ public:
     /// Says which document is being read from now on; it must live until another is entered.
     void Enter(FaultDocument& document) { _Document = &document; }
 
-    /// Tells the observer and writes the lines.
-    /// \returns E_FAIL for an error, and for a warning that fails its document; S_OK for another warning.
+    /// Tells the observer and writes the lines. Throws std::bad_alloc instead when memory has run out since
+    /// this was made: what looks like a fault may be no more than that. \returns E_FAIL for an error, and for
+    /// a warning that fails its document; S_OK for another warning.
     HRESULT Report(const Fault& fault);
 
     /// Whether anybody would learn of a warning of that line. Asked before a frequent one is made.
@@ -97,6 +99,7 @@ public:
     }
 
 private:
+    ZELShortageWatch _Shortage;
     FaultDocument* _Document = nullptr;
     int _OwnLastNumber = 0;
     int* _LastNumber = &_OwnLastNumber;  ///< shared with what is read beside

@@ -1,9 +1,10 @@
 #include "OxmDicFromXML.h"
 
-#include <new>
+#include <exception>
 
 #include "PackageLoadStack.h"
 #include "ReaderTexts.h"
+#include "ZELCall.h"
 
 namespace {
 
@@ -13,18 +14,18 @@ HRESULT LoadOrAbandon(LoadRun& run, const ZELString& name, OXMDicCONTENT content
     PackageLoadStack loads(run);
     try {
         return loads.Load({name, content});
-    } catch (const std::bad_alloc&) {
+    } catch (const std::exception&) {
         kTrace.Error(text::kOutOfMemory);
     }
     loads.Abandon();
-    return E_FAIL;
+    return ZELNoteShortage();
 }
 
 }  // namespace
 
 HRESULT OxmDicFromXML(OXMIDicMgr* manager, const ZELString* packFileName, const char* dirNames,
                       OXMDicCONTENT content) {
-    try {
+    return ZELCall([&] {
         if (manager == nullptr || packFileName == nullptr) {
             kTrace.Start();
             kTrace.Error(text::kInvalidParameters);
@@ -33,14 +34,12 @@ HRESULT OxmDicFromXML(OXMIDicMgr* manager, const ZELString* packFileName, const 
         }
         LoadRun run{*manager, dirNames != nullptr ? dirNames : ""};
         return LoadOrAbandon(run, *packFileName, content);
-    } catch (const std::exception&) {
-        return E_FAIL;
-    }
+    });
 }
 
 HRESULT OxmDicFromXMLAll(OXMIDicMgr* manager, std::span<const ZELString> packFileNames,
                          const char* dirNames) {
-    try {
+    return ZELCall([&] {
         if (manager == nullptr) return E_FAIL;
         LoadRun run{*manager, dirNames != nullptr ? dirNames : ""};
         HRESULT result = S_OK;
@@ -48,7 +47,5 @@ HRESULT OxmDicFromXMLAll(OXMIDicMgr* manager, std::span<const ZELString> packFil
             if (!run.faults.GoesOn(LoadOrAbandon(run, name, OXMDicCONTENT_metadata), result)) break;
         }
         return result;
-    } catch (const std::exception&) {
-        return E_FAIL;
-    }
+    });
 }

@@ -1,9 +1,8 @@
 #include "OxmDicFromXMLTuning.h"
 
-#include <exception>
-
 #include "TuningReading.h"
 #include "TuningTexts.h"
+#include "ZELCall.h"
 #include "ZELFatalError.h"
 
 HRESULT OxmDicFromXML_Tuning(OXMIDicMgr* manager, const ZELString* packageName, const char* dirNames,
@@ -11,15 +10,15 @@ HRESULT OxmDicFromXML_Tuning(OXMIDicMgr* manager, const ZELString* packageName, 
     if (manager == nullptr || packageName == nullptr || package == nullptr) {
         ZELFatalError(tuningtext::kAssertion, tuningtext::kSource, 1);
     }
-    try {
+    return ZELCall([&] {
+        const ZELShortageWatch shortage;
         const ZanDicTrace::DocumentScope document;
         TuningReading tuning(*manager, *packageName, dirNames != nullptr ? dirNames : "", *package);
         if (tuning.Read() == S_OK) {
             TuningReading* const one = &tuning;
             TuningReading::Compute({&one, 1});
         }
+        shortage.Check();
         return tuning.Result();
-    } catch (const std::exception&) {
-        return E_FAIL;
-    }
+    });
 }

@@ -12,6 +12,7 @@
 #include "TuningReading.h"
 #include "WordList.h"
 #include "ZANDicValueWords.h"
+#include "ZELCall.h"
 #include "ZELHash.h"
 #include "ZELUuid.h"
 #include "ZanDicLoadRecord.h"
@@ -123,15 +124,27 @@ void PackageLoad::tell_Document(const std::string& file, HRESULT rc,
     const ZanDicReading end = Failed(rc)     ? ZanDicReading::Failed
                               : _IsNameTaken ? ZanDicReading::NameTaken
                                              : ZanDicReading::Loaded;
-    observer->OnDocument({file, _Place.package, end, tree});
+    // At the end of a load it is too late to fail.
+    ZELCall([&] {
+        observer->OnDocument({file, _Place.package, end, tree});
+        return S_OK;
+    });
 }
 
 void PackageLoad::Pause() {
-    if (std::exchange(_IsRunning, false)) ZanDicProfiling::StepOut(text::kPhase, _Request.name.View());
+    if (!std::exchange(_IsRunning, false)) return;
+    ZELCall([&] {
+        ZanDicProfiling::StepOut(text::kPhase, _Request.name.View());
+        return S_OK;
+    });
 }
 
 void PackageLoad::Resume() {
-    if (!std::exchange(_IsRunning, true)) ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
+    if (std::exchange(_IsRunning, true)) return;
+    ZELCall([&] {
+        ZanDicProfiling::StepIn(text::kPhase, _Request.name.View());
+        return S_OK;
+    });
 }
 
 // The document.
@@ -503,6 +516,14 @@ void PackageLoad::Fail(int cause) {
     Finish();
 }
 
+void PackageLoad::Abandon() {
+    _Result = E_FAIL;
+    _Run.faults.Enter(_Place);
+    _Tuning.reset();
+    if (IsCreated() && _Reading->package) drop_Package();
+    Finish();
+}
+
 void PackageLoad::Finish() {
     Resume();
     if (_IsFound) tell_Document(_Place.file, _Result, _Document);
@@ -525,7 +546,10 @@ void PackageLoad::remove_Package() {
         }
         if (_IsFound) _Run.failed.try_emplace(_Place.file, LoadRun::Failure{FirstFailure(), _UnknownCause});
     }
-    if (!IsCreated()) return;
+    if (IsCreated()) drop_Package();
+}
+
+void PackageLoad::drop_Package() {
     _Reading->elements.clear();
     _Reading->members.clear();
     _Reading->objects.clear();

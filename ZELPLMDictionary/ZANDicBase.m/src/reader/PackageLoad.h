@@ -43,6 +43,8 @@ struct LoadRun {
     /// Those of them that made their package, in order of creation.
     std::vector<PackageLoad*> created = {};
 
+    ZELShortageWatch shortage = {};
+
     /// \returns the load in progress of that name; null when there is none.
     PackageLoad* Find(std::string_view name) const;
 };
@@ -127,6 +129,9 @@ public:
     /// The end of one that did not: takes the package out.
     /// \param cause number of the fault that failed its ring, if it has none itself.
     void Fail(int cause = 0);
+    /// The end of one for which there is no memory: takes the package out, and tells no more than that it
+    /// failed.
+    void Abandon();
 
 private:
     enum class StepResult { Next, Waits, NeedsPackage, Finished };
@@ -163,6 +168,7 @@ private:
     StepResult need_Package(std::string_view attributeName, const ZELString& name);
     bool add_Package(std::string_view attributeName, const ZELString& name, bool isScope);
     void remove_Package();
+    void drop_Package();
     ZanDicRef<OXMIDicPackage> loaded_Package(const ZELString& name) const;
     bool is_ThereAlready(const ZELString& name);
     bool find_Failure();

@@ -28,8 +28,14 @@ HRESULT PackageLoadStack::Load(PackageRequest request) {
 
 void PackageLoadStack::Abandon() {
     _CALLS.clear();
-    fail_Ring(0, 0);
-    _LOADS.clear();
+    while (!_Run.created.empty()) {
+        PackageLoad* const member = _Run.created.back();
+        _Run.created.pop_back();
+        member->Abandon();
+    }
+    for (; !_LOADS.empty(); _LOADS.pop_back()) {
+        if (!_LOADS.back()->IsOver()) _LOADS.back()->Abandon();
+    }
 }
 
 void PackageLoadStack::push_Call(PackageRequest request) {
@@ -74,6 +80,7 @@ bool PackageLoadStack::is_PutOff(const Call& call) const {
 }
 
 void PackageLoadStack::end_Call(const Call& call) {
+    _Run.shortage.Check();
     const std::size_t firstMember = call.load->FirstMember();
     const bool isAlone = _Run.created.size() == firstMember + (call.load->IsCreated() ? 1 : 0);
     if (!isAlone) call.current->Pause();
@@ -104,6 +111,7 @@ void PackageLoadStack::finish_Ring(const PackageLoad& load, std::size_t firstMem
         TuningReading::Compute(tunings);
     }
     for (PackageLoad* const member : members) member->EndTuning();
+    _Run.shortage.Check();  // from here on nothing fails
     _Run.created.resize(firstMember);
     for (PackageLoad* const member : members) member->Finish();
     if (!load.IsOver()) _LOADS[load.Order()]->Finish();

@@ -22,7 +22,7 @@ public:
     /// Loads a package with all that it needs.
     HRESULT Load(PackageRequest request);
 
-    /// Ends everything in progress as failed, the innermost first.
+    /// Ends everything in progress as failed, the innermost first, when memory has run out.
     void Abandon();
 
 private:

@@ -304,7 +304,8 @@ HRESULT TuningReading::make_Block(const BlockTag& tag) {
         block->SetName(&name);
     }
     block->SetClass(tag.owner.face.Get());
-    _BLOCKS.Append(block.Detach());
+    _BLOCKS.Append(block.Get());
+    block.Detach();
     return result;
 }
 

@@ -11,6 +11,7 @@
 #include "XmlWalk.h"
 #include "ZANDicValueWords.h"
 #include "ZELDurableFile.h"
+#include "ZELMemory.h"
 #include "ZanDicSavePlace.h"
 
 namespace {
@@ -59,7 +60,9 @@ HRESULT SavePackage(OXMIDicPackage& package, const char* directory) {
     const HRESULT named = BuildName(target, name, extension, fullName);
     ZELDurableFile file;
     HRESULT written = Failed(named) ? named : file.Open(fullName.get());
+    const ZELShortageWatch shortage;
     WriteDocument(file, package);
+    shortage.Check();  // or what could not be asked for would be left out
     if (Succeeded(written)) written = file.Commit();
 
     if (auto line = kTrace.Line(TraceLevel::Detail)) {
@@ -90,5 +93,5 @@ HRESULT OxmDicToXML(OXMIDicMgr* manager, const ZELString* packageName, const cha
     return SavePackage(*package, directory);
 } catch (const std::bad_alloc&) {
     kTrace.Error(writer::kOutOfMemory);
-    return E_FAIL;
+    return ZELNoteShortage();
 }

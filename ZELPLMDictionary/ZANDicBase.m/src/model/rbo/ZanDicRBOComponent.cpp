@@ -21,24 +21,24 @@ ZanDicRBOComponent::ZanDicRBOComponent(const ZELString& name, const ZELDbBinary&
 }
 
 ZanDicRBOComponent::~ZanDicRBOComponent() {
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicRBOComponent::take_Owned(owned);
     DropTaken(owned);
 }
 
 HRESULT ZanDicRBOComponent::CreateRBOPathExpression(const ZELString* name, const ZELDbBinary* uuid,
                                                     OXMIDicRBOPathExpression** path) {
-    if (_PathExpression != nullptr) return E_FAIL;
+    if (_PATHEXPRESSION.Size() != 0) return E_FAIL;
     return MakeRBOObject<ZanDicRBOPathExpression>(*this, name, uuid, path,
                                                   [this](ZanDicRBOPathExpression& made) {
-                                                      _PathExpression = &made;
-                                                      made.set_Owned();
+                                                      _PATHEXPRESSION.keep(made);
                                                       return S_OK;
                                                   });
 }
 
 HRESULT ZanDicRBOComponent::GetRBOPathExpression(OXMIDicRBOPathExpression** path) const {
-    return path != nullptr && _PathExpression != nullptr ? HandOutOwn(*_PathExpression, path) : E_FAIL;
+    const ZanDicObj* const expression = _PATHEXPRESSION[1];
+    return path != nullptr && expression != nullptr ? HandOutOwn(*expression, path) : E_FAIL;
 }
 
 HRESULT ZanDicRBOComponent::SetValidityRule(const ZELUnicodeString* rule) {
@@ -70,18 +70,20 @@ ZanDicOwnedList ZanDicRBOComponent::owned_List() {
 }
 
 HRESULT ZanDicRBOComponent::flush_Rest(const ZanDicTraceScope& trace) {
-    if (_PathExpression == nullptr) return S_OK;
-    return DropMember(*std::exchange(_PathExpression, nullptr), "_PathExpression", trace);
+    auto* const expression = static_cast<ZanDicRBOPathExpression*>(_PATHEXPRESSION[1]);
+    if (expression == nullptr) return S_OK;
+    _PATHEXPRESSION.clear();
+    return DropMember(*expression, "_PathExpression", trace);
 }
 
-void ZanDicRBOComponent::take_Owned(std::vector<ZanDicObj*>& owned) {
+void ZanDicRBOComponent::take_Owned(ZanDicTaken& owned) {
     ZanDicRBONode::take_Owned(owned);
-    if (_PathExpression != nullptr) owned.push_back(std::exchange(_PathExpression, nullptr));
+    owned.Take(_PATHEXPRESSION);
 }
 
 void ZanDicRBOComponent::drop_Links() {
     ZanDicRBONode::drop_Links();
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicRBOComponent::take_Owned(owned);
     DropTaken(owned);
 }

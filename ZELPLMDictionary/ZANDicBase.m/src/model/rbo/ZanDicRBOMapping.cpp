@@ -21,7 +21,7 @@ ZanDicRBOMapping::ZanDicRBOMapping(const ZELString& name, const ZELDbBinary& uui
 }
 
 ZanDicRBOMapping::~ZanDicRBOMapping() {
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicRBOMapping::take_Owned(owned);
     DropTaken(owned);
 }
@@ -73,12 +73,12 @@ bool ZanDicRBOMapping::applies_To(const ZanDicRBOClass& rboClass) const {
 
 ZanDicOwnedList ZanDicRBOMapping::owned_List() { return {&_ROOTS, "_ROOTS", "ZanDicRBOMapping::FlushAll"}; }
 
-void ZanDicRBOMapping::take_Owned(std::vector<ZanDicObj*>& owned) { TakeList(_ROOTS, owned); }
+void ZanDicRBOMapping::take_Owned(ZanDicTaken& owned) { owned.Take(_ROOTS); }
 
 void ZanDicRBOMapping::drop_Links() {
     ZanDicElement::drop_Links();
     _ApplyToRBOClass.Reset();
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicRBOMapping::take_Owned(owned);
     DropTaken(owned);
 }

@@ -14,7 +14,7 @@ ZanDicRBONode::ZanDicRBONode(const ZELString& name, const ZELDbBinary& uuid)
     : ZanDicElement(name, uuid), _COMPONENTS(29, ZanHashListKind::Owner) {}
 
 ZanDicRBONode::~ZanDicRBONode() {
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicRBONode::take_Owned(owned);
     DropTaken(owned);
 }
@@ -51,12 +51,12 @@ HRESULT ZanDicRBONode::FlushAll() { return FlushOwner(*this); }
 
 void ZanDicRBONode::Dump(const char* caller) const { DumpRBOObject(*this, caller); }
 
-void ZanDicRBONode::take_Owned(std::vector<ZanDicObj*>& owned) { TakeList(_COMPONENTS, owned); }
+void ZanDicRBONode::take_Owned(ZanDicTaken& owned) { owned.Take(_COMPONENTS); }
 
 void ZanDicRBONode::drop_Links() {
     ZanDicElement::drop_Links();
     _BaseClass.Reset();
-    std::vector<ZanDicObj*> owned;
+    ZanDicTaken owned;
     ZanDicRBONode::take_Owned(owned);
     DropTaken(owned);
 }
