@@ -79,9 +79,12 @@ public:
 
     bool OnDiagnostic(const ZanDicDiagnostic& fault) override;
     bool IsThorough() const override { return _IsThorough; }
+    /// Whether a tuning was told to be faulty.
+    bool HasFailedTuning() const { return _HasFailedTuning; }
 
 private:
     bool _IsThorough;
+    bool _HasFailedTuning = false;
     int _Count = 0;
     std::size_t _Size = 0;
 };
