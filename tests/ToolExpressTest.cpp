@@ -172,7 +172,7 @@ TEST_F(ToolExpressTest, AFileThatDoesNotFitIsAFaultAndTheOldOneStays) {
     const std::string err = TextOf(Own().Path("err"));
     EXPECT_NE(err.find("File too large"), err.npos) << err;
     EXPECT_EQ(WithoutPlaces(LastLine(err)),
-              "zandic: own/there/BomItems.express: error: it could not be written");
+              "zandic: own/there/BomItems.express: error: it could not be written: File too large");
     EXPECT_EQ(TextOf(old), "old");
 }
 

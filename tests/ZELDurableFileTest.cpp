@@ -185,6 +185,19 @@ TEST_F(ZELDurableFileTest, ReplacesWhatALinkLeadsTo) {
     EXPECT_THAT(NamesIn(directory.Path("real")), ElementsAre("R"));
 }
 
+TEST_F(ZELDurableFileTest, TheLatestReasonIsThatOfTheFileOpenedLast) {
+    const std::string there = directory.MakeDirectory("there");
+    EXPECT_EQ(Write(path, "text"), S_OK);
+    EXPECT_EQ(ZELDurableFile::LatestReason(path), "");
+
+    EXPECT_EQ(Write(directory.Path() + "\\there", "text"), E_FAIL);
+
+    EXPECT_EQ(ZELDurableFile::LatestReason(there), "Is a directory");
+    EXPECT_EQ(ZELDurableFile::LatestReason(path), "");
+    EXPECT_EQ(Write(path, "text"), S_OK);
+    EXPECT_EQ(ZELDurableFile::LatestReason(there), "");
+}
+
 TEST_F(ZELDurableFileTest, TakesTheLongestNameThatAFileCanHave) {
     const std::string name(255, 'n');
 

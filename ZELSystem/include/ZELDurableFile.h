@@ -83,6 +83,11 @@ public:
     /// \returns why the last file could not be written, in a few words without its path; empty when it could.
     const std::string& Reason() const noexcept { return _Reason; }
 
+    /// For callers of an operation that writes a file of its own and keeps the reason to itself.
+    /// \returns that of the file which the process opened last, if \p path was asked for and it could not be
+    /// written; else empty.
+    static std::string LatestReason(std::string_view path);
+
 private:
     HRESULT Fail(int error);
     int OpenBeside();

@@ -125,12 +125,30 @@ int TakeFreeName(const std::string& directory, std::string_view name, std::strin
     return error;
 }
 
+/// The file that was opened last, and the number of what it failed for; 0 while it has not.
+struct LatestFile {
+    std::string path;
+    int error = 0;
+};
+
+LatestFile& Latest() {
+    static LatestFile latest;
+    return latest;
+}
+
 }  // namespace
+
+std::string ZELDurableFile::LatestReason(std::string_view path) {
+    const LatestFile& latest = Latest();
+    if (latest.error == 0 || latest.path != ZELNativePath(path)) return {};
+    return ReasonText(latest.error);
+}
 
 HRESULT ZELDurableFile::Open(std::string_view path) {
     Discard();
     _Reason.clear();
     _Error = 0;
+    Latest() = {ZELNativePath(path), 0};
     if (path.empty() || path.find('\0') != std::string_view::npos) return Fail(ENOENT);
     _Path = ResolveLinks(ZELNativePath(path));
     _Directory = _Path.substr(0, _Path.rfind('/') + 1);
@@ -231,6 +249,7 @@ void ZELDurableFile::Discard() noexcept {
 HRESULT ZELDurableFile::Fail(int error) {
     Discard();
     _Error = error;
+    Latest().error = error;
     _Reason = ReasonText(error);
     return E_FAIL;
 }

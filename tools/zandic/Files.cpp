@@ -46,9 +46,7 @@ std::optional<std::string> WrongDirectory(const std::string& directory) {
 }
 
 std::string NotWritten(const std::string& path) {
-    ZELDurableFile trial;
-    if (Failed(trial.Open(path))) return WithReason(std::string(kNotWritten), trial.Reason());
-    return std::string(kNotWritten);
+    return WithReason(std::string(kNotWritten), ZELDurableFile::LatestReason(path));
 }
 
 std::string PathIn(const std::string& directory, const std::string& name) {

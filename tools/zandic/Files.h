@@ -34,7 +34,7 @@ private:
 /// \returns why no file can be written into \p directory at all; none when one may be.
 std::optional<std::string> WrongDirectory(const std::string& directory);
 
-/// \returns "it could not be written", and why where that can be found out: it is tried, without an effect.
+/// \returns "it could not be written", and why, for a file that the dictionary has just failed to write.
 std::string NotWritten(const std::string& path);
 
 /// \returns \p name in \p directory; of the present directory only the name.
