@@ -74,6 +74,14 @@ TEST_F(OxmDicFromXMLAllTest, TellsAMissingDocumentWhereverItIsNeeded) {
     EXPECT_EQ(faults.documents, "P.metadata P failed\nQ.metadata Q failed\n");
 }
 
+TEST_F(OxmDicFromXMLAllTest, AReferenceToAPackageIsOneOfTheWrongKind) {
+    MakePackage("P", ClassTag("C", 2, "SuperRef=\"" + U(0xF0000) + "\""));
+
+    EXPECT_EQ(LoadAll({"P"}), E_FAIL);
+
+    EXPECT_EQ(faults.Summary(), "reference-of-wrong-kind 2:77 C @SuperRef\n");
+}
+
 TEST_F(OxmDicFromXMLAllTest, AReferenceToWhatWasLeftOutFollowsFromThat) {
     MakePackage("A", ClassTag("CA", 1) + "<Class Name=\"D\"/>");
     MakePackage("P", ClassTag("C", 2, "SuperRef=\"" + U(1) + "\""), "UseNames=\"A\"");

@@ -79,6 +79,15 @@ TEST(ZANDicFormatTest, WordsAreComparedWithTheirCase) {
     EXPECT_EQ(CodeOf(kVisibilityWords, "Public ", 0), 0);
 }
 
+TEST(ZANDicFormatTest, SomeValuesStandForThemselves) {
+    EXPECT_EQ(value::kYes, "Yes");
+    EXPECT_EQ(value::kNo, "No");
+    EXPECT_EQ(value::kAnyObject, "AnyObject");
+    EXPECT_EQ(value::kRelationType, "OXMTPRelation");
+    EXPECT_EQ(kDomains[0], "VALKOR");
+    EXPECT_EQ(kDomains[1], "DUVRA");
+}
+
 TEST(ZANDicFormatTest, AnyOtherWordStandsForACodeOfItsOwn) {
     EXPECT_EQ(kOtherVisibility, 1);
     EXPECT_EQ(kOtherAccessMode, 4);

@@ -358,6 +358,21 @@ TEST_F(ZanDictionaryStorageTest, SavingTraces) {
               "ZanDictionary::SavePackageToDir- === exit === RC=OK.\n");
 }
 
+TEST_F(ZanDictionaryStorageTest, SavingADocumentTracesItsSteps) {
+    MakeDocument();
+    const ZELString name("Items");
+    const TestDirectory target;
+    ASSERT_EQ(Manager().LoadPackage(&name, OXMDicPERSISTENT_Xml), S_OK);
+    TraceFromNow(5);
+
+    EXPECT_EQ(Manager().SavePackageToDir(target.Path().c_str(), &name, OXMDicPERSISTENT_Xml), S_OK);
+
+    EXPECT_NE(Written().find("ZanDictionary::SaveXml- iPackName=Items, iDirName=" + target.Path() + ".\n"),
+              std::string::npos);
+    EXPECT_NE(Written().find("ZanDictionary::SavePackageToDir- rc[this->SaveXml()]=OK.\n"),
+              std::string::npos);
+}
+
 TEST_F(ZanDictionaryStorageTest, SaveXmlNeedsAPath) {
     const ZELString name = "Items";
 

