@@ -332,6 +332,20 @@ TEST_P(EditOutOfMemoryTest, QuestionsAboutBlocksAndScopes) {
     addScope();
 }
 
+/// It cannot say that it failed.
+TEST_P(EditOutOfMemoryTest, ADumpEndsTheProcess) {
+    const auto dump = [this] {
+        const FailingMemory memory(1, GetParam());
+        Held<OXMIDicApp> face;
+        a->QueryInterface(OXMIDicApp::ClassId(), face.OutVoid());
+        face->Dump("a caller with a name that is long enough");
+    };
+    Held<OXMIDicApp> face;
+    a->QueryInterface(OXMIDicApp::ClassId(), face.OutVoid());
+
+    EXPECT_DEATH(dump(), "^Out of memory, Dump, line 24\n$");
+}
+
 TEST_P(EditOutOfMemoryTest, Removals) {
     SweepEachRemoval({
         {"RemovePackage", [&] { return Manager().RemovePackage(&p); }},

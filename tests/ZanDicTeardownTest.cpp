@@ -202,7 +202,7 @@ TEST_F(ZanDicTeardownTest, AMemberOutsideOfListsGoesWithItsOwnWords) {
 TEST_F(ZanDicTeardownTest, DropsWhatWasTakenWithoutAWord) {
     const int before = ZanDicObj::live_Objects();
     ZanDicElement& element = Own<ZanDicElement>("Held");
-    ZanDicElement& other = Own<ZanDicElement>("Other", false);
+    Own<ZanDicElement>("Other", false);
     element.AddRef();
     ClearWritten();
 

@@ -9,6 +9,7 @@
 #include <climits>
 #include <cstdlib>
 #include <ctime>
+#include <memory>
 #include <new>
 #include <system_error>
 #include <utility>
@@ -65,11 +66,8 @@ std::string ReasonText(int error) {
 
 /// \returns where the file is that \p path leads to, also over links; \p path when there is none yet.
 std::string ResolveLinks(const std::string& path) {
-    char* const resolved = realpath(path.c_str(), nullptr);
-    if (resolved == nullptr) return path;
-    std::string result(resolved);
-    std::free(resolved);
-    return result;
+    const std::unique_ptr<char, decltype(&std::free)> resolved(realpath(path.c_str(), nullptr), &std::free);
+    return resolved != nullptr ? std::string(resolved.get()) : path;
 }
 
 /// \returns 0 when \p path is a file that may be replaced, or nothing at all.

@@ -25,7 +25,8 @@ ZANDICBASE_API void UuidHexToBinary(ZELString* text, ZELDbBinary* bytes);
 /// The same for text that need not end with a zero. \returns the 16 bytes.
 ZANDICBASE_API ZELDbBinary UuidFromText(std::string_view text);
 
-/// \returns the text of a UUID as documents and dumps show it; "UNDEFINED" for one without bytes.
+/// \returns the text of a UUID as documents and dumps show it; "UNDEFINED" for one without bytes. Throws
+/// std::bad_alloc when memory is short.
 ZANDICBASE_API std::string UuidText(const ZELDbBinary& uuid);
 
 #endif

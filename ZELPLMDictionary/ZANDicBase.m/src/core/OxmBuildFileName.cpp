@@ -3,13 +3,14 @@
 #include <cstring>
 #include <string>
 
+#include "ZELCall.h"
 #include "ZELEnvironment.h"
 
 namespace {
 
 HRESULT HandOut(const std::string& text, char** copy) {
     char* const made = ::strdup(text.c_str());
-    if (made == nullptr) return E_FAIL;
+    if (made == nullptr) return ZELNoteShortage();
     *copy = made;
     return S_OK;
 }
@@ -21,12 +22,14 @@ HRESULT OxmBuildFileName(char mode, const char* path, const char* packageName, c
     if (path == nullptr || packageName == nullptr || extension == nullptr || fullName == nullptr)
         return E_FAIL;
 
-    const std::string fileName = std::string(packageName) + "." + extension;
-    if (mode == 'w') return HandOut(std::string(path) + "\\" + fileName, fullName);
-    if (mode != 'r') return E_FAIL;
+    return ZELCall([&] {
+        const std::string fileName = std::string(packageName) + "." + extension;
+        if (mode == 'w') return HandOut(std::string(path) + "\\" + fileName, fullName);
+        if (mode != 'r') return E_FAIL;
 
-    const auto found = ZELFindPath(path, fileName);
-    if (found) return HandOut(*found, fullName);
-    *fullName = nullptr;
-    return E_FAIL;
+        const auto found = ZELFindPath(path, fileName);
+        if (found) return HandOut(*found, fullName);
+        *fullName = nullptr;
+        return E_FAIL;
+    });
 }

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "ZELCall.h"
 #include "ZELEnvironment.h"
 #include "ZELFile.h"
 #include "ZanDicTrace.h"
@@ -99,7 +100,9 @@ void ZanDicSetTraceLevel(int level) {
 int ZanDicGetTraceLevel() { return traceLevel; }
 
 HRESULT ZanDicSetTraceMethodsFile(const char* path) {
-    if (path != nullptr && *path != '\0') return ReadMethodsFile(path);
-    ListOperations({});
-    return S_OK;
+    return ZELCall([&] {
+        if (path != nullptr && *path != '\0') return ReadMethodsFile(path);
+        ListOperations({});
+        return S_OK;
+    });
 }

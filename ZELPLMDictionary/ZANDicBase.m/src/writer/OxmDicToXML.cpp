@@ -56,11 +56,11 @@ HRESULT SavePackage(OXMIDicPackage& package, const char* directory) {
         return E_FAIL;
     }
 
+    const ZELShortageWatch shortage;
     BuiltName fullName(nullptr, &std::free);
     const HRESULT named = BuildName(target, name, extension, fullName);
     ZELDurableFile file;
     HRESULT written = Failed(named) ? named : file.Open(fullName.get());
-    const ZELShortageWatch shortage;
     WriteDocument(file, package);
     shortage.Check();  // or what could not be asked for would be left out
     if (Succeeded(written)) written = file.Commit();

@@ -104,7 +104,9 @@ HRESULT ListComponentChildren(IUnknown& element, ZELListPtrIUnknown* children) {
     component->GetElements(children);
     ZanDicRef<OXMIDicRBOPathExpression> path;
     component->GetRBOPathExpression(path.Out());
-    if (path) children->Append(path.Detach());
+    if (!path) return S_OK;
+    children->Append(path.Get());
+    path.Detach();
     return S_OK;
 }
 
