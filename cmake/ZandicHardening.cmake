@@ -12,7 +12,8 @@ if(ZANDIC_HARDEN AND NOT ZANDIC_SANITIZE AND NOT ZANDIC_COVERAGE)
   # Checked sizes need the optimiser.
   add_compile_options("$<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
 
-  # Which there are depends on the processor.
+  # Which there are depends on the processor; a compiler may only warn of one that it does not have.
+  set(CMAKE_REQUIRED_FLAGS -Werror)
   foreach(flag IN ITEMS
       -fstack-protector-strong -fstack-clash-protection -fcf-protection=full -mbranch-protection=standard)
     string(MAKE_C_IDENTIFIER "ZANDIC_HAS${flag}" has)
@@ -21,6 +22,7 @@ if(ZANDIC_HARDEN AND NOT ZANDIC_SANITIZE AND NOT ZANDIC_COVERAGE)
       add_compile_options(${flag})
     endif()
   endforeach()
+  unset(CMAKE_REQUIRED_FLAGS)
 
   add_link_options(LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack)
 endif()
