@@ -111,6 +111,13 @@ protected:
         return ZELCall([&] { return body(impl()); }, name);
     }
 
+    /// The same for one that takes no memory and so throws nothing: in a release build no more than a jump.
+    template <class Body>
+    auto forward_Plain(const Body& body, const char* name = __builtin_FUNCTION()) const {
+        ZELCheckThread(name);
+        return body(impl());
+    }
+
     /// The same for one that appends to \p list, which may be null: it has nothing new when memory runs out.
     template <class Body>
     auto forward_List(ZELListPtrIUnknown* list, const Body& body,

@@ -27,20 +27,20 @@ public:
     HRESULT SetName(const ZELString* name) override;
 
     /// Plain flags (the byte is kept; only 1 means yes), numbers and texts. \returns S_OK.
-    HRESULT SetMandatory(unsigned char mandatory);
-    HRESULT GetMandatory(unsigned char* mandatory) const;
-    HRESULT SetSensitive(unsigned char sensitive);
-    HRESULT GetSensitive(unsigned char* sensitive) const;
-    HRESULT SetMultiValuated(unsigned char multiValuated);
-    HRESULT GetMultiValuated(unsigned char* multiValuated) const;
-    HRESULT SetInjective(unsigned char injective);
-    HRESULT GetInjective(unsigned char* injective) const;
-    HRESULT SetMaxLength(int maxLength);
-    HRESULT GetMaxLength(int* maxLength) const;
-    HRESULT SetLower(int lower);
-    HRESULT GetLower(int* lower) const;
-    HRESULT SetUpper(int upper);
-    HRESULT GetUpper(int* upper) const;
+    HRESULT SetMandatory(unsigned char mandatory) noexcept;
+    HRESULT GetMandatory(unsigned char* mandatory) const noexcept;
+    HRESULT SetSensitive(unsigned char sensitive) noexcept;
+    HRESULT GetSensitive(unsigned char* sensitive) const noexcept;
+    HRESULT SetMultiValuated(unsigned char multiValuated) noexcept;
+    HRESULT GetMultiValuated(unsigned char* multiValuated) const noexcept;
+    HRESULT SetInjective(unsigned char injective) noexcept;
+    HRESULT GetInjective(unsigned char* injective) const noexcept;
+    HRESULT SetMaxLength(int maxLength) noexcept;
+    HRESULT GetMaxLength(int* maxLength) const noexcept;
+    HRESULT SetLower(int lower) noexcept;
+    HRESULT GetLower(int* lower) const noexcept;
+    HRESULT SetUpper(int upper) noexcept;
+    HRESULT GetUpper(int* upper) const noexcept;
     HRESULT SetDefault(const ZELUnicodeString* value);
     HRESULT GetDefault(ZELUnicodeString* value) const;
     HRESULT SetMagnitude(const ZELUnicodeString* magnitude);
@@ -50,18 +50,18 @@ public:
 
     /// Enumerated properties. A setter keeps the low three or four bits of what it is given, as a signed
     /// number; a getter ends the process when that is none of the property's words. \returns S_OK.
-    HRESULT SetAggregationMode(OXMDicAGGREGATION aggregation);
-    HRESULT GetAggregationMode(OXMDicAGGREGATION* aggregation) const;
-    HRESULT SetAccessMode(OXMDicACCESSMODE mode);
-    HRESULT GetAccessMode(OXMDicACCESSMODE* mode) const;
-    HRESULT SetCaseMode(OXMDicCASEMODE mode);
-    HRESULT GetCaseMode(OXMDicCASEMODE* mode) const;
+    HRESULT SetAggregationMode(OXMDicAGGREGATION aggregation) noexcept;
+    HRESULT GetAggregationMode(OXMDicAGGREGATION* aggregation) const noexcept;
+    HRESULT SetAccessMode(OXMDicACCESSMODE mode) noexcept;
+    HRESULT GetAccessMode(OXMDicACCESSMODE* mode) const noexcept;
+    HRESULT SetCaseMode(OXMDicCASEMODE mode) noexcept;
+    HRESULT GetCaseMode(OXMDicCASEMODE* mode) const noexcept;
     HRESULT SetScope(OXMDicSCOPE scope);
     HRESULT GetScope(OXMDicSCOPE* scope) const;
-    HRESULT SetUpdateFacet(OXMDicUPDATEFACET facet);
-    HRESULT GetUpdateFacet(OXMDicUPDATEFACET* facet) const;
-    HRESULT SetCollectionType(OXMDicCOLLECTION collection);
-    HRESULT GetCollectionType(OXMDicCOLLECTION* collection) const;
+    HRESULT SetUpdateFacet(OXMDicUPDATEFACET facet) noexcept;
+    HRESULT GetUpdateFacet(OXMDicUPDATEFACET* facet) const noexcept;
+    HRESULT SetCollectionType(OXMDicCOLLECTION collection) noexcept;
+    HRESULT GetCollectionType(OXMDicCOLLECTION* collection) const noexcept;
 
     /// Not available. \returns E_FAIL.
     HRESULT SetProxyable(unsigned char proxyable);

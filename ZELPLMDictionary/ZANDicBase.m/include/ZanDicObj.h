@@ -87,12 +87,12 @@ public:
     HRESULT QueryInterface(const ZELInterfaceId& id, void** out) noexcept override;
 
     /// Identity, as `OXMIDicElementH`. \returns S_OK, but for SetUuid: E_FAIL in every case.
-    HRESULT GetName(ZELString* name) const;
+    HRESULT GetName(ZELString* name) const noexcept;
     virtual HRESULT SetName(const ZELString* name);
-    HRESULT GetUuid(ZELDbBinary* uuid) const;
+    HRESULT GetUuid(ZELDbBinary* uuid) const noexcept;
     virtual HRESULT SetUuid(const ZELDbBinary* uuid);
     virtual HRESULT GenUuid();
-    HRESULT GetType(OXMDicTYPE* type) const;
+    HRESULT GetType(OXMDicTYPE* type) const noexcept;
     OXMDicTYPE Type() const { return _Type; }
     HRESULT set_TYPE(OXMDicTYPE type);
     const ZELString& Name() const { return _Name; }

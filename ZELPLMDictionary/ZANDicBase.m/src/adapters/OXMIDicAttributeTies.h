@@ -15,40 +15,40 @@ public:
     using Base::GetType;  // that of all objects
 
     HRESULT SetMandatory(unsigned char mandatory) override {
-        return this->forward([&](Impl& impl) { return impl.SetMandatory(mandatory); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetMandatory(mandatory); });
     }
     HRESULT GetMandatory(unsigned char* mandatory) override {
-        return this->forward([&](Impl& impl) { return impl.GetMandatory(mandatory); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetMandatory(mandatory); });
     }
     HRESULT SetSensitive(unsigned char sensitive) override {
-        return this->forward([&](Impl& impl) { return impl.SetSensitive(sensitive); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetSensitive(sensitive); });
     }
     HRESULT GetSensitive(unsigned char* sensitive) override {
-        return this->forward([&](Impl& impl) { return impl.GetSensitive(sensitive); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetSensitive(sensitive); });
     }
     HRESULT SetMultiValuated(unsigned char multiValuated) override {
-        return this->forward([&](Impl& impl) { return impl.SetMultiValuated(multiValuated); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetMultiValuated(multiValuated); });
     }
     HRESULT GetMultiValuated(unsigned char* multiValuated) override {
-        return this->forward([&](Impl& impl) { return impl.GetMultiValuated(multiValuated); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetMultiValuated(multiValuated); });
     }
     HRESULT SetMaxLength(int maxLength) override {
-        return this->forward([&](Impl& impl) { return impl.SetMaxLength(maxLength); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetMaxLength(maxLength); });
     }
     HRESULT GetMaxLength(int* maxLength) override {
-        return this->forward([&](Impl& impl) { return impl.GetMaxLength(maxLength); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetMaxLength(maxLength); });
     }
     HRESULT SetLower(int lower) override {
-        return this->forward([&](Impl& impl) { return impl.SetLower(lower); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetLower(lower); });
     }
     HRESULT GetLower(int* lower) override {
-        return this->forward([&](Impl& impl) { return impl.GetLower(lower); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetLower(lower); });
     }
     HRESULT SetUpper(int upper) override {
-        return this->forward([&](Impl& impl) { return impl.SetUpper(upper); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetUpper(upper); });
     }
     HRESULT GetUpper(int* upper) override {
-        return this->forward([&](Impl& impl) { return impl.GetUpper(upper); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetUpper(upper); });
     }
     HRESULT SetDefault(const ZELUnicodeString* value) override {
         return this->forward([&](Impl& impl) { return impl.SetDefault(value); });
@@ -57,22 +57,22 @@ public:
         return this->forward([&](Impl& impl) { return impl.GetDefault(value); });
     }
     HRESULT SetAccessMode(OXMDicACCESSMODE mode) override {
-        return this->forward([&](Impl& impl) { return impl.SetAccessMode(mode); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetAccessMode(mode); });
     }
     HRESULT GetAccessMode(OXMDicACCESSMODE* mode) override {
-        return this->forward([&](Impl& impl) { return impl.GetAccessMode(mode); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetAccessMode(mode); });
     }
     HRESULT SetUpdateFacet(OXMDicUPDATEFACET facet) override {
-        return this->forward([&](Impl& impl) { return impl.SetUpdateFacet(facet); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetUpdateFacet(facet); });
     }
     HRESULT GetUpdateFacet(OXMDicUPDATEFACET* facet) override {
-        return this->forward([&](Impl& impl) { return impl.GetUpdateFacet(facet); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetUpdateFacet(facet); });
     }
     HRESULT SetCollectionType(OXMDicCOLLECTION collection) override {
-        return this->forward([&](Impl& impl) { return impl.SetCollectionType(collection); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetCollectionType(collection); });
     }
     HRESULT GetCollectionType(OXMDicCOLLECTION* collection) override {
-        return this->forward([&](Impl& impl) { return impl.GetCollectionType(collection); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetCollectionType(collection); });
     }
     HRESULT SetProxyable(unsigned char proxyable) override {
         return this->forward([&](Impl& impl) { return impl.SetProxyable(proxyable); });
@@ -111,10 +111,10 @@ public:
         return this->forward([&](Impl& impl) { return impl.GetDBFormat(format); });
     }
     HRESULT SetCaseMode(OXMDicCASEMODE mode) override {
-        return this->forward([&](Impl& impl) { return impl.SetCaseMode(mode); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetCaseMode(mode); });
     }
     HRESULT GetCaseMode(OXMDicCASEMODE* mode) override {
-        return this->forward([&](Impl& impl) { return impl.GetCaseMode(mode); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetCaseMode(mode); });
     }
     HRESULT SetPrimitive(const OXMIDicPrimitive* primitive) override {
         return this->forward([&](Impl& impl) { return impl.SetPrimitive(primitive); });
@@ -129,16 +129,16 @@ template <class Impl, class Base>
 class OXMIDicRelationshipLayer : public Base {
 public:
     HRESULT SetInjective(unsigned char injective) override {
-        return this->forward([&](Impl& impl) { return impl.SetInjective(injective); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetInjective(injective); });
     }
     HRESULT GetInjective(unsigned char* injective) override {
-        return this->forward([&](Impl& impl) { return impl.GetInjective(injective); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetInjective(injective); });
     }
     HRESULT SetAggregationMode(OXMDicAGGREGATION aggregation) override {
-        return this->forward([&](Impl& impl) { return impl.SetAggregationMode(aggregation); });
+        return this->forward_Plain([&](Impl& impl) { return impl.SetAggregationMode(aggregation); });
     }
     HRESULT GetAggregationMode(OXMDicAGGREGATION* aggregation) override {
-        return this->forward([&](Impl& impl) { return impl.GetAggregationMode(aggregation); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetAggregationMode(aggregation); });
     }
     HRESULT SetScope(OXMDicSCOPE scope) override {
         return this->forward([&](Impl& impl) { return impl.SetScope(scope); });

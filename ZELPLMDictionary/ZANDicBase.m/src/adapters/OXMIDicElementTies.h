@@ -12,13 +12,13 @@ template <class Impl, class Base>
 class OXMIDicAppLayer : public Base {
 public:
     HRESULT GetName(ZELString* name) override {
-        return this->forward([&](Impl& impl) { return impl.GetName(name); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetName(name); });
     }
     HRESULT SetName(const ZELString* name) override {
         return this->forward([&](Impl& impl) { return impl.SetName(name); });
     }
     HRESULT GetUuid(ZELDbBinary* uuid) override {
-        return this->forward([&](Impl& impl) { return impl.GetUuid(uuid); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetUuid(uuid); });
     }
     HRESULT SetUuid(const ZELDbBinary* uuid) override {
         return this->forward([&](Impl& impl) { return impl.SetUuid(uuid); });
@@ -27,7 +27,7 @@ public:
         return this->forward([&](Impl& impl) { return impl.GenUuid(); });
     }
     HRESULT GetType(OXMDicTYPE* type) override {
-        return this->forward([&](Impl& impl) { return impl.GetType(type); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetType(type); });
     }
     void Dump(const char* caller) override {
         return this->forward([&](Impl& impl) { return impl.Dump(caller); });
@@ -41,13 +41,13 @@ public:
     using Base::GetType;  // attributes have another of that name
 
     HRESULT GetName(ZELString* name) override {
-        return this->forward([&](Impl& impl) { return impl.GetName(name); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetName(name); });
     }
     HRESULT SetName(const ZELString* name) override {
         return this->forward([&](Impl& impl) { return impl.SetName(name); });
     }
     HRESULT GetUuid(ZELDbBinary* uuid) override {
-        return this->forward([&](Impl& impl) { return impl.GetUuid(uuid); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetUuid(uuid); });
     }
     HRESULT SetUuid(const ZELDbBinary* uuid) override {
         return this->forward([&](Impl& impl) { return impl.SetUuid(uuid); });
@@ -56,7 +56,7 @@ public:
         return this->forward([&](Impl& impl) { return impl.GenUuid(); });
     }
     HRESULT GetType(OXMDicTYPE* type) override {
-        return this->forward([&](Impl& impl) { return impl.GetType(type); });
+        return this->forward_Plain([&](Impl& impl) { return impl.GetType(type); });
     }
     HRESULT SetOtherAttribute(const ZELUnicodeString& name, const ZELUnicodeString& value) override {
         return this->forward([&](Impl& impl) { return impl.SetOtherAttribute(name, value); });

@@ -166,7 +166,12 @@ std::unique_ptr<ZanDicRareFields> ZanDicRareFields::Copy() const {
 }
 
 ZanDicObj::ZanDicObj()
-    : _Name(Shared().undefined), _Registered(false), _Gone(false), _Owned(false), _Unnamed(false), _Noted(false) {
+    : _Name(Shared().undefined),
+      _Registered(false),
+      _Gone(false),
+      _Owned(false),
+      _Unnamed(false),
+      _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Call)) return;
     kConstructor.Line(TraceLevel::Call) << "_Type=" << _Type << ", _Name=" << _Name;
@@ -174,7 +179,13 @@ ZanDicObj::ZanDicObj()
 }
 
 ZanDicObj::ZanDicObj(const ZELString& name, const ZELDbBinary& uuid)
-    : _Name(name), _Uuid(uuid), _Registered(false), _Gone(false), _Owned(false), _Unnamed(false), _Noted(false) {
+    : _Name(name),
+      _Uuid(uuid),
+      _Registered(false),
+      _Gone(false),
+      _Owned(false),
+      _Unnamed(false),
+      _Noted(false) {
     ++liveObjects;
     if (!ConstructorShows(TraceLevel::Detail)) return;
     kConstructor.Line(TraceLevel::Detail)
@@ -242,7 +253,7 @@ HRESULT ZanDicObj::QueryInterface(const ZELInterfaceId& id, void** out) noexcept
     return ZELBaseUnknown::QueryInterface(id, out);
 }
 
-HRESULT ZanDicObj::GetName(ZELString* name) const {
+HRESULT ZanDicObj::GetName(ZELString* name) const noexcept {
     if (name == nullptr) return E_FAIL;
     *name = _Name;
     return S_OK;
@@ -254,7 +265,7 @@ HRESULT ZanDicObj::SetName(const ZELString* name) {
     return S_OK;
 }
 
-HRESULT ZanDicObj::GetUuid(ZELDbBinary* uuid) const {
+HRESULT ZanDicObj::GetUuid(ZELDbBinary* uuid) const noexcept {
     if (uuid == nullptr) return E_FAIL;
     *uuid = _Uuid;
     return S_OK;
@@ -291,7 +302,7 @@ HRESULT ZanDicObj::GenUuid() {
     return S_OK;
 }
 
-HRESULT ZanDicObj::GetType(OXMDicTYPE* type) const {
+HRESULT ZanDicObj::GetType(OXMDicTYPE* type) const noexcept {
     if (type == nullptr) return E_FAIL;
     *type = _Type;
     return S_OK;

@@ -69,43 +69,51 @@ HRESULT ZanDicAttribute::SetName(const ZELString* name) {
     return ZanDicElement::SetName(name);
 }
 
-HRESULT ZanDicAttribute::SetMandatory(unsigned char mandatory) { return TakeValue(_Mandatory, &mandatory); }
+HRESULT ZanDicAttribute::SetMandatory(unsigned char mandatory) noexcept {
+    return TakeValue(_Mandatory, &mandatory);
+}
 
-HRESULT ZanDicAttribute::GetMandatory(unsigned char* mandatory) const {
+HRESULT ZanDicAttribute::GetMandatory(unsigned char* mandatory) const noexcept {
     return GiveValue(_Mandatory, mandatory);
 }
 
-HRESULT ZanDicAttribute::SetSensitive(unsigned char sensitive) { return TakeValue(_Sensitive, &sensitive); }
+HRESULT ZanDicAttribute::SetSensitive(unsigned char sensitive) noexcept {
+    return TakeValue(_Sensitive, &sensitive);
+}
 
-HRESULT ZanDicAttribute::GetSensitive(unsigned char* sensitive) const {
+HRESULT ZanDicAttribute::GetSensitive(unsigned char* sensitive) const noexcept {
     return GiveValue(_Sensitive, sensitive);
 }
 
-HRESULT ZanDicAttribute::SetMultiValuated(unsigned char multiValuated) {
+HRESULT ZanDicAttribute::SetMultiValuated(unsigned char multiValuated) noexcept {
     return TakeValue(_MultiValuated, &multiValuated);
 }
 
-HRESULT ZanDicAttribute::GetMultiValuated(unsigned char* multiValuated) const {
+HRESULT ZanDicAttribute::GetMultiValuated(unsigned char* multiValuated) const noexcept {
     return GiveValue(_MultiValuated, multiValuated);
 }
 
-HRESULT ZanDicAttribute::SetInjective(unsigned char injective) { return TakeValue(_Injective, &injective); }
+HRESULT ZanDicAttribute::SetInjective(unsigned char injective) noexcept {
+    return TakeValue(_Injective, &injective);
+}
 
-HRESULT ZanDicAttribute::GetInjective(unsigned char* injective) const {
+HRESULT ZanDicAttribute::GetInjective(unsigned char* injective) const noexcept {
     return GiveValue(_Injective, injective);
 }
 
-HRESULT ZanDicAttribute::SetMaxLength(int maxLength) { return TakeValue(_MaxLength, &maxLength); }
+HRESULT ZanDicAttribute::SetMaxLength(int maxLength) noexcept { return TakeValue(_MaxLength, &maxLength); }
 
-HRESULT ZanDicAttribute::GetMaxLength(int* maxLength) const { return GiveValue(_MaxLength, maxLength); }
+HRESULT ZanDicAttribute::GetMaxLength(int* maxLength) const noexcept {
+    return GiveValue(_MaxLength, maxLength);
+}
 
-HRESULT ZanDicAttribute::SetLower(int lower) { return TakeValue(_Lower, &lower); }
+HRESULT ZanDicAttribute::SetLower(int lower) noexcept { return TakeValue(_Lower, &lower); }
 
-HRESULT ZanDicAttribute::GetLower(int* lower) const { return GiveValue(_Lower, lower); }
+HRESULT ZanDicAttribute::GetLower(int* lower) const noexcept { return GiveValue(_Lower, lower); }
 
-HRESULT ZanDicAttribute::SetUpper(int upper) { return TakeValue(_Upper, &upper); }
+HRESULT ZanDicAttribute::SetUpper(int upper) noexcept { return TakeValue(_Upper, &upper); }
 
-HRESULT ZanDicAttribute::GetUpper(int* upper) const { return GiveValue(_Upper, upper); }
+HRESULT ZanDicAttribute::GetUpper(int* upper) const noexcept { return GiveValue(_Upper, upper); }
 
 HRESULT ZanDicAttribute::SetDefault(const ZELUnicodeString* value) {
     return value != nullptr ? TakeValue(make_Fields().defaultValue, value) : E_FAIL;
@@ -151,28 +159,30 @@ HRESULT ZanDicAttribute::give_Mode(const Mode& mode, Word* out) const {
     return S_OK;
 }
 
-HRESULT ZanDicAttribute::SetAggregationMode(OXMDicAGGREGATION aggregation) {
+HRESULT ZanDicAttribute::SetAggregationMode(OXMDicAGGREGATION aggregation) noexcept {
     store_Mode(kAggregation, aggregation);
     return S_OK;
 }
 
-HRESULT ZanDicAttribute::GetAggregationMode(OXMDicAGGREGATION* aggregation) const {
+HRESULT ZanDicAttribute::GetAggregationMode(OXMDicAGGREGATION* aggregation) const noexcept {
     return give_Mode(kAggregation, aggregation);
 }
 
-HRESULT ZanDicAttribute::SetAccessMode(OXMDicACCESSMODE mode) {
+HRESULT ZanDicAttribute::SetAccessMode(OXMDicACCESSMODE mode) noexcept {
     store_Mode(kAccess, mode);
     return S_OK;
 }
 
-HRESULT ZanDicAttribute::GetAccessMode(OXMDicACCESSMODE* mode) const { return give_Mode(kAccess, mode); }
+HRESULT ZanDicAttribute::GetAccessMode(OXMDicACCESSMODE* mode) const noexcept {
+    return give_Mode(kAccess, mode);
+}
 
-HRESULT ZanDicAttribute::SetCaseMode(OXMDicCASEMODE mode) {
+HRESULT ZanDicAttribute::SetCaseMode(OXMDicCASEMODE mode) noexcept {
     store_Mode(kCase, mode);
     return S_OK;
 }
 
-HRESULT ZanDicAttribute::GetCaseMode(OXMDicCASEMODE* mode) const { return give_Mode(kCase, mode); }
+HRESULT ZanDicAttribute::GetCaseMode(OXMDicCASEMODE* mode) const noexcept { return give_Mode(kCase, mode); }
 
 HRESULT ZanDicAttribute::SetScope(OXMDicSCOPE scope) {
     store_Mode(kScope, scope);
@@ -181,19 +191,21 @@ HRESULT ZanDicAttribute::SetScope(OXMDicSCOPE scope) {
 
 HRESULT ZanDicAttribute::GetScope(OXMDicSCOPE* scope) const { return give_Mode(kScope, scope); }
 
-HRESULT ZanDicAttribute::SetUpdateFacet(OXMDicUPDATEFACET facet) {
+HRESULT ZanDicAttribute::SetUpdateFacet(OXMDicUPDATEFACET facet) noexcept {
     store_Mode(kFacet, facet);
     return S_OK;
 }
 
-HRESULT ZanDicAttribute::GetUpdateFacet(OXMDicUPDATEFACET* facet) const { return give_Mode(kFacet, facet); }
+HRESULT ZanDicAttribute::GetUpdateFacet(OXMDicUPDATEFACET* facet) const noexcept {
+    return give_Mode(kFacet, facet);
+}
 
-HRESULT ZanDicAttribute::SetCollectionType(OXMDicCOLLECTION collection) {
+HRESULT ZanDicAttribute::SetCollectionType(OXMDicCOLLECTION collection) noexcept {
     store_Mode(kCollection, collection);
     return S_OK;
 }
 
-HRESULT ZanDicAttribute::GetCollectionType(OXMDicCOLLECTION* collection) const {
+HRESULT ZanDicAttribute::GetCollectionType(OXMDicCOLLECTION* collection) const noexcept {
     return give_Mode(kCollection, collection);
 }
 
@@ -222,6 +234,7 @@ HRESULT ZanDicAttribute::GetOrigin(OXMIDicClass** origin) const {
 HRESULT ZanDicAttribute::set_Type(ZanDicElement* type) {
     if (type == nullptr || is_Gone()) return E_FAIL;
     if (_Noted && _TypeElement.Get() != type) {
+        const ZanDicLink<ZanDicElement> place(type);  // what needs memory comes first
         _Noted = false;
         ZanDicRegistry* const registry = ZanDicFindRegistry();
         if (_TypeElement && registry != nullptr) registry->remove_Relation(_TypeElement->Uuid(), *this);
@@ -254,7 +267,7 @@ HRESULT ZanDicAttribute::SetTarget(const OXMIDicClass* target) {
     ZanDicRegistry* const registry = ZanDicGetRegistry();
     const bool isNoted = _Injective != 0 && registry != nullptr && registry->owns_Uuid(*targetClass);
     // What needs memory comes first: from here on nothing fails.
-    const ZanDicLink<ZanDicElement> place(targetClass);
+    const ZanDicLink<ZanDicElement> place(isNoted ? targetClass : nullptr);
     if (isNoted) registry->AddClassToRelation(&targetClass->Uuid(), this);
     set_Type(targetClass);
     if (isNoted) _Noted = true;
