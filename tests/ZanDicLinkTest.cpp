@@ -119,6 +119,18 @@ TEST_F(ZanDicLinkTest, GivesItsPlaceBackWithTheLastLink) {
     EXPECT_EQ(ZanDicLinkBase::IdentityOf(object), 0U);
 }
 
+TEST_F(ZanDicLinkTest, TheNextObjectTakesAPlaceThatWasGivenBack) {
+    ZanDicObj first("First", TestUuid(1));
+    ZanDicObj second("Second", TestUuid(2));
+    ZanDicLink<ZanDicObj> link(&first);
+    const std::uint32_t place = link.Identity();
+
+    link.Reset();
+    link = &second;
+
+    EXPECT_EQ(link.Identity(), place);
+}
+
 TEST_F(ZanDicLinkTest, CopiesAndMoves) {
     ZanDicObj object("Part", TestUuid(1));
     ZanDicLink<ZanDicObj> link(&object);

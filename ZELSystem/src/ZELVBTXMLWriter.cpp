@@ -10,12 +10,12 @@
 
 namespace {
 
-using std::literals::operator""sv;
+using namespace std::literals;
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
-constexpr std::array<char, 2 * ZELVBTXMLWriter::kMostIndented> MakeBlanks() {
-    std::array<char, 2 * ZELVBTXMLWriter::kMostIndented> blanks{};
+constexpr auto MakeBlanks() {
+    std::array<char, std::size_t{2} * ZELVBTXMLWriter::kMostIndented> blanks{};
     blanks.fill(' ');
     return blanks;
 }
