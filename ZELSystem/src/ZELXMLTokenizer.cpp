@@ -255,7 +255,7 @@ const char* ZELXMLTokenizer::ReadUnusualValue(const char* name, const char* name
     for (; *p != quote; p = FindValueStop(p, quote)) {
         char text[4] = {' '};
         std::uint32_t textLength = 1;
-        const char* next = p + 1;
+        const char* next = nullptr;
         if (*p == '<') return Fail(ZELXMLFault::AttributeLessThan, p);
         if (*p == '&') {
             std::uint32_t code = 0;

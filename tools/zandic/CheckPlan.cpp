@@ -44,7 +44,7 @@ std::string Joined(std::string_view name, std::string_view content) {
 /// when there is none.
 std::string DocumentOf(const std::string& directories, std::string_view package) {
     for (const auto& row : kContentWords) {
-        const std::string name = Joined(package, row.word);
+        std::string name = Joined(package, row.word);
         if (row.word != kTuning && ZELFindPath(directories, name)) return name;
     }
     return {};

@@ -41,6 +41,7 @@ public:
     ~Handle() { Reset(); }
 
     T* Get() const noexcept { return _Pointer; }
+    // NOLINTNEXTLINE(clang-analyzer-core.uninitialized.UndefReturn): a null handle leads nowhere.
     T& operator*() const noexcept { return *_Pointer; }
     T* operator->() const noexcept { return _Pointer; }
     explicit operator bool() const noexcept { return _Pointer != nullptr; }
