@@ -332,6 +332,17 @@ TEST_P(EditOutOfMemoryTest, QuestionsAboutBlocksAndScopes) {
     addScope();
 }
 
+TEST_P(EditOutOfMemoryTest, ComputationsOfBlocks) {
+    SweepEach({
+        {"BuildRoot", [&] { return block->BuildRoot(); }},
+        {"BuildFather", [&] { return block->BuildFather(); }},
+        {"BuildAllAttributes", [&] { return block->BuildAllAttributes(); }},
+        {"GetCBlockForAtt", [&] { return b->GetCBlockForAtt(&nameOther, 1, Out<OXMIDicAttributeBlock>()); }},
+        {"GetAttBlock", [&] { return a->GetAttBlock(&blockName, Out<OXMIDicAttributeBlock>()); }, E_FAIL},
+        {"GetAllAttributeBlockList", [&] { return a->GetAllAttributeBlockList(&list); }},
+    });
+}
+
 /// It cannot say that it failed.
 TEST_P(EditOutOfMemoryTest, ADumpEndsTheProcess) {
     const auto dump = [this] {

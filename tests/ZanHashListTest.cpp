@@ -266,6 +266,20 @@ TEST_F(ZanHashListTest, TakesAnObjectByIdentityWhateverItsNameIs) {
     EXPECT_EQ(Written(), "");
 }
 
+TEST_F(ZanHashListTest, TakesWhatItKeepsWithoutANameToo) {
+    ZanDicObj first("Same", TestUuid(1)), second("Same", TestUuid(2)), stranger("Same", TestUuid(3));
+    ZanHashList kept(0, ZanHashListKind::Unnamed);
+    kept.keep(first);
+    kept.keep(second);
+
+    EXPECT_FALSE(kept.take_Object(&stranger));
+    EXPECT_TRUE(kept.take_Object(&second));
+    EXPECT_FALSE(kept.take_Object(&second));
+
+    EXPECT_EQ(kept.Size(), 1);
+    EXPECT_EQ(kept[1], &first);
+}
+
 TEST_F(ZanHashListTest, TreatsAnObjectThatIsGoneAsAbsent) {
     ZanDicObj successor("Part", TestUuid(3));
     list.Append(&part);

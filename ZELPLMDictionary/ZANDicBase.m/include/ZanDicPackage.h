@@ -5,6 +5,7 @@
 #include "ZanDicObj.h"
 #include "ZanHashList.h"
 
+class ZanDicAttributeBlock;
 class ZanDicElement;
 
 /// The unit of loading and saving: owns its elements and is the only factory of top-level elements.
@@ -131,6 +132,8 @@ public:
     void expect_Members(int count) override { _ELEMENTS.reserve(_ELEMENTS.Size() + count); }
     /// The last step of the computation of blocks: looks for attributes and names that a class has twice.
     HRESULT check_Blocks() const;
+    /// Takes out a block that this package made.
+    void drop_Block(ZanDicAttributeBlock& block);
     int lost_Links(LinkName link) const override;
 
     /// The content kind that the package was loaded from, under which it is saved; metadata unless the reader

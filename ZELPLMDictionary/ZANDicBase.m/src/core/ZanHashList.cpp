@@ -299,7 +299,7 @@ struct ZanHashList::Store {
 
     /// \returns the entry of that very object.
     int Find(const ZanDicObj& object) {
-        const int named = Find(object.Name());
+        const int named = kind != ZanHashListKind::Unnamed ? Find(object.Name()) : kNone;
         if (named != kNone && At(named).object == &object) return named;
         for (int at = first; at < end; ++at) {  // renamed since
             if (At(at).object == &object && !IsGone(at)) return at;

@@ -46,8 +46,16 @@ HRESULT ZanDicClass::make_DefaultBlocks() {
         if (next->default_Block() != nullptr) break;
         without.push_back(next);
     }
-    for (auto next = without.rbegin(); next != without.rend(); ++next) {
-        if (const HRESULT rc = (*next)->make_DefaultBlock(); Failed(rc)) return rc;
+    try {
+        for (auto next = without.rbegin(); next != without.rend(); ++next) {
+            if (const HRESULT rc = (*next)->make_DefaultBlock(); Failed(rc)) return rc;
+        }
+    } catch (...) {
+        for (const ZanDicClass* const each : without) {
+            if (ZanDicAttributeBlock* const made = each->default_Block())
+                each->get_Package()->drop_Block(*made);
+        }
+        throw;
     }
     return S_OK;
 }
@@ -57,15 +65,20 @@ HRESULT ZanDicClass::make_DefaultBlock() {
     ZanDicRef<OXMIDicAttributeBlock> face;
     if (Failed(get_Package()->CreateAttributeBlock(&uuid, face.Out()))) return E_FAIL;
     auto& block = *LiveImplementationOf<ZanDicAttributeBlock>(face.Get());
-    const ZELString name(blocktext::kDefaultBlock);
-    block.SetName(&name);
-    block.begin_Description();
-    block.set_Class(*this);
-    ZanDicAttributeBlock* const father = _SuperClass ? _SuperClass->default_Block() : nullptr;
-    if (father != nullptr) block.set_Father(*father);
-    block.set_Root(father != nullptr && father->get_Root() != nullptr ? *father->get_Root() : block);
-    fill_DefaultBlock(block);
-    make_Blocks().defaultBlock = &block;
+    try {
+        const ZELString name(blocktext::kDefaultBlock);
+        block.SetName(&name);
+        block.begin_Description();
+        block.set_Class(*this);
+        ZanDicAttributeBlock* const father = _SuperClass ? _SuperClass->default_Block() : nullptr;
+        if (father != nullptr) block.set_Father(*father);
+        block.set_Root(father != nullptr && father->get_Root() != nullptr ? *father->get_Root() : block);
+        fill_DefaultBlock(block);
+        make_Blocks().defaultBlock = &block;
+    } catch (...) {
+        get_Package()->drop_Block(block);
+        throw;
+    }
     return S_OK;
 }
 

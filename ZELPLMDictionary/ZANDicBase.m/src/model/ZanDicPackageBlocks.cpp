@@ -125,6 +125,11 @@ void ZanDicPackage::drop_Blocks() {
     }
 }
 
+void ZanDicPackage::drop_Block(ZanDicAttributeBlock& block) {
+    std::uint32_t refCount = 0;
+    if (_BLOCKS.take_Object(&block)) DropObject(block, &refCount);
+}
+
 /// Goes over all classes, the last first, also after an error.
 HRESULT ZanDicPackage::check_Blocks() const {
     HRESULT result = S_OK;
