@@ -5,22 +5,23 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
-#include <regex>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
 
 /// \returns "Class::operation" for each virtual operation that the header of an interface declares.
 std::vector<std::string> OperationsIn(const std::filesystem::path& header) {
+    constexpr std::string_view kBegin = "    virtual ";
     std::ifstream file(header);
-    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    static const std::regex kOperation(R"(\n    virtual \w+ (\w+)\()");
     std::vector<std::string> operations;
-    for (std::sregex_iterator at(text.begin(), text.end(), kOperation), end; at != end; ++at) {
-        operations.push_back(header.stem().string() + "::" + (*at)[1].str());
+    for (std::string line; std::getline(file, line);) {
+        const std::size_t end = line.find('(');
+        if (!line.starts_with(kBegin) || end == std::string::npos) continue;
+        const std::size_t begin = line.rfind(' ', end) + 1;
+        operations.push_back(header.stem().string() + "::" + line.substr(begin, end - begin));
     }
     return operations;
 }

@@ -538,7 +538,8 @@ HRESULT ZanHashList::RemoveAll() {
     constexpr const char* kSizes = "ZanHashList::RemoveAll _HASH.Size()=%d, _LISTP.Size()=%d";
     char text[96];
     const auto line = [&] {
-        return std::string_view(text, std::snprintf(text, sizeof text, kSizes, Size(), Size()));
+        const int length = std::snprintf(text, sizeof text, kSizes, Size(), Size());
+        return std::string_view(text, static_cast<std::size_t>(length));
     };
     const auto sizes = [&] { return line().substr(std::string_view("ZanHashList::RemoveAll ").size()); };
     trace.Start("=== start === ");
