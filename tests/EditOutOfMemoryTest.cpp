@@ -337,7 +337,7 @@ TEST_P(EditOutOfMemoryTest, ComputationsOfBlocks) {
         {"BuildRoot", [&] { return block->BuildRoot(); }},
         {"BuildFather", [&] { return block->BuildFather(); }},
         {"BuildAllAttributes", [&] { return block->BuildAllAttributes(); }},
-        {"GetCBlockForAtt", [&] { return b->GetCBlockForAtt(&nameOther, 1, Out<OXMIDicAttributeBlock>()); }},
+        {"GetCBlockForAtt", [&] { return a->GetCBlockForAtt(&nameSimple, 1, Out<OXMIDicAttributeBlock>()); }},
         {"GetAttBlock", [&] { return a->GetAttBlock(&blockName, Out<OXMIDicAttributeBlock>()); }, E_FAIL},
         {"GetAllAttributeBlockList", [&] { return a->GetAllAttributeBlockList(&list); }},
     });

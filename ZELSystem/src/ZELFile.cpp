@@ -56,7 +56,7 @@ struct Room {
 
     bool Resize(std::size_t wanted) noexcept {
         if (wanted > std::numeric_limits<std::size_t>::max() / 4) return false;
-        void* const moved = ZELPresentMemoryCalls().Reallocate(bytes, wanted + ZELFileContent::kPadding);
+        void* const moved = ZELResizeBlock(bytes, wanted + ZELFileContent::kPadding);
         if (moved == nullptr) return false;
         ZELAdviseHugePages(moved, wanted);
         bytes = static_cast<char*>(moved);

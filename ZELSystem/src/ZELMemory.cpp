@@ -11,11 +11,11 @@ namespace {
 
 constinit std::uint32_t shortageCount = 0;
 
-class SystemMemoryCalls final : public ZELMemoryCalls {};
+constinit ZELMemoryCalls* presentCalls = nullptr;  ///< null: the system's
 
-// Ready before the first initialiser: static objects of any library take memory.
-constinit SystemMemoryCalls systemCalls;
-constinit ZELMemoryCalls* presentCalls = &systemCalls;
+void* Allocate(std::size_t bytes, std::size_t alignment) {
+    return alignment > alignof(std::max_align_t) ? std::aligned_alloc(alignment, bytes) : std::malloc(bytes);
+}
 
 }  // namespace
 
@@ -31,7 +31,7 @@ void ZELOutOfMemory(const char* operation) noexcept { ZELFatalError("Out of memo
 void ZELShortageWatch::throw_Shortage() { throw std::bad_alloc(); }
 
 void* ZELMemoryCalls::Allocate(std::size_t bytes, std::size_t alignment) {
-    return alignment > alignof(std::max_align_t) ? std::aligned_alloc(alignment, bytes) : std::malloc(bytes);
+    return ::Allocate(bytes, alignment);
 }
 
 void* ZELMemoryCalls::AllocateZeroed(std::size_t bytes) { return std::calloc(bytes, 1); }
@@ -39,8 +39,17 @@ void* ZELMemoryCalls::AllocateZeroed(std::size_t bytes) { return std::calloc(byt
 void* ZELMemoryCalls::Reallocate(void* block, std::size_t bytes) { return std::realloc(block, bytes); }
 
 ZELMemoryCalls* ZELSetMemoryCalls(ZELMemoryCalls* calls) noexcept {
-    ZELMemoryCalls* const before = std::exchange(presentCalls, calls != nullptr ? calls : &systemCalls);
-    return before != &systemCalls ? before : nullptr;
+    return std::exchange(presentCalls, calls);
 }
 
-ZELMemoryCalls& ZELPresentMemoryCalls() noexcept { return *presentCalls; }
+void* ZELTakeBlock(std::size_t bytes, std::size_t alignment) {
+    return presentCalls != nullptr ? presentCalls->Allocate(bytes, alignment) : Allocate(bytes, alignment);
+}
+
+void* ZELTakeZeroedBlock(std::size_t bytes) {
+    return presentCalls != nullptr ? presentCalls->AllocateZeroed(bytes) : std::calloc(bytes, 1);
+}
+
+void* ZELResizeBlock(void* block, std::size_t bytes) {
+    return presentCalls != nullptr ? presentCalls->Reallocate(block, bytes) : std::realloc(block, bytes);
+}

@@ -1,9 +1,11 @@
-/// The calls that are set now, for the platform's own use.
+/// The calls that are set now, for the platform's own use: the system's unless a test has set others.
 #ifndef ZELOWNMEMORYCALLS_H
 #define ZELOWNMEMORYCALLS_H
 
 #include "ZELMemory.h"
 
-ZELMemoryCalls& ZELPresentMemoryCalls() noexcept;
+void* ZELTakeBlock(std::size_t bytes, std::size_t alignment);
+void* ZELTakeZeroedBlock(std::size_t bytes);
+void* ZELResizeBlock(void* block, std::size_t bytes);
 
 #endif

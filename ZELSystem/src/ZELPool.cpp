@@ -64,9 +64,8 @@ void AddChunk(SizeClass& sizeClass, std::size_t blockSize) {
     const std::size_t first = FirstBlock(blockSize);
     const std::size_t bytes = first + (wanted - first) / blockSize * blockSize;
     constexpr std::size_t kLine = ZELPoolLists::kLine;
-    void* const memory = first == kLine
-                             ? ZELPresentMemoryCalls().Allocate((bytes + kLine - 1) / kLine * kLine, kLine)
-                             : ZELPresentMemoryCalls().Allocate(bytes, alignof(std::max_align_t));
+    void* const memory = first == kLine ? ZELTakeBlock((bytes + kLine - 1) / kLine * kLine, kLine)
+                                        : ZELTakeBlock(bytes, alignof(std::max_align_t));
     if (memory == nullptr) throw std::bad_alloc();
     // A class that has come to the largest chunks will fill this one too.
     if (wanted == kLargestChunk) ZELTakePages(memory, bytes);

@@ -7,7 +7,7 @@
 #include "ZELOwnMemoryCalls.h"
 
 void* ZELXMLGrow(void* memory, std::size_t bytes) {
-    void* const grown = ZELPresentMemoryCalls().Reallocate(memory, bytes);
+    void* const grown = ZELResizeBlock(memory, bytes);
     if (grown == nullptr) throw std::bad_alloc();
     ZELAdviseHugePages(grown, bytes);
     return grown;

@@ -7,7 +7,7 @@
 #include "ZELOwnMemoryCalls.h"
 
 void* ZELAllocateZeroed(std::size_t bytes) {
-    void* const memory = ZELPresentMemoryCalls().AllocateZeroed(bytes);
+    void* const memory = ZELTakeZeroedBlock(bytes);
     if (memory == nullptr) throw std::bad_alloc();
     ZELAdviseHugePages(memory, bytes);
     // Its places are filled in any order: one by one they would each wait for a page.

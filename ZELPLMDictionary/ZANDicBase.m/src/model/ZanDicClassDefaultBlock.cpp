@@ -25,16 +25,22 @@ HRESULT ZanDicClass::GetCBlockForAtt(const ZELString* attributeName, int create,
     if (block == nullptr) return E_FAIL;
     *block = nullptr;
     if (get_Package() == nullptr) return E_FAIL;
-    if (default_Block() == nullptr) {
+    const bool isNew = default_Block() == nullptr;
+    if (isNew) {
         if (attributeName == nullptr && create == 0) return S_FALSE;
         if (const HRESULT rc = make_DefaultBlocks(); Failed(rc)) return rc;
     }
-    const ZanDicAttributeBlock& found = *default_Block();
+    ZanDicAttributeBlock& found = *default_Block();
     if (attributeName != nullptr &&
         ZanDicBlockPart::Find(found.get_Attributes(), *attributeName) == nullptr) {
         return E_FAIL;
     }
-    return HandOutAs(found, block);
+    try {
+        return HandOutAs(found, block);
+    } catch (...) {
+        if (isNew) get_Package()->drop_Block(found);
+        throw;
+    }
 }
 
 /// Makes the default blocks of this class and of the classes above that have none, the highest first, after
