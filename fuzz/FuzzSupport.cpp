@@ -20,11 +20,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Lines go nowhere.
+/// Lines go nowhere; warnings are counted.
 class Silence final : public ZELLineSink {
 public:
-    void Write(const ZELLine&) override {}
+    void Write(const ZELLine& line) override {
+        _Warnings += line.severity == ZELLineSeverity::Warning ? 1 : 0;
+    }
+    int Warnings() const { return _Warnings; }
+
+private:
+    int _Warnings = 0;
 };
+
+Silence silence;
 
 constexpr std::string_view kNameStart = "Name=\"";
 constexpr std::size_t kLongestName = 32;
@@ -126,7 +134,6 @@ std::string FuzzFileText(const std::string& path) {
 }
 
 OXMIDicMgr& FuzzManager() {
-    static Silence silence;
     static OXMIDicMgr* const manager = [] {
         ZELSetLineSink(&silence);
         OXMIDicMgr* made = nullptr;
@@ -136,6 +143,8 @@ OXMIDicMgr& FuzzManager() {
     }();
     return *manager;
 }
+
+int FuzzWarnings() { return silence.Warnings(); }
 
 std::vector<std::string> LoadedPackages(OXMIDicMgr& manager) {
     std::vector<std::string> names;

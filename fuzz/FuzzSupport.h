@@ -63,6 +63,9 @@ std::string FuzzFileText(const std::string& path);
 /// \returns the manager, initialised at the first call. From then on lines of the dictionary go nowhere.
 OXMIDicMgr& FuzzManager();
 
+/// \returns how many lines that went nowhere were warnings.
+int FuzzWarnings();
+
 /// \returns the names of the packages that are loaded, in order, by domain.
 std::vector<std::string> LoadedPackages(OXMIDicMgr& manager);
 

@@ -41,6 +41,9 @@ TEST(ZELXMLEncoding, TheDeclarationTellsLatin1) {
     EXPECT_EQ(ZELXMLFindSource("<?xml version=\"1.0\" encoding = \"latin1\" ?>").encoding, Latin1);
     EXPECT_EQ(ZELXMLFindSource("<?xml version='1.0' encoding='UTF-8'?>").encoding, Utf8);
     EXPECT_EQ(ZELXMLFindSource("<?xml version='1.0'?><a encoding='ISO-8859-1'/>").encoding, Utf8);
+    EXPECT_EQ(ZELXMLFindSource("<?xmlO encoding='ISO-8859-1'?>").encoding, Utf8);
+    EXPECT_EQ(ZELXMLFindSource("<?xml\nencoding='ISO-8859-1'?>").encoding, Latin1);
+    EXPECT_EQ(ZELXMLFindSource("<?xml").encoding, Utf8);
     EXPECT_EQ(ZELXMLFindSource("<?xml version='1.0' encoding").encoding, Utf8);
     EXPECT_EQ(ZELXMLFindSource("<?xml version='1.0' encoding='ISO-8859-1").encoding, Utf8);
     EXPECT_EQ(ZELXMLFindSource("").encoding, Utf8);

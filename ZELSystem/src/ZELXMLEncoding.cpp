@@ -40,11 +40,13 @@ bool EqualsIgnoringCase(std::string_view text, std::string_view lower) {
     });
 }
 
-/// The encoding that a text names behind "<?xml"; empty when it names none.
+/// The encoding that a text's XML declaration names; empty when it names none, or there is no declaration.
 std::string_view DeclaredEncoding(std::string_view text) {
     constexpr std::string_view kBlanks = " \t\r\n";
-    if (!text.starts_with("<?xml"sv)) return {};
-    text = text.substr(0, text.find("?>"sv));
+    constexpr std::string_view kOpen = "<?xml";
+    if (!text.starts_with(kOpen)) return {};
+    text = text.substr(kOpen.size(), text.find("?>"sv) - kOpen.size());
+    if (text.find_first_of(kBlanks) != 0) return {};  // an instruction whose name begins like that
     const std::size_t word = text.find("encoding"sv);
     if (word == std::string_view::npos) return {};
     text.remove_prefix(word + "encoding"sv.size());
