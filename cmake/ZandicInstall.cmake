@@ -15,25 +15,6 @@ else()
   set(ZANDIC_SOVERSION ${PROJECT_VERSION_MAJOR})
 endif()
 
-# zandic_find_libraries(<target>)
-#
-# Lets <target>, a library or a program that is installed, find the libraries: in its own folder, or in the one
-# beside it. The build tree has the same folders, and so the same entry: one, where CMake would keep room for
-# the longer path by empty ones, which the loader takes for the present directory.
-function(zandic_find_libraries target)
-  get_target_property(type ${target} TYPE)
-  set(from ${CMAKE_INSTALL_LIBDIR})
-  if(type STREQUAL EXECUTABLE)
-    set(from ${CMAKE_INSTALL_BINDIR})
-  endif()
-  file(RELATIVE_PATH to_libraries /${from} /${CMAKE_INSTALL_LIBDIR})
-  string(REGEX REPLACE "/$" "" entry "$ORIGIN/${to_libraries}")
-  set_target_properties(${target} PROPERTIES INSTALL_RPATH ${entry})
-  if(entry STREQUAL "$ORIGIN" OR entry STREQUAL "$ORIGIN/../lib")
-    set_target_properties(${target} PROPERTIES BUILD_WITH_INSTALL_RPATH ON)
-  endif()
-endfunction()
-
 # zandic_public_library(<target> [<name>])
 #
 # Makes <target> one that other projects use: as ZANDicBase::<name> (the target's own name unless given), with
@@ -51,7 +32,8 @@ function(zandic_public_library target)
   else()
     set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${ZANDIC_SOVERSION})
     target_link_options(${target} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
-    zandic_find_libraries(${target})
+    # The others are looked for beside it, in the build tree as where it is installed.
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN BUILD_WITH_INSTALL_RPATH ON)
     # Nobody puts a function of their own in the place of one of these, so calls within a library go straight
     # there, and starting a process resolves fewer names.
     target_compile_options(${target} PRIVATE -fno-semantic-interposition)

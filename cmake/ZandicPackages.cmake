@@ -29,7 +29,6 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION " Headers, and the files by which CMake and pkg-config find the libraries.")
 set(CPACK_DEBIAN_TOOL_PACKAGE_NAME zandic)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
-set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "libzandicbase${ZANDIC_SOVERSION} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_TOOL_DESCRIPTION " The command line tool: loads, shows, dumps, saves and exports packages.")
 
 include(CPack)

@@ -1,0 +1,20 @@
+// The formatting library's own code, so that the tool does not load it: what its headers only declare, and
+// the templates that they tell everybody else not to instantiate.
+
+#include <fmt/format-inl.h>
+
+FMT_BEGIN_NAMESPACE
+namespace detail {
+
+template FMT_API dragonbox::decimal_fp<float> dragonbox::to_decimal(float) noexcept;
+template FMT_API dragonbox::decimal_fp<double> dragonbox::to_decimal(double) noexcept;
+template FMT_API thousands_sep_result<char> thousands_sep_impl(locale_ref);
+template FMT_API char decimal_point_impl(locale_ref);
+template FMT_API void buffer<char>::append(const char*, const char*);
+#if FMT_VERSION < 110000
+template FMT_API void vformat_to(buffer<char>&, string_view, basic_format_args<FMT_BUFFER_CONTEXT(char)>,
+                                 locale_ref);
+#endif
+
+}  // namespace detail
+FMT_END_NAMESPACE
