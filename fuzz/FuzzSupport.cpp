@@ -179,6 +179,9 @@ bool FuzzObserver::OnDiagnostic(const ZanDicDiagnostic& fault) {
     _Size += fault.Reason().size() + fault.TraceText().size() + fault.Element().size() + fault.File().size();
     _Size += static_cast<std::size_t>(fault.Place().line) + fault.OtherPackage().size();
     if (fault.Code() == ZanDicDiagnosticCode::TuningFailed) _HasFailedTuning = true;
+    if (fault.Code() == ZanDicDiagnosticCode::ReferenceNotFound && !fault.OtherParty().empty()) {
+        _HasMissedUse = true;
+    }
     Require(fault.Number() == ++_Count, "faults are numbered in order");
     Require(fault.Cause() < fault.Number(), "a fault's cause was told before it");
     return true;

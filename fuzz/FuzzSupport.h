@@ -84,10 +84,13 @@ public:
     bool IsThorough() const override { return _IsThorough; }
     /// Whether a tuning was told to be faulty.
     bool HasFailedTuning() const { return _HasFailedTuning; }
+    /// Whether a reference was told to be into a package that is loaded and not used.
+    bool HasMissedUse() const { return _HasMissedUse; }
 
 private:
     bool _IsThorough;
     bool _HasFailedTuning = false;
+    bool _HasMissedUse = false;
     int _Count = 0;
     std::size_t _Size = 0;
 };

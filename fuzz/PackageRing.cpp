@@ -1,7 +1,7 @@
 // Several documents in one input, packages that use each other and their tunings: loaded one after the other,
 // and unloaded in an order of the input's while the others still refer to them. Whether faults end a load or
-// not, the results are the same, faulty tunings apart, until going on has loaded what a faulty package uses;
-// nothing is left at the end.
+// not, the results are the same, faulty tunings apart, until going on has loaded what a faulty package uses
+// or, being thorough, refused one that refers to what it does not use; nothing is left at the end.
 
 #include <algorithm>
 #include <optional>
@@ -19,6 +19,7 @@ constexpr std::size_t kMostDocuments = 8;
 struct LoadResult {
     HRESULT rc;
     std::vector<std::string> loaded;  ///< all packages that are loaded then
+    bool hasMissedUse = false;        ///< whether it was refused for referring to what it does not use
 };
 
 struct Loads {
@@ -36,17 +37,19 @@ Loads LoadAll(OXMIDicMgr& manager, const FuzzDirectory& directory, const std::ve
         if (goesOn) observer.emplace(isThorough);
         const ZELString name(document.package);
         const HRESULT rc = manager.LoadPackageFromDir(directory.Path().c_str(), &name, OXMDicPERSISTENT_Xml);
-        loads.results.push_back({rc, LoadedPackages(manager)});
+        loads.results.push_back({rc, LoadedPackages(manager), observer && observer->HasMissedUse()});
         if (observer) loads.hasFailedTuning = loads.hasFailedTuning || observer->HasFailedTuning();
     }
     return loads;
 }
 
-/// Requires the same results. \returns whether the same packages are loaded; going on also loads what a
-/// faulty package uses, and then others come too late for their names and UUIDs.
+/// Requires the same results. \returns whether the same packages are loaded: not once one is refused for what
+/// it does not use, or going on also loads what a faulty package uses; then others come too late for their
+/// names and UUIDs.
 bool RequireSameResults(const Loads& stopping, const Loads& goingOn) {
     return std::equal(stopping.results.begin(), stopping.results.end(), goingOn.results.begin(),
                       [](const LoadResult& stopped, const LoadResult& wentOn) {
+                          if (wentOn.hasMissedUse) return false;
                           Require(stopped.rc == wentOn.rc,
                                   "going on after faults changes nothing of the results");
                           const bool isSame = stopped.loaded == wentOn.loaded;
