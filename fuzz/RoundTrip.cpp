@@ -3,6 +3,7 @@
 // EXPRESS schemas are written on the way.
 
 #include <algorithm>
+#include <climits>
 #include <cstdlib>
 
 #include "DumpJson.h"
@@ -14,6 +15,7 @@
 namespace {
 
 constexpr std::size_t kMostDocuments = 4;
+constexpr std::size_t kLongestName = NAME_MAX - std::string_view(".metadata").size();
 
 std::string Dump() { return tool::DumpText(zandic::Dictionary::Open()); }
 
@@ -25,7 +27,7 @@ bool Load(OXMIDicMgr& manager, const FuzzDirectory& directory, const std::string
 /// Whether files can be named after the packages. Others are not saved.
 bool HaveNamesOfFiles(const std::vector<std::string>& packages) {
     return std::none_of(packages.begin(), packages.end(), [](const std::string& name) {
-        return name.empty() || name.find_first_of("./\\") != name.npos;
+        return name.empty() || name.size() > kLongestName || name.find_first_of("./\\") != name.npos;
     });
 }
 

@@ -337,6 +337,8 @@ TEST_P(EditOutOfMemoryTest, ComputationsOfBlocks) {
         {"BuildRoot", [&] { return block->BuildRoot(); }},
         {"BuildFather", [&] { return block->BuildFather(); }},
         {"BuildAllAttributes", [&] { return block->BuildAllAttributes(); }},
+        {"GetCBlockForAtt of a class and those above",
+         [&] { return b->GetCBlockForAtt(nullptr, 1, Out<OXMIDicAttributeBlock>()); }},
         {"GetCBlockForAtt", [&] { return a->GetCBlockForAtt(&nameSimple, 1, Out<OXMIDicAttributeBlock>()); }},
         {"GetAttBlock", [&] { return a->GetAttBlock(&blockName, Out<OXMIDicAttributeBlock>()); }, E_FAIL},
         {"GetAllAttributeBlockList", [&] { return a->GetAllAttributeBlockList(&list); }},

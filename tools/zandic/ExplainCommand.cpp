@@ -80,7 +80,7 @@ void WriteJson(const std::vector<const Rule*>& rules, Output& output) {
 
 /// \returns the rules that are asked for; what is none is told to the session.
 std::vector<const Rule*> RulesAskedFor(Session& session, const Options& options) {
-    const std::vector<const Rule*> all = AllRules();
+    std::vector<const Rule*> all = AllRules();
     if (options.names.empty()) return all;
     std::vector<const Rule*> rules;
     for (const std::string& code : options.names) {

@@ -46,6 +46,7 @@ bool IsAttribute(OXMIDicElementH& object) {
     return kind == OXMDicTYPE_Simple || kind == OXMDicTYPE_Relationship || kind == OXMDicTYPE_Inverse;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): once, since a block's class is no block.
 void AppendQualifiedName(OXMIDicElementH& object, std::string& name) {
     const OXMDicTYPE kind = zandic::Kind(object);
     if (IsMember(kind) && Members().AppendName(zandic::Uuid(object), name)) return;

@@ -1,6 +1,8 @@
 #ifndef ZAN_DIC_CLASS_H
 #define ZAN_DIC_CLASS_H
 
+#include <vector>
+
 #include "ZanDicElement.h"
 #include "ZanDicLinkList.h"
 #include "ZanHashList.h"
@@ -251,7 +253,7 @@ private:
     const ZanDicClassBlocks* blocks() const;
     ZanDicClassBlocks& make_Blocks();
     ZanDicAttributeBlock* default_Block() const;
-    HRESULT make_DefaultBlocks();
+    bool list_WithoutDefaultBlock(std::vector<ZanDicClass*>& without);
     HRESULT make_DefaultBlock();
     void fill_DefaultBlock(ZanDicAttributeBlock& block);
 

@@ -7,36 +7,9 @@
 #include "OXMIDicElementH.h"
 #include "ZELTie.h"
 
-/// Forwards OXMIDicApp.
+/// Forwards what OXMIDicApp and OXMIDicElementH have in common: who an object is.
 template <class Impl, class Base>
-class OXMIDicAppLayer : public Base {
-public:
-    HRESULT GetName(ZELString* name) override {
-        return this->forward_Plain([&](Impl& impl) { return impl.GetName(name); });
-    }
-    HRESULT SetName(const ZELString* name) override {
-        return this->forward([&](Impl& impl) { return impl.SetName(name); });
-    }
-    HRESULT GetUuid(ZELDbBinary* uuid) override {
-        return this->forward_Plain([&](Impl& impl) { return impl.GetUuid(uuid); });
-    }
-    HRESULT SetUuid(const ZELDbBinary* uuid) override {
-        return this->forward([&](Impl& impl) { return impl.SetUuid(uuid); });
-    }
-    HRESULT GenUuid() override {
-        return this->forward([&](Impl& impl) { return impl.GenUuid(); });
-    }
-    HRESULT GetType(OXMDicTYPE* type) override {
-        return this->forward_Plain([&](Impl& impl) { return impl.GetType(type); });
-    }
-    void Dump(const char* caller) override {
-        return this->forward([&](Impl& impl) { return impl.Dump(caller); });
-    }
-};
-
-/// Forwards OXMIDicElementH.
-template <class Impl, class Base>
-class OXMIDicElementHLayer : public Base {
+class OXMIDicIdentityLayer : public Base {
 public:
     using Base::GetType;  // attributes have another of that name
 
@@ -58,6 +31,21 @@ public:
     HRESULT GetType(OXMDicTYPE* type) override {
         return this->forward_Plain([&](Impl& impl) { return impl.GetType(type); });
     }
+};
+
+/// Forwards OXMIDicApp.
+template <class Impl, class Base>
+class OXMIDicAppLayer : public OXMIDicIdentityLayer<Impl, Base> {
+public:
+    void Dump(const char* caller) override {
+        return this->forward([&](Impl& impl) { return impl.Dump(caller); });
+    }
+};
+
+/// Forwards OXMIDicElementH.
+template <class Impl, class Base>
+class OXMIDicElementHLayer : public OXMIDicIdentityLayer<Impl, Base> {
+public:
     HRESULT SetOtherAttribute(const ZELUnicodeString& name, const ZELUnicodeString& value) override {
         return this->forward([&](Impl& impl) { return impl.SetOtherAttribute(name, value); });
     }

@@ -25,45 +25,37 @@ HRESULT ZanDicClass::GetCBlockForAtt(const ZELString* attributeName, int create,
     if (block == nullptr) return E_FAIL;
     *block = nullptr;
     if (get_Package() == nullptr) return E_FAIL;
-    const bool isNew = default_Block() == nullptr;
-    if (isNew) {
-        if (attributeName == nullptr && create == 0) return S_FALSE;
-        if (const HRESULT rc = make_DefaultBlocks(); Failed(rc)) return rc;
-    }
-    ZanDicAttributeBlock& found = *default_Block();
-    if (attributeName != nullptr &&
-        ZanDicBlockPart::Find(found.get_Attributes(), *attributeName) == nullptr) {
-        return E_FAIL;
-    }
-    try {
-        return HandOutAs(found, block);
-    } catch (...) {
-        if (isNew) get_Package()->drop_Block(found);
-        throw;
-    }
-}
-
-/// Makes the default blocks of this class and of the classes above that have none, the highest first, after
-/// it is known that each of them has a package: a failure leaves nothing half made.
-HRESULT ZanDicClass::make_DefaultBlocks() {
+    if (default_Block() == nullptr && attributeName == nullptr && create == 0) return S_FALSE;
     std::vector<ZanDicClass*> without;
-    for (ZanDicClass* next = this; next != nullptr; next = next->get_SuperClass()) {
-        if (next->get_Package() == nullptr) return E_FAIL;
-        if (next->default_Block() != nullptr) break;
-        without.push_back(next);
-    }
+    if (!list_WithoutDefaultBlock(without)) return E_FAIL;
     try {
         for (auto next = without.rbegin(); next != without.rend(); ++next) {
             if (const HRESULT rc = (*next)->make_DefaultBlock(); Failed(rc)) return rc;
         }
+        ZanDicAttributeBlock& found = *default_Block();
+        if (attributeName != nullptr &&
+            ZanDicBlockPart::Find(found.get_Attributes(), *attributeName) == nullptr) {
+            return E_FAIL;
+        }
+        return HandOutAs(found, block);
     } catch (...) {
         for (const ZanDicClass* const each : without) {
-            if (ZanDicAttributeBlock* const made = each->default_Block())
-                each->get_Package()->drop_Block(*made);
+            ZanDicAttributeBlock* const made = each->default_Block();
+            if (made != nullptr) each->get_Package()->drop_Block(*made);
         }
         throw;
     }
-    return S_OK;
+}
+
+/// Lists this class and the classes above it up to the first that has a default block. \returns whether each
+/// of them has a package, without which it cannot get one.
+bool ZanDicClass::list_WithoutDefaultBlock(std::vector<ZanDicClass*>& without) {
+    for (ZanDicClass* next = this; next != nullptr; next = next->get_SuperClass()) {
+        if (next->get_Package() == nullptr) return false;
+        if (next->default_Block() != nullptr) break;
+        without.push_back(next);
+    }
+    return true;
 }
 
 HRESULT ZanDicClass::make_DefaultBlock() {
