@@ -15,7 +15,6 @@ namespace tool {
 namespace {
 
 namespace word = ZANDicFormat::word;
-namespace value = ZANDicFormat::value;
 
 std::string TitleOf(const RuleDocument& document, const RuleElement& element) {
     return fmt::format("{} {}", element.node.getTag(), Quoted(document.Name(element.node)));
