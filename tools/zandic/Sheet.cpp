@@ -140,7 +140,8 @@ void Sheet::Row(const std::vector<std::string>& cells, const std::vector<std::si
             Write(0, line);
             line.clear();
         }
-        line = Padded(line, column) + cell;
+        line = Padded(line, column);
+        line += cell;
         column += widths[index] + kGap;
     }
     const std::string note = Printable(cells.back());

@@ -108,6 +108,7 @@ void AddHierarchies(OXMIDicPackage& package, Stats& stats) {
 
 std::string NoteOf(const std::map<ReferenceKind, int>& references) {
     std::vector<std::string> parts;
+    parts.reserve(references.size());
     for (const auto& [kind, count] : references) {
         parts.push_back(fmt::format("{} {}", count, ReferenceWord(kind)));
     }
@@ -190,6 +191,7 @@ void WriteRanked(std::string_view heading, const std::vector<Ranked>& list, Outp
     if (list.empty()) return;
     const std::size_t width = WidthOfNumber(list.front().number);
     std::vector<std::vector<std::string>> rows;
+    rows.reserve(list.size());
     for (const Ranked& each : list) {
         rows.push_back({fmt::format("{:>{}}", each.number, width), each.name, each.note});
     }

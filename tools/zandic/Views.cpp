@@ -85,7 +85,7 @@ void ShowObject(const zandic::Dictionary& dictionary, OXMIDicElementH& object, O
 
 std::string PackageNameOf(OXMIDicElementH& object) {
     if (const auto element = zandic::As<OXMIDicElement>(object)) {
-        const std::string package = TextOf(*element, &OXMIDicElement::GetPackageName);
+        std::string package = TextOf(*element, &OXMIDicElement::GetPackageName);
         if (!package.empty()) return package;
     }
     const std::string name = QualifiedName(object);
