@@ -29,6 +29,14 @@ TEST(RuleSuggestionsTest, ATagIsLookedForAmongThoseThatMayStandThere) {
     EXPECT_EQ(tool::SuggestTag(nullptr, "Enumm"), "; did you mean Enum?");
 }
 
+TEST(RuleSuggestionsTest, ATagInTheWrongPlaceIsToldItsOwn) {
+    EXPECT_EQ(tool::SuggestTag(nullptr, "Enum"), "; its place is in Package");
+    EXPECT_EQ(tool::SuggestTag(nullptr, "Enumerator"), "; its place is in Enum");
+    EXPECT_EQ(tool::SuggestTag(FindTag(kTags, tag::kPackage), "Simple"),
+              "; its place is in Class, Instance, Extension, RBOClass, RBOMapping, RBORoot or RBOComponent");
+    EXPECT_EQ(tool::SuggestTag(nullptr, "Package"), "");
+}
+
 class SuggestionObserver final : public ZanDicDiagnosticObserver {
 public:
     bool OnDiagnostic(const ZanDicDiagnostic& fault) override {

@@ -83,12 +83,13 @@ std::vector<std::string> Nearest::Words() const {
 }
 
 std::string Nearest::Question() const {
-    if (_BEST.empty()) return "";
-    std::vector<std::string> words = Words();
-    const std::string last = std::move(words.back());
+    return _BEST.empty() ? "" : fmt::format("; did you mean {}?", Alternatives(Words()));
+}
+
+std::string Alternatives(std::vector<std::string> words) {
+    std::string last = std::move(words.back());
     words.pop_back();
-    if (words.empty()) return fmt::format("; did you mean {}?", last);
-    return fmt::format("; did you mean {} or {}?", fmt::join(words, ", "), last);
+    return words.empty() ? last : fmt::format("{} or {}", fmt::join(words, ", "), last);
 }
 
 }  // namespace tool

@@ -9,6 +9,9 @@
 
 namespace tool {
 
+/// \returns "A, B or C". \param words at least one.
+std::string Alternatives(std::vector<std::string> words);
+
 /// Finds the words that somebody who wrote another one may have meant: a few letters apart or in another
 /// case; where there is none, those that begin with it. The same words give the same answer, in whatever
 /// order they come. Costs little for words that are nothing like it, so that a large package may be gone

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <string>
 #include <vector>
 
 #include "Nearest.h"
@@ -16,6 +18,17 @@ constexpr CodeWord kFlagWords[] = {{value::kYes, 1}, {value::kNo, 0}};
 const AttributeRow* AttributeRowOf(const ZanDicDiagnostic& fault) {
     const TagRow* const tagRow = FindTag(kTags, fault.Tag());
     return tagRow != nullptr ? FindAttribute(*tagRow, fault.Attribute()) : nullptr;
+}
+
+/// \returns where a known tag may stand: a question of spelling it is not.
+std::string PlaceOf(std::string_view tagName) {
+    std::vector<std::string> parents;
+    for (const TagRow& row : kTags) {
+        const bool isParent =
+            std::find(row.children.begin(), row.children.end(), tagName) != row.children.end();
+        if (isParent) parents.emplace_back(row.tag);
+    }
+    return parents.empty() ? "" : fmt::format("; its place is in {}", Alternatives(std::move(parents)));
 }
 
 }  // namespace
@@ -41,6 +54,7 @@ std::string SuggestWord(const AttributeRow& row, std::string_view text) {
 }
 
 std::string SuggestTag(const TagRow* parent, std::string_view tagName) {
+    if (FindTag(kTags, tagName) != nullptr) return PlaceOf(tagName);
     Nearest nearest(tagName);
     if (parent != nullptr) {
         for (const std::string_view child : parent->children) nearest.Add(child);
