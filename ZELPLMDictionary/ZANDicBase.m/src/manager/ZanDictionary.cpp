@@ -311,12 +311,12 @@ void ZanDictionary::remove_Relation(const ZELDbBinary& classUuid, const ZanDicAt
 void ZanDictionary::move_Relations(const ZELDbBinary& before, const ZELDbBinary& after) {
     ZanDicClassToRelationElem* const entry = find_Relations(before);
     if (entry == nullptr || before == after) return;
-    _CLASSTORELATION.RemoveKey(before.ComputeHashKey(), entry);
     if (auto* const present = find_Relations(after)) {
         present->add_All(*entry);
-        delete entry;
+        forget_Relations(before);
         return;
     }
+    _CLASSTORELATION.RemoveKey(before.ComputeHashKey(), entry);
     entry->SetClassUUID(after);
     _CLASSTORELATION.InsertNew(after.ComputeHashKey(), entry);
 }
