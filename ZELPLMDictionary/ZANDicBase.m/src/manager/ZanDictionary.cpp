@@ -300,7 +300,7 @@ HRESULT ZanDictionary::AddClassToRelation(const ZELDbBinary* classUuid, ZanDicAt
     made->SetClassUUID(*classUuid);
     made->AddRelationship(attribute);
     _CLASSTORELATION.InsertNew(classUuid->ComputeHashKey(), made.get());
-    made.release();
+    static_cast<void>(made.release());  // the table has it
     return S_OK;
 }
 
