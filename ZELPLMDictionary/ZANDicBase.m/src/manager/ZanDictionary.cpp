@@ -312,7 +312,7 @@ void ZanDictionary::move_Relations(const ZELDbBinary& before, const ZELDbBinary&
     ZanDicClassToRelationElem* const entry = find_Relations(before);
     if (entry == nullptr || before == after) return;
     if (auto* const present = find_Relations(after)) {
-        present->add_All(*entry);
+        present->add_All(*entry);  // first, since memory may run out
         forget_Relations(before);
         return;
     }

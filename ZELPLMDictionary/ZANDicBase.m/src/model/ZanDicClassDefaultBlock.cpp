@@ -32,7 +32,7 @@ HRESULT ZanDicClass::GetCBlockForAtt(const ZELString* attributeName, int create,
         for (auto next = without.rbegin(); next != without.rend(); ++next) {
             if (const HRESULT rc = (*next)->make_DefaultBlock(); Failed(rc)) return rc;
         }
-        ZanDicAttributeBlock& found = *default_Block();
+        const ZanDicAttributeBlock& found = *default_Block();
         if (attributeName != nullptr &&
             ZanDicBlockPart::Find(found.get_Attributes(), *attributeName) == nullptr) {
             return E_FAIL;
