@@ -87,7 +87,8 @@ private:
         std::uint32_t tag;
         std::uint32_t version;  ///< of the tables in which it was found; 0 before
     };
-    static constexpr unsigned kFoundCount = 4;
+    /// So many that the interfaces which callers ask of one class by turns have a place each.
+    static constexpr unsigned kFoundCount = 16;
 
     bool search_Tie(const ZELInterfaceId& id, Found& found) const noexcept;
 

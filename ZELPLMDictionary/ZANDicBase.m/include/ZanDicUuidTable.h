@@ -62,7 +62,7 @@ public:
 private:
     using Entry = std::uint64_t;  ///< address; from bit 48 the distance; above it bits of the key; 0: free
 
-    static constexpr std::uint32_t kAtOnce = 6;  ///< places that a search looks at together
+    static constexpr std::uint32_t kAtOnce = 8;  ///< places that a search looks at together
     static constexpr unsigned kAddressBits = 48;
     static constexpr unsigned kDistanceBits = 6;
     static constexpr std::uint32_t kFar = (1U << kDistanceBits) - 1;  ///< that distance or more
@@ -86,6 +86,7 @@ private:
     std::uint32_t way_Between(std::uint32_t from, std::uint32_t to) const noexcept {
         return to >= from ? to - from : to + _Places - from;
     }
+    static std::uint32_t marked_Among(const Entry* entries, Entry mark) noexcept;
     ZanDicObj* find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept;
     void place_Object(ZanDicObj& object, std::uint32_t key) noexcept;
     std::uint32_t distance_At(std::uint32_t place) const noexcept;

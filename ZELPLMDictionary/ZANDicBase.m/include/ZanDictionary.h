@@ -103,7 +103,9 @@ public:
 private:
     static constexpr int kPrimitiveCount = OXMDicPRIMITIVEType_AnyObject;
 
-    ZanDicObj* find_Obj(const ZELDbBinary& uuid) const;
+    ZanDicObj* find_Obj(const ZELDbBinary& uuid) const { return _OBJECTS.Find(uuid); }
+    /// The same for a caller's request, which shows in the trace. \param uuid may be null.
+    ZanDicObj* look_Up(const ZELDbBinary* uuid) const;
     ZanDicClassToRelationElem* find_Relations(const ZELDbBinary& classUuid) const;
     ZanDicPackage* find_Package(const ZELString& name) const;
     /// Empties every list: \p members takes what objects own, \p others what was registered and nobody owns.

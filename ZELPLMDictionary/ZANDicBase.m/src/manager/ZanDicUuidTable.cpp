@@ -6,6 +6,10 @@
 
 #include "ZELFatalError.h"
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace {
 
 constexpr std::uint64_t kFirstPlaces = 64;
@@ -34,18 +38,38 @@ std::uint32_t ZanDicUuidTable::distance_At(std::uint32_t place) const noexcept {
     return noted < kFar ? noted : way_Between(home_Of(KeyOf(*object_In(entry))), place);
 }
 
+/// \returns a number with a bit set for each of the kAtOnce \p entries that has \p mark, the first's lowest.
+#if defined(__SSE2__)
+std::uint32_t ZanDicUuidTable::marked_Among(const Entry* entries, Entry mark) noexcept {
+    // Marks lie in the upper halves of the entries, of which four fill a register.
+    constexpr int kMarkShift = static_cast<int>(kAddressBits + kDistanceBits) - 32;
+    const __m128i wanted = _mm_set1_epi32(static_cast<int>(mark >> 32));
+    const auto markedOfFour = [&](const Entry* four) {
+        const auto two = [](const Entry* at) { return _mm_loadu_ps(reinterpret_cast<const float*>(at)); };
+        const __m128 halves = _mm_shuffle_ps(two(four), two(four + 2), _MM_SHUFFLE(3, 1, 3, 1));
+        const __m128i rest = _mm_srli_epi32(_mm_xor_si128(_mm_castps_si128(halves), wanted), kMarkShift);
+        const __m128i same = _mm_cmpeq_epi32(rest, _mm_setzero_si128());
+        return static_cast<std::uint32_t>(_mm_movemask_ps(_mm_castsi128_ps(same)));
+    };
+    static_assert(kAtOnce == 8);
+    return markedOfFour(entries) | markedOfFour(entries + 4) << 4;
+}
+#else
+std::uint32_t ZanDicUuidTable::marked_Among(const Entry* entries, Entry mark) noexcept {
+    std::uint32_t marked = 0;
+    for (std::uint32_t at = 0; at < kAtOnce; ++at) marked |= std::uint32_t{has_Mark(entries[at], mark)} << at;
+    return marked;
+}
+#endif
+
 ZanDicObj* ZanDicUuidTable::find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept {
     const Entry mark = mark_Of(key);
     // Nearly always it is among the first few. They are compared together, so that there is no branch which
     // has to wait for the table: the processor goes on to the object, and to the caller's next lookup.
     if (const std::uint32_t home = home_Of(key); home + kAtOnce <= _Places) {
-        std::uint32_t marked = 0;
-        for (std::uint32_t ahead = 0; ahead < kAtOnce; ++ahead) {
-            marked |= std::uint32_t{has_Mark(_ENTRIES[home + ahead], mark)} << ahead;
-        }
-        if (marked != 0) {
-            ZanDicObj* const object =
-                object_In(_ENTRIES[home + static_cast<std::uint32_t>(std::countr_zero(marked))]);
+        const Entry* const entries = &_ENTRIES[home];
+        if (const std::uint32_t marked = marked_Among(entries, mark); marked != 0) {
+            ZanDicObj* const object = object_In(entries[std::countr_zero(marked)]);
             if (object != nullptr && object->Uuid() == uuid) return object;
         }
     }

@@ -228,8 +228,6 @@ HRESULT ZanDictionary::Reserved8() { return E_FAIL; }
 HRESULT ZanDictionary::Reserved9() { return E_FAIL; }
 HRESULT ZanDictionary::Reserved10() { return E_FAIL; }
 
-ZanDicObj* ZanDictionary::find_Obj(const ZELDbBinary& uuid) const { return _OBJECTS.Find(uuid); }
-
 HRESULT ZanDictionary::Insert(ZanDicObj* object) {
     static constexpr ZanDicTraceScope scope("ZanDictionary::Insert", kExitWord);
     const RegistryTrace trace(scope, *this);
@@ -266,18 +264,22 @@ bool ZanDictionary::keeps_Obj(const ZanDicObj& object) const {
     return std::find(std::begin(_PRIMITIVES), std::end(_PRIMITIVES), &object) == std::end(_PRIMITIVES);
 }
 
-HRESULT ZanDictionary::search_Obj(const ZELDbBinary* uuid, ZanDicObj** object) {
+ZanDicObj* ZanDictionary::look_Up(const ZELDbBinary* uuid) const {
     if (ZanDicTrace::MayWrite(TraceLevel::Call)) [[unlikely]]
         ZanDicObj::show_Probe();
+    return uuid != nullptr ? find_Obj(*uuid) : nullptr;
+}
+
+HRESULT ZanDictionary::search_Obj(const ZELDbBinary* uuid, ZanDicObj** object) {
+    ZanDicObj* const found = look_Up(uuid);
     if (object == nullptr) return E_FAIL;
-    *object = uuid != nullptr ? find_Obj(*uuid) : nullptr;
-    return *object != nullptr ? S_OK : E_FAIL;
+    *object = found;
+    return found != nullptr ? S_OK : E_FAIL;
 }
 
 HRESULT ZanDictionary::Search(const ZELDbBinary* uuid, OXMIDicElementH** object) {
-    ZanDicObj* found = nullptr;
-    if (object == nullptr || Failed(search_Obj(uuid, &found))) return E_FAIL;
-    return found->QueryInterface(IID_OXMIDicElementH, reinterpret_cast<void**>(object));
+    ZanDicObj* const found = object != nullptr ? look_Up(uuid) : nullptr;
+    return found != nullptr ? found->hand_Out(IID_OXMIDicElementH, reinterpret_cast<void**>(object)) : E_FAIL;
 }
 
 ZanDicClassToRelationElem* ZanDictionary::find_Relations(const ZELDbBinary& classUuid) const {
