@@ -85,22 +85,18 @@ std::string ShownFile(std::string_view file) {
 
 void CheckPlan::add(const std::string& directories, CheckTarget target) {
     // A package is in memory once: a second document of its name waits for the next round.
-    for (CheckRound& round : rounds) {
+    for (std::size_t at = 0;; ++at) {
+        if (at == rounds.size()) rounds.push_back({directories});
+        CheckRound& round = rounds[at];
         if (round.directories != directories) continue;
-        bool isTaken = false;
-        for (CheckTarget& other : round.targets) {
-            if (PackageIn(other.name) != PackageIn(target.name)) continue;
-            if (other.name == target.name) {
-                other.isForTuning = other.isForTuning && target.isForTuning;
-                return;
-            }
-            isTaken = true;
-        }
-        if (isTaken) continue;
-        round.targets.push_back(std::move(target));
+        const auto [place, isNew] =
+            round.places.try_emplace(std::string(PackageIn(target.name)), round.targets.size());
+        if (isNew) return round.targets.push_back(std::move(target));
+        CheckTarget& other = round.targets[place->second];
+        if (other.name != target.name) continue;
+        other.isForTuning = other.isForTuning && target.isForTuning;
         return;
     }
-    rounds.push_back({directories, {std::move(target)}});
 }
 
 void CheckPlan::AddName(std::string_view name, const std::string& path) {

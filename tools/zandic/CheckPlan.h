@@ -2,11 +2,14 @@
 #ifndef ZANDIC_TOOL_CHECK_PLAN_H
 #define ZANDIC_TOOL_CHECK_PLAN_H
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "Finding.h"
+#include "ZELHash.h"
 
 namespace tool {
 
@@ -23,6 +26,7 @@ struct CheckTarget {
 struct CheckRound {
     std::string directories;  ///< separated by ":"
     std::vector<CheckTarget> targets = {};
+    std::unordered_map<std::string, std::size_t, ZELTextHash> places = {};  ///< of targets, by package
 };
 
 /// The rounds of a check, and what was found wrong without reading.

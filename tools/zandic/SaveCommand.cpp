@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -13,6 +14,7 @@
 #include "Streams.h"
 #include "Targets.h"
 #include "ZANDicValueWords.h"
+#include "ZELDbBinary.h"
 #include "ZELEnvironment.h"
 
 namespace tool {
@@ -81,13 +83,12 @@ void CopyTuning(Session& session, const std::string& package, const std::string&
 std::vector<std::string> SaveAll(Session& session, std::vector<Request>& requests,
                                  const std::string& directory) {
     std::vector<std::string> written;
+    std::map<ZELDbBinary, const Request*> first;  // by the package's UUID
     for (Request& request : requests) {
         if (!request.package) continue;
-        const auto same = std::find_if(requests.begin(), requests.end(), [&](const Request& each) {
-            return each.package && zandic::Uuid(*each.package) == zandic::Uuid(*request.package);
-        });
-        if (&*same != &request) {
-            request.document = same->document;
+        const auto [same, isFirst] = first.try_emplace(zandic::Uuid(*request.package), &request);
+        if (!isFirst) {
+            request.document = same->second->document;
             continue;
         }
         request.document = SaveDocument(session, request, directory);

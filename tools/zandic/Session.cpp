@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 #include "Names.h"
@@ -8,6 +9,7 @@
 #include "Streams.h"
 #include "ZANDicValueWords.h"
 #include "ZELEnvironment.h"
+#include "ZELHash.h"
 #include "ZanDicTraceSettings.h"
 
 namespace tool {
@@ -98,15 +100,12 @@ std::string Session::AskedFor(std::string_view package) const {
 
 std::vector<Session::LoadOf> Session::LoadCosts() const {
     std::vector<LoadOf> costs;
+    std::unordered_map<std::string, std::size_t, ZELTextHash> places;
     for (const std::string& asked : _Clock.Finished()) {
-        const std::string package = _Observer.NameIn(asked);
-        const auto same = std::find_if(costs.begin(), costs.end(),
-                                       [&](const LoadOf& cost) { return cost.package == package; });
-        if (same == costs.end()) {
-            costs.push_back({package, _Clock.Own(asked)});
-        } else {
-            same->own += _Clock.Own(asked);
-        }
+        std::string package = _Observer.NameIn(asked);
+        const auto [place, isNew] = places.try_emplace(std::move(package), costs.size());
+        if (isNew) costs.push_back({place->first, {}});
+        costs[place->second].own += _Clock.Own(asked);
     }
     return costs;
 }
