@@ -1,6 +1,9 @@
 #include "ZanDicClassToRelationElem.h"
 
+#include <new>
+
 #include "DictionaryFixture.h"
+#include "FailingMemory.h"
 #include "OXMIDicRelationship.h"
 #include "ZanDicAttribute.h"
 
@@ -89,6 +92,37 @@ TEST_F(ZanDicClassToRelationElemTest, KeepsNoAttributeAliveAndLosesThoseThatAreG
     EXPECT_EQ(entry.GetRelationships(relationships), S_OK);
     ASSERT_EQ(relationships.Size(), 1);
     EXPECT_EQ(NameOf(relationships[1]), "Second");
+}
+
+TEST_F(ZanDicClassToRelationElemTest, TakesAllOfAnotherInTheirOrderOrNoneWhenMemoryIsShort) {
+    const auto first = MakeRelationship("First", 1);
+    const auto second = MakeRelationship("Second", 2);
+    const auto third = MakeRelationship("Third", 3);
+    ZanDicClassToRelationElem other;
+    entry.AddRelationship(first.Get());
+    for (ZanDicAttribute* const attribute : {third.Get(), second.Get()}) other.AddRelationship(attribute);
+
+    const auto isRefused = [&](int allocation) {
+        const FailingMemory failing(allocation, FailingMemory::Shortage::Once);
+        try {
+            entry.add_All(other);
+            return false;
+        } catch (const std::bad_alloc&) {
+            return true;
+        }
+    };
+    int refused = 0;
+    for (; isRefused(refused + 1); ++refused) {
+        entry.GetRelationships(relationships);
+        EXPECT_EQ(relationships.Size(), 1);
+        relationships.Clear();
+    }
+
+    EXPECT_GE(refused, 1);
+    entry.GetRelationships(relationships);
+    ASSERT_EQ(relationships.Size(), 3);
+    EXPECT_EQ(NameOf(relationships[2]), "Third");
+    EXPECT_EQ(NameOf(relationships[3]), "Second");
 }
 
 TEST_F(ZanDicClassToRelationElemTest, HashesTheUuid) {

@@ -23,7 +23,7 @@ public:
 
     /// Takes \p attribute out; one that is not noted is ignored.
     void remove_Relationship(const ZanDicAttribute& attribute);
-    /// Adds all attributes of \p other, in their order.
+    /// Adds all attributes of \p other, in their order; none when memory is short (std::bad_alloc).
     void add_All(const ZanDicClassToRelationElem& other);
 
     /// Appends each attribute as the interface of its kind, in the order of their first addition, one

@@ -26,8 +26,8 @@ public:
     /// How many objects that were in the list are gone since.
     int LostCount() const;
 
-    /// Makes room for one more: the next append of an object that is linked already takes no memory.
-    void expect_One();
+    /// Makes room for \p count more: as many appends of objects that are linked already take no memory.
+    void expect(int count);
 
 protected:
     bool append_Obj(ZanDicObj& object);

@@ -1,5 +1,6 @@
 #include "ZanDicLinkList.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <new>
 #include <unordered_map>
@@ -47,17 +48,17 @@ struct ZanDicLinkListBase::Store {
         }
     }
 
-    void MakeRoom() {
-        if (links.size() != links.capacity()) return;
+    void MakeRoom(std::size_t count) {
+        if (links.size() + count <= links.capacity()) return;
         // What is gone makes room before the list grows; a list that is mostly alive grows all the same.
         if (seenLostCount != ZanDicLinkBase::LostCount()) Pack();
-        if (links.size() > links.capacity() / 2 || links.capacity() == 0) {
-            links.reserve(links.capacity() != 0 ? 2 * links.capacity() : 1);
-        }
+        const std::size_t needed = links.size() + count;
+        const bool isMostlyAlive = links.size() > links.capacity() / 2;
+        if (needed > links.capacity() || isMostlyAlive) links.reserve(std::max(needed, 2 * links.capacity()));
     }
 
     void Append(ZanDicObj& object) {
-        MakeRoom();
+        MakeRoom(1);
         links.emplace_back(&object);
         if (links.size() == kSmall + 1) {
             Pack();
@@ -129,9 +130,9 @@ int ZanDicLinkListBase::LostCount() const {
     return _STORE->lost;
 }
 
-void ZanDicLinkListBase::expect_One() {
+void ZanDicLinkListBase::expect(int count) {
     if (!_STORE) _STORE = std::make_unique<Store>();
-    _STORE->MakeRoom();
+    _STORE->MakeRoom(static_cast<std::size_t>(count));
 }
 
 bool ZanDicLinkListBase::append_Obj(ZanDicObj& object) {

@@ -16,6 +16,7 @@ void ZanDicClassToRelationElem::remove_Relationship(const ZanDicAttribute& attri
 
 void ZanDicClassToRelationElem::add_All(const ZanDicClassToRelationElem& other) {
     const int size = other._RELATIONSHIPS.Size();
+    _RELATIONSHIPS.expect(size);  // all of them or none
     for (int position = 1; position <= size; ++position)
         _RELATIONSHIPS.Append(*other._RELATIONSHIPS[position]);
 }

@@ -76,7 +76,7 @@ HRESULT ZanDicClass::set_SuperClass(const IUnknown* superClass, const ZanDicTrac
     // What needs memory comes first: from here on nothing fails.
     const ZanDicLink<ZanDicClass> self(this);
     const ZanDicLink<ZanDicClass> above(newSuper);
-    newSuper->_invSuperClass.expect_One();
+    newSuper->_invSuperClass.expect(1);
     if (_SuperClass) _SuperClass->_invSuperClass.Remove(*this);
     newSuper->_invSuperClass.Remove(*this);  // listed still when that class was flushed
     newSuper->_invSuperClass.Append(*this);
