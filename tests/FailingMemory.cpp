@@ -29,9 +29,6 @@ public:
     void* Allocate(std::size_t bytes, std::size_t alignment) override {
         return IsRefused() ? nullptr : ZELMemoryCalls::Allocate(bytes, alignment);
     }
-    void* AllocateZeroed(std::size_t bytes) override {
-        return IsRefused() ? nullptr : ZELMemoryCalls::AllocateZeroed(bytes);
-    }
     void* Reallocate(void* block, std::size_t bytes) override {
         return IsRefused() ? nullptr : ZELMemoryCalls::Reallocate(block, bytes);
     }

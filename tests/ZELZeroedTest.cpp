@@ -20,6 +20,7 @@ TEST(ZELZeroed, IsZeroAndWritableWhateverItsSize) {
         const Words words = ZELMakeZeroed<std::uint64_t>(count);
 
         EXPECT_TRUE(IsZero(words, count)) << count;
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(words.get()) % 64, 0U) << "not at a line of the cache";
         words[0] = 1;
         words[count - 1] = 1;
     }

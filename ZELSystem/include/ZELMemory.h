@@ -50,7 +50,6 @@ public:
     /// \param alignment a power of two; \p bytes is a multiple of it where it is more than that of any
     /// object.
     virtual void* Allocate(std::size_t bytes, std::size_t alignment);
-    virtual void* AllocateZeroed(std::size_t bytes);
     /// \param block null, or one of these calls; still there when the call fails.
     virtual void* Reallocate(void* block, std::size_t bytes);
 

@@ -7,9 +7,9 @@
 
 #include "ZELExport.h"
 
-/// \returns \p bytes of zeros, which ZELFreeZeroed takes back. Large blocks come from the system in few,
-/// large pages where it has them, so that jumps all over one seldom miss the processor's table of pages.
-/// Throws std::bad_alloc when there is no memory.
+/// \returns \p bytes of zeros, which ZELFreeZeroed takes back. They begin with a line of the cache. Large
+/// blocks come from the system in few, large pages where it has them, so that jumps all over one seldom miss
+/// the processor's table of pages. Throws std::bad_alloc when there is no memory.
 ZELSYSTEM_API void* ZELAllocateZeroed(std::size_t bytes);
 ZELSYSTEM_API void ZELFreeZeroed(void* memory) noexcept;
 

@@ -34,8 +34,6 @@ void* ZELMemoryCalls::Allocate(std::size_t bytes, std::size_t alignment) {
     return ::Allocate(bytes, alignment);
 }
 
-void* ZELMemoryCalls::AllocateZeroed(std::size_t bytes) { return std::calloc(bytes, 1); }
-
 void* ZELMemoryCalls::Reallocate(void* block, std::size_t bytes) { return std::realloc(block, bytes); }
 
 ZELMemoryCalls* ZELSetMemoryCalls(ZELMemoryCalls* calls) noexcept {
@@ -44,10 +42,6 @@ ZELMemoryCalls* ZELSetMemoryCalls(ZELMemoryCalls* calls) noexcept {
 
 void* ZELTakeBlock(std::size_t bytes, std::size_t alignment) {
     return presentCalls != nullptr ? presentCalls->Allocate(bytes, alignment) : Allocate(bytes, alignment);
-}
-
-void* ZELTakeZeroedBlock(std::size_t bytes) {
-    return presentCalls != nullptr ? presentCalls->AllocateZeroed(bytes) : std::calloc(bytes, 1);
 }
 
 void* ZELResizeBlock(void* block, std::size_t bytes) {

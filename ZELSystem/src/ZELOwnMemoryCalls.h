@@ -5,7 +5,6 @@
 #include "ZELMemory.h"
 
 void* ZELTakeBlock(std::size_t bytes, std::size_t alignment);
-void* ZELTakeZeroedBlock(std::size_t bytes);
 void* ZELResizeBlock(void* block, std::size_t bytes);
 
 #endif

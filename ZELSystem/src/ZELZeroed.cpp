@@ -1,18 +1,21 @@
 #include "ZELZeroed.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <new>
 
 #include "ZELHugePages.h"
 #include "ZELOwnMemoryCalls.h"
 
 void* ZELAllocateZeroed(std::size_t bytes) {
-    void* const memory = ZELTakeZeroedBlock(bytes);
+    constexpr std::size_t kLine = 64;
+    const std::size_t room = (bytes + kLine - 1) / kLine * kLine;
+    void* const memory = ZELTakeBlock(room, kLine);
     if (memory == nullptr) throw std::bad_alloc();
-    ZELAdviseHugePages(memory, bytes);
-    // Its places are filled in any order: one by one they would each wait for a page.
-    ZELTakePages(memory, bytes);
-    return memory;
+    ZELAdviseHugePages(memory, room);
+    // All pages at once: one by one each would be waited for.
+    ZELTakePages(memory, room);
+    return std::memset(memory, 0, room);
 }
 
 void ZELFreeZeroed(void* memory) noexcept { std::free(memory); }

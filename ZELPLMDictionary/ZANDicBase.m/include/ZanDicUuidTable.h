@@ -1,7 +1,6 @@
 #ifndef ZAN_DIC_UUID_TABLE_H
 #define ZAN_DIC_UUID_TABLE_H
 
-#include <algorithm>
 #include <cstdint>
 
 #include "ZELDbBinary.h"
@@ -11,12 +10,12 @@
 
 /// Set of objects found by UUID: what the registry keeps them in. It does not own them.
 ///
-/// One word of 8 bytes a place: the object's address with some bits of its key and the distance from where
-/// its key would have it. So a lookup reads one or two lines of the table and, mostly, one object. The key is
-/// that of the object's UUID, which must not change while the object is in the table. The number of places is
-/// free, so that a table of known size is no larger than it need be; three quarters of the places are taken
-/// at the most. Insert and Reserve throw std::bad_alloc when memory is short, and then change nothing. Growth
-/// is amortised. One thread.
+/// One word of 8 bytes a place: the object's address with some bits of its key and the distance from home. A
+/// key is at home in a line of the cache, eight places, and stands in the first free place from there on. So
+/// a lookup reads, mostly, one line of the table and one object. The key is that of the object's UUID, which
+/// must not change while the object is in the table. The number of lines is free, so that a table of known
+/// size is no larger than it need be; three quarters of the places are taken at the most. Insert and Reserve
+/// throw std::bad_alloc when memory is short, and then change nothing. Growth is amortised. One thread.
 class ZANDICBASE_API ZanDicUuidTable {
 public:
     int Size() const noexcept { return static_cast<int>(_Size); }
@@ -38,17 +37,14 @@ public:
     /// Makes room for \p count objects in all.
     void Reserve(int count);
 
-    /// Fetches the places where a search for a UUID of that key looks first into the cache, for one some
-    /// 100 ns later. They may lie in two lines. (A function that only fetches is dropped unless it is
-    /// inlined.)
+    /// Fetches the line where a UUID of that key is at home into the cache, for a search some 100 ns later.
+    /// (A function that only fetches is dropped unless it is inlined.)
     [[gnu::always_inline]] void Prefetch(std::uint32_t key) const noexcept {
-        if (_Places == 0) return;
-        const std::uint32_t home = home_Of(key);
-        __builtin_prefetch(&_ENTRIES[home]);
-        __builtin_prefetch(&_ENTRIES[std::min(home + kAtOnce, _Places) - 1]);
+        if (_Places != 0) __builtin_prefetch(&_ENTRIES[home_Of(key)]);
     }
 
-    /// \returns the first object that a lookup of a UUID of that key would look at; null when there is none.
+    /// \returns the object that a lookup of a UUID of that key would look at first; null when there is none
+    /// in the line where it is at home.
     const ZanDicObj* Guess(std::uint32_t key) const noexcept;
 
     /// Calls \p visit with each object, in no particular order.
@@ -62,7 +58,7 @@ public:
 private:
     using Entry = std::uint64_t;  ///< address; from bit 48 the distance; above it bits of the key; 0: free
 
-    static constexpr std::uint32_t kAtOnce = 8;  ///< places that a search looks at together
+    static constexpr std::uint32_t kLine = 8;  ///< places in a line of the cache
     static constexpr unsigned kAddressBits = 48;
     static constexpr unsigned kDistanceBits = 6;
     static constexpr std::uint32_t kFar = (1U << kDistanceBits) - 1;  ///< that distance or more
@@ -79,21 +75,22 @@ private:
     static Entry new_Entry(ZanDicObj& object, std::uint32_t key) noexcept;
     static Entry with_Distance(Entry entry, std::uint32_t distance) noexcept;
 
+    /// \returns the first place of the line.
     std::uint32_t home_Of(std::uint32_t key) const noexcept {
-        return static_cast<std::uint32_t>(std::uint64_t{key} * _Places >> 32);
+        return static_cast<std::uint32_t>(std::uint64_t{key} * (_Places / kLine) >> 32) * kLine;
     }
     std::uint32_t next_To(std::uint32_t place) const noexcept { return place + 1 != _Places ? place + 1 : 0; }
     std::uint32_t way_Between(std::uint32_t from, std::uint32_t to) const noexcept {
         return to >= from ? to - from : to + _Places - from;
     }
-    static std::uint32_t marked_Among(const Entry* entries, Entry mark) noexcept;
+    static std::uint32_t marked_In(const Entry* line, Entry mark) noexcept;
     ZanDicObj* find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept;
     void place_Object(ZanDicObj& object, std::uint32_t key) noexcept;
     std::uint32_t distance_At(std::uint32_t place) const noexcept;
     void rehash_To(std::uint64_t places);
 
     ZELZeroed<Entry> _ENTRIES;
-    std::uint32_t _Places = 0;
+    std::uint32_t _Places = 0;  ///< whole lines
     std::uint32_t _Size = 0;
 };
 

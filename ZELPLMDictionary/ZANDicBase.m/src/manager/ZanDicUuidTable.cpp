@@ -38,53 +38,50 @@ std::uint32_t ZanDicUuidTable::distance_At(std::uint32_t place) const noexcept {
     return noted < kFar ? noted : way_Between(home_Of(KeyOf(*object_In(entry))), place);
 }
 
-/// \returns a number with a bit set for each of the kAtOnce \p entries that has \p mark, the first's lowest.
+/// \returns a number with a bit set for each place of \p line whose entry has \p mark, the first place's
+/// lowest.
 #if defined(__SSE2__)
-std::uint32_t ZanDicUuidTable::marked_Among(const Entry* entries, Entry mark) noexcept {
+std::uint32_t ZanDicUuidTable::marked_In(const Entry* line, Entry mark) noexcept {
     // Marks lie in the upper halves of the entries, of which four fill a register.
     constexpr int kMarkShift = static_cast<int>(kAddressBits + kDistanceBits) - 32;
     const __m128i wanted = _mm_set1_epi32(static_cast<int>(mark >> 32));
     const auto markedOfFour = [&](const Entry* four) {
-        const auto two = [](const Entry* at) { return _mm_loadu_ps(reinterpret_cast<const float*>(at)); };
+        const auto two = [](const Entry* at) { return _mm_load_ps(reinterpret_cast<const float*>(at)); };
         const __m128 halves = _mm_shuffle_ps(two(four), two(four + 2), _MM_SHUFFLE(3, 1, 3, 1));
         const __m128i rest = _mm_srli_epi32(_mm_xor_si128(_mm_castps_si128(halves), wanted), kMarkShift);
         const __m128i same = _mm_cmpeq_epi32(rest, _mm_setzero_si128());
         return static_cast<std::uint32_t>(_mm_movemask_ps(_mm_castsi128_ps(same)));
     };
-    static_assert(kAtOnce == 8);
-    return markedOfFour(entries) | markedOfFour(entries + 4) << 4;
+    static_assert(kLine == 8);
+    return markedOfFour(line) | markedOfFour(line + 4) << 4;
 }
 #else
-std::uint32_t ZanDicUuidTable::marked_Among(const Entry* entries, Entry mark) noexcept {
+std::uint32_t ZanDicUuidTable::marked_In(const Entry* line, Entry mark) noexcept {
     std::uint32_t marked = 0;
-    for (std::uint32_t at = 0; at < kAtOnce; ++at) marked |= std::uint32_t{has_Mark(entries[at], mark)} << at;
+    for (std::uint32_t at = 0; at < kLine; ++at) marked |= std::uint32_t{has_Mark(line[at], mark)} << at;
     return marked;
 }
 #endif
 
 ZanDicObj* ZanDicUuidTable::find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept {
+    // The places of a line are compared together, so that there is no branch which has to wait for the table:
+    // the processor goes on to the object, and to the caller's next lookup.
     const Entry mark = mark_Of(key);
-    // Nearly always it is among the first few. They are compared together, so that there is no branch which
-    // has to wait for the table: the processor goes on to the object, and to the caller's next lookup.
-    if (const std::uint32_t home = home_Of(key); home + kAtOnce <= _Places) {
-        const Entry* const entries = &_ENTRIES[home];
-        if (const std::uint32_t marked = marked_Among(entries, mark); marked != 0) {
-            ZanDicObj* const object = object_In(entries[std::countr_zero(marked)]);
+    for (std::uint32_t home = home_Of(key);; home = next_To(home + kLine - 1)) {
+        const Entry* const line = &_ENTRIES[home];
+        for (std::uint32_t marked = marked_In(line, mark); marked != 0; marked &= marked - 1) {
+            ZanDicObj* const object = object_In(line[std::countr_zero(marked)]);
             if (object != nullptr && object->Uuid() == uuid) return object;
         }
-    }
-    for (std::uint32_t place = home_Of(key);; place = next_To(place)) {
-        const Entry entry = _ENTRIES[place];
-        if (entry == 0) return nullptr;
-        if (has_Mark(entry, mark) && object_In(entry)->Uuid() == uuid) return object_In(entry);
+        if (line[kLine - 1] == 0) return nullptr;  // what is not here found room, and is not further on
     }
 }
 
 const ZanDicObj* ZanDicUuidTable::Guess(std::uint32_t key) const noexcept {
     if (_Size == 0) return nullptr;
-    std::uint32_t place = home_Of(key);
-    while (_ENTRIES[place] != 0 && !has_Mark(_ENTRIES[place], mark_Of(key))) place = next_To(place);
-    return object_In(_ENTRIES[place]);
+    const Entry* const line = &_ENTRIES[home_Of(key)];
+    const std::uint32_t marked = marked_In(line, mark_Of(key));
+    return marked != 0 ? object_In(line[std::countr_zero(marked)]) : nullptr;
 }
 
 bool ZanDicUuidTable::Insert(ZanDicObj& object) {
@@ -138,6 +135,7 @@ void ZanDicUuidTable::Reserve(int count) {
 }
 
 void ZanDicUuidTable::rehash_To(std::uint64_t places) {
+    places = (places + kLine - 1) / kLine * kLine;
     if (places > kMostPlaces) throw std::bad_alloc();
     ZanDicUuidTable larger;
     larger._ENTRIES = ZELMakeZeroed<Entry>(static_cast<std::size_t>(places));
