@@ -380,10 +380,12 @@ private:
             ++kept;
         }
         std::destroy(Entries() + kept, Entries() + end);
-        if (hasLinks) extra->links.Truncate(kept);
+        if (hasLinks) {
+            extra->links.Truncate(kept);
+            extra->seenLostCount = ZanDicLinkBase::LostCount();
+        }
         end = kept;
         first = gaps = 0;
-        if (extra != nullptr) extra->seenLostCount = ZanDicLinkBase::LostCount();
         EnterAll();
     }
 
@@ -400,6 +402,7 @@ private:
         if (HasTags()) {
             Tags()[at] = TagSet::TagOf(HashOf(at));
         } else if (HasIndex()) {
+            // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): what has the index is there with it.
             extra->index.Enter(HashOf(at), at);
         }
     }
