@@ -67,8 +67,8 @@ ZanDicObj* ZanDicUuidTable::find_Key(const ZELDbBinary& uuid, std::uint32_t key)
     // The places of a line are compared together, so that there is no branch which has to wait for the table:
     // the processor goes on to the object, and to the caller's next lookup.
     const Entry mark = mark_Of(key);
-    for (std::uint32_t home = home_Of(key);; home = next_To(home + kLine - 1)) {
-        const Entry* const line = &_ENTRIES[home];
+    for (std::uint32_t place = home_Of(key);; place = next_To(place + kLine - 1)) {
+        const Entry* const line = &_ENTRIES[place];
         for (std::uint32_t marked = marked_In(line, mark); marked != 0; marked &= marked - 1) {
             ZanDicObj* const object = object_In(line[std::countr_zero(marked)]);
             if (object != nullptr && object->Uuid() == uuid) return object;
