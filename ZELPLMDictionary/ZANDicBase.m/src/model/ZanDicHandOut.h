@@ -13,20 +13,15 @@
 /// \returns the query's result; on failure \p out is untouched.
 template <class Interface>
 HRESULT HandOutOwn(const ZanDicObj& object, Interface** out) {
-    void* face = nullptr;
-    const HRESULT rc = object.bind_Interface(OXMDicTYPE_UNDEFINED, &face);
-    if (Succeeded(rc)) *out = static_cast<Interface*>(face);
-    return rc;
+    return object.bind_Interface(OXMDicTYPE_UNDEFINED, reinterpret_cast<void**>(out));
 }
 
 /// Hands out exactly \p Interface, whatever the object's type code.
 /// \returns S_OK; E_FAIL when the object's class does not answer it, and \p out is untouched.
 template <class Interface>
 HRESULT HandOutAs(const ZanDicObj& object, Interface** out) {
-    void* face = nullptr;
-    if (Failed(const_cast<ZanDicObj&>(object).hand_Out(Interface::ClassId(), &face))) return E_FAIL;
-    *out = static_cast<Interface*>(face);
-    return S_OK;
+    void** const face = reinterpret_cast<void**>(out);
+    return Succeeded(const_cast<ZanDicObj&>(object).hand_Out(Interface::ClassId(), face)) ? S_OK : E_FAIL;
 }
 
 /// Appends the object's own interface to \p list; without a list, or when the query fails, there is
