@@ -27,6 +27,7 @@ public:
     int LostCount() const;
 
     /// Makes room for \p count more: as many appends of objects that are linked already take no memory.
+    /// Throws std::bad_alloc when memory is short, and changes nothing.
     void expect(int count);
 
 protected:
