@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -41,30 +42,41 @@ private:
     std::string path_;
 };
 
-/// A generated document in a directory of its own, which goes with this object.
+/// A generated document on disk. With ZANDIC_BENCH_DOCUMENTS, a directory, it is kept there and only written
+/// where it is not there yet, so that a process which measures has made nothing itself; else it lies in a
+/// directory of its own, which goes with this object.
 class DocumentOnDisk {
 public:
     static constexpr const char* kPackageName = "Generated";
 
     explicit DocumentOnDisk(std::int64_t elements, std::int64_t attributesPerClass = 20) {
+        if (const char* kept = std::getenv("ZANDIC_BENCH_DOCUMENTS"); kept != nullptr) {
+            directory_ =
+                std::string(kept) + "/" + std::to_string(elements) + "-" + std::to_string(attributesPerClass);
+        } else {
+            own_.emplace();
+            directory_ = own_->Path();
+        }
+        if (std::ifstream(directory_ + "/elements") >> elements_) return;
         PackageShape shape;
         shape.elements = static_cast<int>(elements);
         shape.attributesPerClass = static_cast<int>(attributesPerClass);
         const GeneratedPackage package = GeneratePackage(kPackageName, shape);
         elements_ = package.elements;
-        bytes_ = package.document.size();
+        std::filesystem::create_directories(directory_);
         std::ofstream(File()) << package.document;
+        std::ofstream(directory_ + "/elements") << elements_;
     }
 
-    std::string File() const { return directory_.File(kPackageName); }
-    const std::string& Directory() const { return directory_.Path(); }
+    std::string File() const { return directory_ + "/" + kPackageName + ".metadata"; }
+    const std::string& Directory() const { return directory_; }
     int Elements() const { return elements_; }
-    std::size_t Bytes() const { return bytes_; }
+    std::size_t Bytes() const { return std::filesystem::file_size(File()); }
 
 private:
-    OwnDirectory directory_;
+    std::optional<OwnDirectory> own_;
+    std::string directory_;
     int elements_ = 0;
-    std::size_t bytes_ = 0;
 };
 
 #endif
