@@ -1,6 +1,7 @@
 #include "ZanDicUuidTable.h"
 
 #include <algorithm>
+#include <random>
 #include <vector>
 
 #include "DictionaryFixture.h"
@@ -123,6 +124,35 @@ TEST_F(ZanDicUuidTableTest, KeepsItsObjectsApartWhileOthersAreRemovedFromAFullTa
     for (unsigned index = 0; index < kCount; ++index) {
         ZanDicObj* const expected = index % 3 == 0 ? objects[index].Get() : nullptr;
         ASSERT_EQ(table.Find(objects[index]->Uuid()), expected) << index;
+    }
+}
+
+/// A small table that is kept nearly full: lines overflow, behind the last into the first too, and places
+/// that were freed are taken again.
+TEST_F(ZanDicUuidTableTest, StaysTheSetItIsWhileObjectsComeAndGo) {
+    constexpr unsigned kCount = 120;
+    constexpr int kMost = 96;  // of 128 places, which Reserve makes of it
+    const auto objects = Objects(kCount);
+    std::mt19937 draws(7);
+    table.Reserve(kMost - 1);
+    std::vector<bool> isIn(kCount);
+
+    for (int step = 0; step < 60'000; ++step) {
+        const std::size_t index = draws() % kCount;
+        if (isIn[index]) {
+            ASSERT_TRUE(table.Remove(*objects[index])) << step;
+            isIn[index] = false;
+        } else if (table.Size() < kMost) {
+            ASSERT_TRUE(table.Insert(*objects[index])) << step;
+            isIn[index] = true;
+        }
+        const std::size_t asked = draws() % kCount;
+        ASSERT_EQ(table.Find(objects[asked]->Uuid()), isIn[asked] ? objects[asked].Get() : nullptr) << step;
+        if (step % 500 != 0) continue;
+        ASSERT_EQ(CountVisited(), static_cast<std::size_t>(std::count(isIn.begin(), isIn.end(), true)));
+        for (unsigned each = 0; each < kCount; ++each) {
+            ASSERT_EQ(table.Find(objects[each]->Uuid()), isIn[each] ? objects[each].Get() : nullptr) << step;
+        }
     }
 }
 

@@ -11,8 +11,9 @@
 /// Set of objects found by UUID: what the registry keeps them in. It does not own them.
 ///
 /// One word of 8 bytes a place: the object's address with some bits of its key and the distance from home. A
-/// key is at home in a line of the cache, eight places, and stands in the first free place from there on. So
-/// a lookup reads, mostly, one line of the table and one object. The key is that of the object's UUID, which
+/// key is at home in a line of the cache, eight places, and stands in the first free place from there on. A
+/// line whose last place is free has let none of its own go further. So a lookup reads, mostly, one line of
+/// the table and one object, a removal one line. The key is that of the object's UUID, which
 /// must not change while the object is in the table. The number of lines is free, so that a table of known
 /// size is no larger than it need be; three quarters of the places are taken at the most. Insert and Reserve
 /// throw std::bad_alloc when memory is short, and then change nothing. Growth is amortised. One thread.
@@ -56,11 +57,12 @@ public:
     }
 
 private:
-    using Entry = std::uint64_t;  ///< address; from bit 48 the distance; above it bits of the key; 0: free
+    using Entry =
+        std::uint64_t;  ///< address; from bit 48 the lines from home; above them bits of the key; 0: free
 
     static constexpr std::uint32_t kLine = 8;  ///< places in a line of the cache
     static constexpr unsigned kAddressBits = 48;
-    static constexpr unsigned kDistanceBits = 6;
+    static constexpr unsigned kDistanceBits = 4;
     static constexpr std::uint32_t kFar = (1U << kDistanceBits) - 1;  ///< that distance or more
     static constexpr std::uint32_t kNone = 0xFFFFFFFF;
 
@@ -73,20 +75,27 @@ private:
         return (entry ^ mark) >> (kAddressBits + kDistanceBits) == 0;
     }
     static Entry new_Entry(ZanDicObj& object, std::uint32_t key) noexcept;
-    static Entry with_Distance(Entry entry, std::uint32_t distance) noexcept;
+    static Entry with_Distance(Entry entry, std::uint32_t lines) noexcept;
 
     /// \returns the first place of the line.
     std::uint32_t home_Of(std::uint32_t key) const noexcept {
         return static_cast<std::uint32_t>(std::uint64_t{key} * (_Places / kLine) >> 32) * kLine;
     }
-    std::uint32_t next_To(std::uint32_t place) const noexcept { return place + 1 != _Places ? place + 1 : 0; }
-    std::uint32_t way_Between(std::uint32_t from, std::uint32_t to) const noexcept {
-        return to >= from ? to - from : to + _Places - from;
+    /// Lines are named by their first places; behind the last comes the first.
+    std::uint32_t next_Line(std::uint32_t line) const noexcept {
+        return line + kLine != _Places ? line + kLine : 0;
     }
+    std::uint32_t lines_Between(std::uint32_t from, std::uint32_t to) const noexcept {
+        return (to >= from ? to - from : to + _Places - from) / kLine;
+    }
+    bool is_Full(std::uint32_t line) const noexcept { return _ENTRIES[line + kLine - 1] != 0; }
     static std::uint32_t marked_In(const Entry* line, Entry mark) noexcept;
     ZanDicObj* find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept;
     void place_Object(ZanDicObj& object, std::uint32_t key) noexcept;
+    std::uint32_t place_Of(const ZanDicObj& object) const noexcept;
     std::uint32_t distance_At(std::uint32_t place) const noexcept;
+    std::uint32_t stray_Of(std::uint32_t line) const noexcept;
+    void close_Gap(std::uint32_t gap) noexcept;
     void rehash_To(std::uint64_t places);
 
     ZELZeroed<Entry> _ENTRIES;

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <bit>
+#include <charconv>
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #if defined(__SSE2__)
@@ -538,11 +540,16 @@ HRESULT ZanHashList::Remove(const ZELString& name) {
 HRESULT ZanHashList::RemoveAll() {
     static constexpr ZanDicTraceScope trace("ZanHashList::RemoveAll");
     // Lists are emptied while their owners are taken down, which takes no memory.
-    constexpr const char* kSizes = "ZanHashList::RemoveAll _HASH.Size()=%d, _LISTP.Size()=%d";
     char text[96];
     const auto line = [&] {
-        const int length = std::snprintf(text, sizeof text, kSizes, Size(), Size());
-        return std::string_view(text, static_cast<std::size_t>(length));
+        char digits[12];
+        const std::string_view size(digits, std::to_chars(digits, std::end(digits), Size()).ptr);
+        char* end = text;
+        for (const std::string_view part : {std::string_view("ZanHashList::RemoveAll _HASH.Size()="), size,
+                                            std::string_view(", _LISTP.Size()="), size}) {
+            end += part.copy(end, part.size());
+        }
+        return std::string_view(text, end);
     };
     const auto sizes = [&] { return line().substr(std::string_view("ZanHashList::RemoveAll ").size()); };
     trace.Start("=== start === ");

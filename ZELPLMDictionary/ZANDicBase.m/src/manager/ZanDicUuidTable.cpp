@@ -27,15 +27,15 @@ ZanDicUuidTable::Entry ZanDicUuidTable::new_Entry(ZanDicObj& object, std::uint32
 }
 
 /// The same entry at another distance from home.
-ZanDicUuidTable::Entry ZanDicUuidTable::with_Distance(Entry entry, std::uint32_t distance) noexcept {
-    return (entry & ~(Entry{kFar} << kAddressBits)) | Entry{std::min(distance, kFar)} << kAddressBits;
+ZanDicUuidTable::Entry ZanDicUuidTable::with_Distance(Entry entry, std::uint32_t lines) noexcept {
+    return (entry & ~(Entry{kFar} << kAddressBits)) | Entry{std::min(lines, kFar)} << kAddressBits;
 }
 
-/// How far the entry at \p place is from home.
+/// How many lines the entry at \p place is from home.
 std::uint32_t ZanDicUuidTable::distance_At(std::uint32_t place) const noexcept {
     const Entry entry = _ENTRIES[place];
     const std::uint32_t noted = static_cast<std::uint32_t>(entry >> kAddressBits) & kFar;
-    return noted < kFar ? noted : way_Between(home_Of(KeyOf(*object_In(entry))), place);
+    return noted < kFar ? noted : lines_Between(home_Of(KeyOf(*object_In(entry))), place / kLine * kLine);
 }
 
 /// \returns a number with a bit set for each place of \p line whose entry has \p mark, the first place's
@@ -67,13 +67,13 @@ ZanDicObj* ZanDicUuidTable::find_Key(const ZELDbBinary& uuid, std::uint32_t key)
     // The places of a line are compared together, so that there is no branch which has to wait for the table:
     // the processor goes on to the object, and to the caller's next lookup.
     const Entry mark = mark_Of(key);
-    for (std::uint32_t place = home_Of(key);; place = next_To(place + kLine - 1)) {
-        const Entry* const line = &_ENTRIES[place];
-        for (std::uint32_t marked = marked_In(line, mark); marked != 0; marked &= marked - 1) {
-            ZanDicObj* const object = object_In(line[std::countr_zero(marked)]);
+    for (std::uint32_t line = home_Of(key);; line = next_Line(line)) {
+        const Entry* const entries = &_ENTRIES[line];
+        for (std::uint32_t marked = marked_In(entries, mark); marked != 0; marked &= marked - 1) {
+            ZanDicObj* const object = object_In(entries[std::countr_zero(marked)]);
             if (object != nullptr && object->Uuid() == uuid) return object;
         }
-        if (line[kLine - 1] == 0) return nullptr;  // what is not here found room, and is not further on
+        if (!is_Full(line)) return nullptr;
     }
 }
 
@@ -97,29 +97,60 @@ bool ZanDicUuidTable::Insert(ZanDicObj& object) {
 
 void ZanDicUuidTable::place_Object(ZanDicObj& object, std::uint32_t key) noexcept {
     const std::uint32_t home = home_Of(key);
-    std::uint32_t place = home;
-    while (_ENTRIES[place] != 0) place = next_To(place);
-    _ENTRIES[place] = with_Distance(new_Entry(object, key), way_Between(home, place));
+    for (std::uint32_t line = home;; line = next_Line(line)) {
+        for (std::uint32_t place = line; place < line + kLine; ++place) {
+            if (_ENTRIES[place] != 0) continue;
+            _ENTRIES[place] = with_Distance(new_Entry(object, key), lines_Between(home, line));
+            return;
+        }
+    }
 }
 
 bool ZanDicUuidTable::Remove(const ZanDicObj& object) noexcept {
-    if (_Size == 0) return false;
-    std::uint32_t gap = home_Of(KeyOf(object));
-    while (object_In(_ENTRIES[gap]) != &object) {
-        if (_ENTRIES[gap] == 0) return false;
-        gap = next_To(gap);
-    }
-    // Closes the gap by moving back what could not stand nearer to its home, so that no mark remains.
-    for (std::uint32_t place = next_To(gap); _ENTRIES[place] != 0; place = next_To(place)) {
-        const std::uint32_t distance = distance_At(place);
-        const std::uint32_t way = way_Between(gap, place);
-        if (distance < way) continue;
-        _ENTRIES[gap] = with_Distance(_ENTRIES[place], distance - way);
-        gap = place;
-    }
-    _ENTRIES[gap] = 0;
+    const std::uint32_t place = _Size != 0 ? place_Of(object) : kNone;
+    if (place == kNone) return false;
+    close_Gap(place);
     --_Size;
     return true;
+}
+
+std::uint32_t ZanDicUuidTable::place_Of(const ZanDicObj& object) const noexcept {
+    for (std::uint32_t line = home_Of(KeyOf(object));; line = next_Line(line)) {
+        for (std::uint32_t place = line; place < line + kLine; ++place) {
+            if (object_In(_ENTRIES[place]) == &object) return place;
+        }
+        if (!is_Full(line)) return kNone;
+    }
+}
+
+/// \returns the place of an entry behind \p line that is at home in it or before it; kNone when there is
+/// none.
+std::uint32_t ZanDicUuidTable::stray_Of(std::uint32_t line) const noexcept {
+    std::uint32_t next = line;
+    do {
+        next = next_Line(next);
+        for (std::uint32_t place = next; place < next + kLine; ++place) {
+            if (_ENTRIES[place] != 0 && distance_At(place) >= lines_Between(line, next)) return place;
+        }
+    } while (is_Full(next));
+    return kNone;
+}
+
+/// Empties the place \p gap. What only stands further on because its line was full is moved back, or else the
+/// line's last place becomes the free one: lookups are told by it that they need not go on.
+void ZanDicUuidTable::close_Gap(std::uint32_t gap) noexcept {
+    while (true) {
+        const std::uint32_t line = gap / kLine * kLine;
+        const std::uint32_t stray = is_Full(line) ? stray_Of(line) : kNone;
+        if (stray == kNone) {
+            _ENTRIES[gap] = _ENTRIES[line + kLine - 1];
+            _ENTRIES[line + kLine - 1] = 0;
+            return;
+        }
+        const std::uint32_t back = lines_Between(line, stray / kLine * kLine);
+        _ENTRIES[gap] = with_Distance(_ENTRIES[stray], distance_At(stray) - back);
+        gap = stray;
+    }
 }
 
 void ZanDicUuidTable::RemoveAll() noexcept {
