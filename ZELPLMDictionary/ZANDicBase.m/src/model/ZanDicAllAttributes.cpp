@@ -110,6 +110,7 @@ ZanDicAllAttributes::Answer ZanDicAllAttributes::Descent::Next(const ZanHashList
         answer->_REPLACED.push_back({index, ZanDicLink<ZanDicAttribute>(attribute)});
     }
     for (const Replacement& replaced : answer->_REPLACED) _LISTED[replaced.index] = replaced.by.Get();
+    answer->_ADDED.reserve(static_cast<std::size_t>(size));
     for (int position = 1; position <= size; ++position) {
         auto* const attribute = static_cast<ZanDicAttribute*>(own[position]);
         // Deliberate: what once redefined an attribute is left out for good when that is no longer inherited

@@ -181,6 +181,8 @@ HRESULT ZanDicClass::GetAllElements(ZELListPtrIUnknown* attributes) {
         compute_AllAttributes();
         listed = ZanDicAllAttributes::ListAlive(_ALLATTRIBUTES);
     }
+    if (attributes != nullptr && attributes->Size() == 0)
+        attributes->Reserve(static_cast<int>(listed.size()));
     HRESULT rc = S_OK;
     for (const ZanDicAttribute* attribute : listed) rc = AppendInterface(*attribute, attributes);
     return rc;
