@@ -90,9 +90,10 @@ private:
     }
     bool is_Full(std::uint32_t line) const noexcept { return _ENTRIES[line + kLine - 1] != 0; }
     static std::uint32_t marked_In(const Entry* line, Entry mark) noexcept;
+    template <class Is>
+    std::uint32_t find_Place(std::uint32_t key, const Is& is) const noexcept;
     ZanDicObj* find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept;
     void place_Object(ZanDicObj& object, std::uint32_t key) noexcept;
-    std::uint32_t place_Of(const ZanDicObj& object) const noexcept;
     std::uint32_t distance_At(std::uint32_t place) const noexcept;
     std::uint32_t stray_Of(std::uint32_t line) const noexcept;
     void close_Gap(std::uint32_t gap) noexcept;

@@ -63,18 +63,26 @@ std::uint32_t ZanDicUuidTable::marked_In(const Entry* line, Entry mark) noexcept
 }
 #endif
 
-ZanDicObj* ZanDicUuidTable::find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept {
+/// \returns the place of the object of that key for which \p is holds; kNone when there is none.
+template <class Is>
+std::uint32_t ZanDicUuidTable::find_Place(std::uint32_t key, const Is& is) const noexcept {
     // The places of a line are compared together, so that there is no branch which has to wait for the table:
     // the processor goes on to the object, and to the caller's next lookup.
     const Entry mark = mark_Of(key);
     for (std::uint32_t line = home_Of(key);; line = next_Line(line)) {
-        const Entry* const entries = &_ENTRIES[line];
-        for (std::uint32_t marked = marked_In(entries, mark); marked != 0; marked &= marked - 1) {
-            ZanDicObj* const object = object_In(entries[std::countr_zero(marked)]);
-            if (object != nullptr && object->Uuid() == uuid) return object;
+        for (std::uint32_t marked = marked_In(&_ENTRIES[line], mark); marked != 0; marked &= marked - 1) {
+            const std::uint32_t place = line + static_cast<std::uint32_t>(std::countr_zero(marked));
+            const ZanDicObj* const object = object_In(_ENTRIES[place]);
+            if (object != nullptr && is(*object)) return place;
         }
-        if (!is_Full(line)) return nullptr;
+        if (!is_Full(line)) return kNone;
     }
+}
+
+ZanDicObj* ZanDicUuidTable::find_Key(const ZELDbBinary& uuid, std::uint32_t key) const noexcept {
+    const std::uint32_t place =
+        find_Place(key, [&](const ZanDicObj& object) { return object.Uuid() == uuid; });
+    return place != kNone ? object_In(_ENTRIES[place]) : nullptr;
 }
 
 const ZanDicObj* ZanDicUuidTable::Guess(std::uint32_t key) const noexcept {
@@ -107,20 +115,13 @@ void ZanDicUuidTable::place_Object(ZanDicObj& object, std::uint32_t key) noexcep
 }
 
 bool ZanDicUuidTable::Remove(const ZanDicObj& object) noexcept {
-    const std::uint32_t place = _Size != 0 ? place_Of(object) : kNone;
+    if (_Size == 0) return false;
+    const std::uint32_t place =
+        find_Place(KeyOf(object), [&object](const ZanDicObj& other) { return &other == &object; });
     if (place == kNone) return false;
     close_Gap(place);
     --_Size;
     return true;
-}
-
-std::uint32_t ZanDicUuidTable::place_Of(const ZanDicObj& object) const noexcept {
-    for (std::uint32_t line = home_Of(KeyOf(object));; line = next_Line(line)) {
-        for (std::uint32_t place = line; place < line + kLine; ++place) {
-            if (object_In(_ENTRIES[place]) == &object) return place;
-        }
-        if (!is_Full(line)) return kNone;
-    }
 }
 
 /// \returns the place of an entry behind \p line that is at home in it or before it; kNone when there is

@@ -88,19 +88,26 @@ public:
     }
 
 private:
-    /// Fetches what the elements behind the next one will need into the cache.
-    void look_Ahead() const {
+    /// Fetches what the next elements will need into the cache: the elements, and then their places in the
+    /// registry.
+    void look_Ahead() {
         constexpr int kStep = 6;
         const ZanDicRegistry* const registry = ZanDicFindRegistry();
-        const ZanDicObj* const near = (*_Owned)[_Position + kStep];
-        if (near != nullptr && registry != nullptr) registry->prefetch_Uuid(near->Uuid().ComputeHashKey());
-        if (const ZanDicObj* const far = (*_Owned)[_Position + 2 * kStep]) ZanDicObj::prefetch_Obj(far);
+        for (; _Fetched < _Position + 2 * kStep; ++_Fetched) {
+            if (const ZanDicObj* const object = (*_Owned)[_Fetched]) ZanDicObj::prefetch_Obj(object);
+        }
+        for (; _Announced < _Position + kStep && registry != nullptr; ++_Announced) {
+            const ZanDicObj* const object = (*_Owned)[_Announced];
+            if (object != nullptr) registry->prefetch_Uuid(object->Uuid().ComputeHashKey());
+        }
     }
 
     ZanHashList* _Owned;
     std::string_view _ListName;
     ZanDicTraceScope _Trace;
     int _Position = 0;
+    int _Fetched = 1;    ///< the first position whose element has not been fetched
+    int _Announced = 1;  ///< the first one whose UUID has not been announced to the registry
 };
 
 /// An owner of a list whose flush has begun.
