@@ -27,6 +27,32 @@ protected:
         return count;
     }
 
+    /// Puts objects into the table and takes them out again, by lot, up to \p most at a time, and mostly that
+    /// many.
+    void ComeAndGo(const std::vector<Held<ZanDicObj>>& objects, int most) {
+        std::mt19937 draws(7);
+        std::vector<bool> isIn(objects.size());
+        const auto expectAsked = [&](std::size_t index) {
+            ZanDicObj* const expected = isIn[index] ? objects[index].Get() : nullptr;
+            ASSERT_EQ(table.Find(objects[index]->Uuid()), expected) << index;
+        };
+        for (int step = 0; step < 200'000 && !HasFailure(); ++step) {
+            const std::size_t index = draws() % objects.size();
+            if (isIn[index] && draws() % 16 != 0) continue;
+            if (isIn[index]) {
+                ASSERT_TRUE(table.Remove(*objects[index])) << step;
+                isIn[index] = false;
+            } else if (table.Size() < most) {
+                ASSERT_TRUE(table.Insert(*objects[index])) << step;
+                isIn[index] = true;
+            }
+            expectAsked(draws() % objects.size());
+            if (step % 500 != 0) continue;
+            ASSERT_EQ(CountVisited(), static_cast<std::size_t>(std::count(isIn.begin(), isIn.end(), true)));
+            for (std::size_t each = 0; each < objects.size(); ++each) expectAsked(each);
+        }
+    }
+
     ZanDicUuidTable table;
 };
 
@@ -130,30 +156,21 @@ TEST_F(ZanDicUuidTableTest, KeepsItsObjectsApartWhileOthersAreRemovedFromAFullTa
 /// A small table that is kept nearly full: lines overflow, behind the last into the first too, and places
 /// that were freed are taken again.
 TEST_F(ZanDicUuidTableTest, StaysTheSetItIsWhileObjectsComeAndGo) {
-    constexpr unsigned kCount = 120;
     constexpr int kMost = 96;  // of 128 places, which Reserve makes of it
-    const auto objects = Objects(kCount);
-    std::mt19937 draws(7);
     table.Reserve(kMost - 1);
-    std::vector<bool> isIn(kCount);
+    ComeAndGo(Objects(120), kMost);
+}
 
-    for (int step = 0; step < 60'000; ++step) {
-        const std::size_t index = draws() % kCount;
-        if (isIn[index]) {
-            ASSERT_TRUE(table.Remove(*objects[index])) << step;
-            isIn[index] = false;
-        } else if (table.Size() < kMost) {
-            ASSERT_TRUE(table.Insert(*objects[index])) << step;
-            isIn[index] = true;
-        }
-        const std::size_t asked = draws() % kCount;
-        ASSERT_EQ(table.Find(objects[asked]->Uuid()), isIn[asked] ? objects[asked].Get() : nullptr) << step;
-        if (step % 500 != 0) continue;
-        ASSERT_EQ(CountVisited(), static_cast<std::size_t>(std::count(isIn.begin(), isIn.end(), true)));
-        for (unsigned each = 0; each < kCount; ++each) {
-            ASSERT_EQ(table.Find(objects[each]->Uuid()), isIn[each] ? objects[each].Get() : nullptr) << step;
-        }
-    }
+/// Objects that are at home in the same few lines stand up to twenty lines from there.
+TEST_F(ZanDicUuidTableTest, StaysTheSetItIsWhenAllAreAtHomeAtTheSamePlace) {
+    constexpr std::size_t kCount = 160;
+    auto objects = Objects(20'000);
+    const auto key = [](const Held<ZanDicObj>& object) { return object->Uuid().ComputeHashKey(); };
+    std::sort(objects.begin(), objects.end(),
+              [&key](const auto& a, const auto& b) { return key(a) < key(b); });
+    objects.resize(kCount);
+    table.Reserve(kCount);
+    ComeAndGo(objects, kCount);
 }
 
 }  // namespace
