@@ -79,8 +79,7 @@ public:
 
     friend bool operator==(const ZELString& a, const ZELString& b) noexcept {
         if (a._Text == b._Text) return true;
-        return a._Text != nullptr && b._Text != nullptr ? a._Text->Equals(*b._Text)
-                                                        : a.Length() == b.Length();
+        return a._Text != nullptr && b._Text != nullptr && a._Text->Equals(*b._Text);
     }
     friend bool operator<(const ZELString& a, const ZELString& b) noexcept { return a.Compare(b) < 0; }
 

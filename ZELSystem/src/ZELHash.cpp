@@ -17,6 +17,12 @@ std::uint64_t Spread(std::uint64_t word) noexcept {
     return word ^ (word >> 31);
 }
 
+/// Apart, so that the usual case has nothing to keep across a call.
+[[gnu::cold, gnu::noinline]] std::uint32_t DrawAndHash(std::string_view text) noexcept {
+    ZELDrawHashSeed();
+    return ZELHashText(text);
+}
+
 template <class Word>
 std::uint64_t Load(const char* bytes) noexcept {
     Word word;
@@ -41,7 +47,8 @@ void ZELDrawHashSeed() noexcept {
 }
 
 std::uint32_t ZELHashText(std::string_view text) noexcept {
-    ZELHashSeed();
+    if (!zelHashState.drawn) [[unlikely]]
+        return DrawAndHash(text);
     const std::uint64_t first = zelHashState.first;
     const std::uint64_t second = zelHashState.second;
     const char* bytes = text.data();

@@ -57,8 +57,8 @@ public:
     }
 
 private:
-    using Entry =
-        std::uint64_t;  ///< address; from bit 48 the lines from home; above them bits of the key; 0: free
+    /// Address; from bit 48 the lines from home; above them bits of the key; 0: free.
+    using Entry = std::uint64_t;
 
     static constexpr std::uint32_t kLine = 8;  ///< places in a line of the cache
     static constexpr unsigned kAddressBits = 48;

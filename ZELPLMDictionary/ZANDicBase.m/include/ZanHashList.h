@@ -63,6 +63,8 @@ public:
 
     // What follows is for the library itself. All but append_New write nothing.
 
+    /// \returns the object that was appended under \p name; null when there is none.
+    ZanDicObj* find(const ZELString& name) const;
     /// As Append, of an object whose name is known not to be taken.
     HRESULT append_New(ZanDicObj& object);
     /// Removes exactly \p object, whatever its name now is. \returns whether it was in the list.

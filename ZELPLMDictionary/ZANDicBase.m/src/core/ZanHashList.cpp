@@ -286,17 +286,18 @@ struct ZanHashList::Store {
     }
 
     /// \returns the entry of that key; one whose object is gone is dropped, since its name is free.
-    [[gnu::always_inline]] inline int Find(const ZELString& key) {
-        // Searches in random order wait for memory, and this takes one wait out of three: where in the block
-        // the entry is, its tags tell.
-        const auto* const block = reinterpret_cast<const unsigned char*>(this);
-        for (std::size_t line = 1; line <= kLinesAhead; ++line) {
-            __builtin_prefetch(block + line * ZELPoolLists::kLine);
-        }
-        const int at = FindEntry(key);
-        if (at == kNone || !IsGone(at)) [[likely]]
-            return at;
-        return DropGone(at, key);
+    int Find(const ZELString& key) {
+        const Entry* const entry = FindEntry(key);
+        if (entry == nullptr) return kNone;
+        const int at = IndexOf(entry);
+        return IsGone(at) ? DropGone(at, key) : at;
+    }
+
+    /// \returns the object that is in the list under that key; null for none.
+    [[gnu::always_inline]] inline ZanDicObj* FindObject(const ZELString& key) {
+        const Entry* const entry = FindEntry(key);
+        if (entry == nullptr) return nullptr;
+        return kind != ZanHashListKind::Links ? entry->object : LiveObject(entry, key);
     }
 
     /// \returns the entry of that very object.
@@ -422,25 +423,48 @@ private:
         }
     }
 
-    [[gnu::noinline]] int DropGone(int at, const ZELString& key) {
+    int IndexOf(const Entry* entry) const { return static_cast<int>(entry - Entries()); }
+
+    int DropGone(int at, const ZELString& key) {
         extra->lost.Append(key);
         RemoveAt(at);
         return kNone;
     }
 
-    [[gnu::always_inline]] inline int FindEntry(const ZELString& key) const {
-        if (end == 0) return kNone;
+    [[gnu::noinline]] ZanDicObj* LiveObject(const Entry* entry, const ZELString& key) {
+        const int at = IndexOf(entry);
+        if (!IsGone(at)) return entry->object;
+        DropGone(at, key);
+        return nullptr;
+    }
+
+    /// \returns the entry of that key, be its object gone or not; null for none. Where there are tags it
+    /// calls nothing once the key's hash is known, so it has little to put aside.
+    [[gnu::always_inline]] inline const Entry* FindEntry(const ZELString& key) const {
+        // Searches in random order wait for memory, and this takes one wait out of three: where in the block
+        // the entry is, its tags tell.
+        const auto* const block = reinterpret_cast<const unsigned char*>(this);
+        for (std::size_t line = 1; line <= kLinesAhead; ++line) {
+            __builtin_prefetch(block + line * ZELPoolLists::kLine);
+        }
         const std::uint32_t hash = key.ComputeHashKey();  // a name keeps it: cheaper than comparing texts
+        if (!HasTags()) [[unlikely]]
+            return FindIndexed(hash, key);
         const Entry* const entries = Entries();
-        if (tagGroups == 0) [[unlikely]]
-            return extra->index.Find(hash, [&](int at) { return entries[at].key == key; });
         for (std::uint64_t found = TagSet::Find(Tags(), TagCount(), TagSet::TagOf(hash)); found != 0;
              found &= found - 1) {
-            const int at = std::countr_zero(found);
-            __builtin_prefetch(entries[at].object);  // together with the text, not after it
-            if (entries[at].key == key) return at;
+            const Entry* const entry = entries + std::countr_zero(found);
+            __builtin_prefetch(entry->object);  // together with the text, not after it
+            if (entry->key == key) return entry;
         }
-        return kNone;
+        return nullptr;
+    }
+
+    [[gnu::noinline]] const Entry* FindIndexed(std::uint32_t hash, const ZELString& key) const {
+        if (!HasIndex()) return nullptr;
+        const Entry* const entries = Entries();
+        const int at = extra->index.Find(hash, [&](int each) { return entries[each].key == key; });
+        return at != kNone ? entries + at : nullptr;
     }
 };
 
@@ -562,12 +586,16 @@ HRESULT ZanHashList::RemoveAll() {
     return trace.Exit(S_OK);
 }
 
-HRESULT ZanHashList::Search(const ZELString& name, ZanDicObj** found) const {
+ZanDicObj* ZanHashList::find(const ZELString& name) const {
     if (ZanDicTrace::MayWrite(TraceLevel::Call)) [[unlikely]]
         ZanDicObj::show_SharedProbe();
-    const int at = _STORE->Find(name);
-    if (at == kNone || found == nullptr) return E_FAIL;
-    *found = _STORE->At(at).object;
+    return _STORE->FindObject(name);
+}
+
+HRESULT ZanHashList::Search(const ZELString& name, ZanDicObj** found) const {
+    ZanDicObj* const object = find(name);
+    if (object == nullptr || found == nullptr) return E_FAIL;
+    *found = object;
     return S_OK;
 }
 

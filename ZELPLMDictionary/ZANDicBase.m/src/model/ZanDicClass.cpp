@@ -189,13 +189,14 @@ HRESULT ZanDicClass::GetClassElement(const ZELString* name, OXMIDicElement** att
 }
 
 HRESULT ZanDicClass::GetElement(const ZELString* name, OXMIDicElement** attribute) const {
+    if (name == nullptr || attribute == nullptr) return E_FAIL;
     HRESULT rc = E_FAIL;
-    if (name == nullptr || attribute == nullptr) return rc;
     const std::uintptr_t members =
         reinterpret_cast<std::uintptr_t>(&_ATTRIBUTES) - reinterpret_cast<std::uintptr_t>(this);
-    for (const ZanDicClass* owner = this; owner != nullptr && rc != S_OK; owner = owner->_SuperClass.Get()) {
+    for (const ZanDicClass* owner = this; owner != nullptr; owner = owner->_SuperClass.Get()) {
         owner->_SuperClass.PrefetchObject(members);  // for the next step
         rc = FindInterface(owner->_ATTRIBUTES, name, attribute);
+        if (rc == S_OK) return rc;
     }
     return rc;
 }

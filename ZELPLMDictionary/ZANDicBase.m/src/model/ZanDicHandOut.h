@@ -36,9 +36,9 @@ HRESULT AppendInterfaces(const ZanHashList& objects, ZELListPtrIUnknown* list);
 /// \returns the query's result; E_FAIL when there is none, or for null.
 template <class Interface>
 HRESULT FindInterface(const ZanHashList& objects, const ZELString* name, Interface** out) {
-    ZanDicObj* object = nullptr;
-    if (name == nullptr || out == nullptr || Failed(objects.Search(*name, &object))) return E_FAIL;
-    return HandOutOwn(*object, out);
+    if (name == nullptr || out == nullptr) return E_FAIL;
+    const ZanDicObj* const object = objects.find(*name);
+    return object != nullptr ? HandOutOwn(*object, out) : E_FAIL;
 }
 
 #endif
