@@ -173,6 +173,23 @@ TEST_F(ZanHashListTest, SearchLeavesItsOutputUntouchedOnAMissAndTracesNothing) {
     EXPECT_EQ(Written(), "");
 }
 
+TEST_F(ZanHashListTest, SearchNeedsSomewhereToPutTheObject) {
+    list.Append(&part);
+
+    EXPECT_EQ(list.Search("Part", nullptr), E_FAIL);
+}
+
+TEST_F(ZanHashListTest, NothingIsFoundInAListOfAnyKindThatIsEmpty) {
+    for (const ZanHashListKind kind :
+         {ZanHashListKind::Links, ZanHashListKind::Owner, ZanHashListKind::Unnamed}) {
+        const ZanHashList empty(29, kind);
+        ZanDicObj* found = nullptr;
+
+        EXPECT_EQ(empty.Search("Part", &found), E_FAIL);
+        EXPECT_EQ(found, nullptr);
+    }
+}
+
 TEST_F(ZanHashListTest, RemoveTakesTheObjectOut) {
     list.Append(&part);
     list.Append(&document);
