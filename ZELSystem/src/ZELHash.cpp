@@ -17,12 +17,6 @@ std::uint64_t Spread(std::uint64_t word) noexcept {
     return word ^ (word >> 31);
 }
 
-/// Apart, so that the usual case has nothing to keep across a call.
-[[gnu::cold, gnu::noinline]] std::uint32_t DrawAndHash(std::string_view text) noexcept {
-    ZELDrawHashSeed();
-    return ZELHashText(text);
-}
-
 template <class Word>
 std::uint64_t Load(const char* bytes) noexcept {
     Word word;
@@ -30,25 +24,8 @@ std::uint64_t Load(const char* bytes) noexcept {
     return word;
 }
 
-}  // namespace
-
-void ZELSetHashSeed(std::uint32_t seed) noexcept {
-    zelHashState = {Spread(seed), Spread(Spread(seed) ^ seed), seed, true};
-}
-
-void ZELDrawHashSeed() noexcept {
-    std::uint32_t seed = 0;
-    if (getrandom(&seed, sizeof seed, GRND_NONBLOCK) != sizeof seed) {
-        // Too early after the machine's start for good numbers: an address and the time must do.
-        const auto address = reinterpret_cast<std::uintptr_t>(&seed);
-        seed = static_cast<std::uint32_t>(Spread(address ^ static_cast<std::uint64_t>(std::time(nullptr))));
-    }
-    ZELSetHashSeed(seed);
-}
-
-std::uint32_t ZELHashText(std::string_view text) noexcept {
-    if (!zelHashState.drawn) [[unlikely]]
-        return DrawAndHash(text);
+/// \returns the key of \p text once the seed is drawn.
+inline std::uint32_t HashDrawn(std::string_view text) noexcept {
     const std::uint64_t first = zelHashState.first;
     const std::uint64_t second = zelHashState.second;
     const char* bytes = text.data();
@@ -72,4 +49,32 @@ std::uint32_t ZELHashText(std::string_view text) noexcept {
                static_cast<unsigned char>(bytes[left - 1]);
     }
     return ZELHashFinish(ZELHashFold(ZELHashFold(low ^ second, high ^ hash) ^ first, second));
+}
+
+/// The same for the first text of a process: apart, so that the usual case has nothing to keep across a call.
+[[gnu::cold, gnu::noinline]] std::uint32_t DrawAndHash(std::string_view text) noexcept {
+    ZELDrawHashSeed();
+    return HashDrawn(text);
+}
+
+}  // namespace
+
+void ZELSetHashSeed(std::uint32_t seed) noexcept {
+    zelHashState = {Spread(seed), Spread(Spread(seed) ^ seed), seed, true};
+}
+
+void ZELDrawHashSeed() noexcept {
+    std::uint32_t seed = 0;
+    if (getrandom(&seed, sizeof seed, GRND_NONBLOCK) != sizeof seed) {
+        // Too early after the machine's start for good numbers: an address and the time must do.
+        const auto address = reinterpret_cast<std::uintptr_t>(&seed);
+        seed = static_cast<std::uint32_t>(Spread(address ^ static_cast<std::uint64_t>(std::time(nullptr))));
+    }
+    ZELSetHashSeed(seed);
+}
+
+std::uint32_t ZELHashText(std::string_view text) noexcept {
+    if (!zelHashState.drawn) [[unlikely]]
+        return DrawAndHash(text);
+    return HashDrawn(text);
 }
