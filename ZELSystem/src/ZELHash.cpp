@@ -24,7 +24,7 @@ std::uint64_t Load(const char* bytes) noexcept {
     return word;
 }
 
-/// \returns the key of \p text once the seed is drawn.
+/// What ZELHashText gives; the process must have its number already.
 inline std::uint32_t HashDrawn(std::string_view text) noexcept {
     const std::uint64_t first = zelHashState.first;
     const std::uint64_t second = zelHashState.second;

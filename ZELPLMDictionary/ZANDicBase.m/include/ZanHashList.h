@@ -61,7 +61,7 @@ public:
     /// since does not count.
     int LostCount() const;
 
-    // What follows is for the library itself. All but append_New write nothing.
+    // What follows is for the library itself. All but find and append_New write nothing.
 
     /// \returns the object that was appended under \p name; null when there is none.
     ZanDicObj* find(const ZELString& name) const;
